@@ -1,0 +1,10 @@
+# Fails when a .cpp file under src/ or tests/ belongs to no target: it would never be compiled, and
+# a test in it never run. The tool in tests/package/ has its own build.
+file(STRINGS ${LISTED} listed)
+file(GLOB_RECURSE found ${ROOT}/src/*.cpp ${ROOT}/tests/*.cpp)
+list(FILTER found EXCLUDE REGEX "/tests/package/")
+list(REMOVE_ITEM found ${listed})
+if(found)
+    list(JOIN found "\n  " found)
+    message(FATAL_ERROR "In no list of CMakeLists.txt or tests/CMakeLists.txt:\n  ${found}")
+endif()

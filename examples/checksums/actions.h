@@ -1,0 +1,22 @@
+// What the tool does. Each action writes its results and says how it went; those that need a
+// manifest throw FileError when they have none.
+
+#ifndef ZARN_CHECKSUMS_ACTIONS_H
+#define ZARN_CHECKSUMS_ACTIONS_H
+
+#include <zarn/zarn.h>
+
+#include "command_line.h"
+#include "console.h"
+#include "exit_code.h"
+
+namespace checksums {
+
+ExitCode createManifest(const Command& command, const Results& results);
+ExitCode verifyManifest(const Command& command, const Results& results);
+ExitCode compareManifests(const Command& command, const Results& results);
+ExitCode showHelp(const Command& command, zarn::IParser& parser);
+
+}  // namespace checksums
+
+#endif  // ZARN_CHECKSUMS_ACTIONS_H

@@ -1,0 +1,45 @@
+#include "log/zarn_log.h"
+
+#include "platform/console.h"
+
+namespace zarn_3_3::internal {
+
+std::atomic<bool> zarnLogEnabled{false};
+
+ZarnLog::~ZarnLog() {
+    stream.reset();  // before the buffer that it writes to
+    buffer.reset();
+}
+
+std::ostream& ZarnLog::discardingStream() {
+    if (stream == nullptr) {
+        buffer = std::make_unique<basic_nullbuf<char>>();
+        stream = std::make_unique<std::ostream>(buffer.get());
+    }
+    return *stream;
+}
+
+std::ostream& zarnLog() {
+    static ZarnLog log;
+    return zarnLogEnabled.load(std::memory_order_relaxed) ? TROV_2_18::strings::pl2::ucout
+                                                          : log.discardingStream();
+}
+
+bool switchLog(std::string_view firstArgument) noexcept {
+    const bool on = firstArgument == "zarnoption=zarnlogenable=1";
+    zarnLogEnabled.store(on, std::memory_order_relaxed);
+    return on;
+}
+
+void switchLogOff() noexcept { zarnLogEnabled.store(false, std::memory_order_relaxed); }
+
+// The state of the stream is not looked at: a log that cannot be written never changes a parse.
+void writeTraceLine(std::initializer_list<std::string_view> pieces) {
+    std::ostream& log = zarnLog();
+    for (const std::string_view piece : pieces) {
+        log << piece;
+    }
+    log << std::endl;
+}
+
+}  // namespace zarn_3_3::internal

@@ -1,0 +1,37 @@
+// Keeps alive the texts that are handed out as plain character pointers.
+
+#ifndef ZARN_OPTIONS_GARBAGE_H
+#define ZARN_OPTIONS_GARBAGE_H
+
+#include <string_view>
+#include <vector>
+
+#include "options/text_arena.h"
+#include "options/text_table.h"
+
+namespace zarn_3_3 {
+
+// One copy of every text that ever went through it, for as long as the keeper lives: that is the
+// whole lifetime rule of the pointers that a parser returns.
+class Garbage final {
+public:
+    Garbage() = default;
+    Garbage(const Garbage&) = delete;  // the pointers handed out belong to this object
+    Garbage& operator=(const Garbage&) = delete;
+
+    // The kept copy of `text`: equal texts give the same pointer, null gives an empty text.
+    // Throws std::bad_alloc; the keeper is then unchanged.
+    virtual const char* init(const char* text);
+
+    // The same for a text whose length is known.
+    const char* keep(std::string_view text);
+
+private:
+    std::vector<std::string_view> texts;
+    internal::TextTable table;
+    internal::TextArena arena;
+};
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_OPTIONS_GARBAGE_H

@@ -1,0 +1,41 @@
+// Numbers from texts and back, as streams of the global locale read and write them.
+
+#ifndef ZARN_OPTIONS_NUMBER_TEXT_H
+#define ZARN_OPTIONS_NUMBER_TEXT_H
+
+#include <optional>
+#include <string>
+
+namespace zarn_3_3::internal {
+
+enum class Trailing {
+    refused,  // only white space may follow the number
+    ignored,
+};
+
+// The number in `text`, in the default form of formatted extraction: leading white space skipped,
+// decimal, booleans as 0 and 1. None when there is no number, when it does not fit, or when
+// something but white space follows it and that is refused.
+//
+// T is bool, int, unsigned, long long, unsigned long long or double. Throws std::bad_alloc.
+template <typename T>
+std::optional<T> numberFromText(const std::string& text, Trailing trailing);
+
+// The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
+std::optional<unsigned long long> hexadecimalFromText(const std::string& text);
+
+// The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
+// Throws std::bad_alloc.
+template <typename T>
+std::string textFromNumber(T number);
+
+// The same by a stream, in whatever locale: what the others must agree with, and what they call
+// where the global locale is not the classic one.
+template <typename T>
+std::optional<T> numberFromStream(const std::string& text, Trailing trailing, bool hexadecimal);
+template <typename T>
+std::string textFromStream(T number);
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_OPTIONS_NUMBER_TEXT_H

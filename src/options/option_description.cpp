@@ -1,0 +1,78 @@
+#include "options/option_description.h"
+
+#include <exception>
+
+namespace zarn_3_3 {
+namespace {
+
+// A setting that cannot be made, for want of memory, leaves the item as it was.
+template <typename Setting>
+void makeOrLeave(Setting setting) noexcept {
+    try {
+        setting();
+    } catch (const std::exception&) {
+    }
+}
+
+}  // namespace
+
+IOption& OptionDescription::synonym(const char* name) {
+    if (name != nullptr) {
+        makeOrLeave([&] { names.emplace_back(name); });
+    }
+    return *this;
+}
+
+IOption& OptionDescription::allowValue(const variant_t& value) {
+    makeOrLeave([&] {
+        allowedValues.push_back(value);
+        if (tokenizer == 0) {
+            tokenizer = ',';
+        }
+    });
+    return *this;
+}
+
+IOption& OptionDescription::allowDeprecatedValue(const variant_t& deprecated,
+                                                 const variant_t& replacement) {
+    makeOrLeave([&] { deprecatedValues.emplace(deprecated, replacement); });
+    return *this;
+}
+
+IOption& OptionDescription::defaultValue(const variant_t& value) {
+    defaultVal = value;
+    hasDefault = true;
+    return *this;
+}
+
+IOption& OptionDescription::tokenize(char separator) {
+    tokenizer = separator;
+    return *this;
+}
+
+IOption& OptionDescription::positional() {
+    isPositional = true;
+    return *this;
+}
+
+IOption& OptionDescription::tag(const char* tagList) {
+    if (tagList != nullptr) {
+        makeOrLeave([&] {
+            std::set<std::string> added;
+            split(tagList, added);
+            tags.merge(added);
+        });
+    }
+    return *this;
+}
+
+bool OptionDescription::operator<(const OptionDescription& other) const {
+    return primaryName() < other.primaryName();
+}
+
+const std::string& OptionDescription::primaryName() const {
+    static const std::string unnamed;
+    return names.empty() ? unnamed : names.front();
+}
+
+}  // namespace zarn_3_3

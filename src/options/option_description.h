@@ -1,0 +1,77 @@
+// One declared action, option or modifier.
+
+#ifndef ZARN_OPTIONS_OPTION_DESCRIPTION_H
+#define ZARN_OPTIONS_OPTION_DESCRIPTION_H
+
+#include <cstddef>
+#include <map>
+#include <set>
+#include <string>
+#include <type_traits>
+#include <vector>
+
+#include "recognizers/token_helpers.h"
+#include "zarn/option.h"
+
+namespace zarn_3_3 {
+
+enum ItemKind : int {
+    kindAction = 0,
+    kindOption = 1,  // a modifier too: that is told by its tags
+    kindSink = 2,
+};
+
+// The item behind an IOption, read directly by everything that works with the vocabulary.
+//
+// It has no copy operation or destructor of its own, so that it is moved when the registry grows.
+class OptionDescription final : public IOption {
+public:
+    result_t result = resultSuccess;
+    std::vector<std::string> names;  // the primary name first; without dashes
+    std::set<std::string> tags;      // what ties modifiers to actions
+    std::size_t section = 0;         // index of its pair in the registry's sections
+    std::string description;
+    bool isPositional = false;
+    bool hasDefault = false;
+    ItemKind kind = kindSink;
+    char tokenizer = ',';  // 0: values are never cut
+    das_variant_type_t type = vtNull;
+    variant_t defaultVal;
+    std::vector<variant_t> allowedValues;
+    std::map<variant_t, variant_t> deprecatedValues;  // to their replacements
+
+    IOption& synonym(const char* name) override;
+    IOption& allowValue(const variant_t& value) override;
+    IOption& allowDeprecatedValue(const variant_t& deprecated,
+                                  const variant_t& replacement) override;
+    IOption& defaultValue(const variant_t& value) override;
+    IOption& tokenize(char separator) override;
+    IOption& positional() override;
+    IOption& tag(const char* tagList) override;
+
+    // By primary name, byte-wise: the order of the help.
+    bool operator<(const OptionDescription& other) const;
+
+    // The primary name; empty for an item without names.
+    const std::string& primaryName() const;
+
+    // Whether `text` is a value of the item: converts it into `converted`, checks it against the
+    // allowed values and completes an abbreviated one in `text`. On false `error` says why, and
+    // `text` is as it was. Warns of a deprecated value on the error stream.
+    bool validate(std::string& text, variant_t& converted, std::string& error) const;
+
+    // `text` as a value of the declared type; vtNull when it is none.
+    variant_t fromString(const std::string& text) const;
+
+    // The text of `value`, read as the declared type.
+    std::string toString(const variant_t& value) const;
+
+    std::string getTypeName() const;
+    std::string getDefaultValueAsText() const;
+};
+
+static_assert(std::is_nothrow_move_constructible_v<OptionDescription>);
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_OPTIONS_OPTION_DESCRIPTION_H

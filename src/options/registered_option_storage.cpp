@@ -1,0 +1,169 @@
+#include "options/registered_option_storage.h"
+
+#include <algorithm>
+#include <exception>
+
+#include "log/zarn_log.h"
+#include "options/messages.h"
+
+namespace zarn_3_3 {
+namespace {
+
+const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
+
+// Grows as push_back would, so that the push_back that follows cannot fail.
+template <typename Element>
+void makeRoomForOne(std::vector<Element>& elements) {
+    if (elements.size() == elements.capacity()) {
+        elements.reserve(std::max<std::size_t>(8, 2 * elements.capacity()));
+    }
+}
+
+}  // namespace
+
+IOption& RegisteredOptionStorage::option(const char* names,
+                                         const char* actionNames,
+                                         const char* description,
+                                         bool isAction,
+                                         das_variant_type_t type,
+                                         const char* section) {
+    try {
+        return declare(
+            orEmpty(names), actionNames, orEmpty(description), isAction, type, orEmpty(section));
+    } catch (const std::exception&) {
+        return refused();
+    }
+}
+
+IOption& RegisteredOptionStorage::action(const char* names,
+                                         const char* description,
+                                         das_variant_type_t type,
+                                         const char* section) {
+    return option(names, nullptr, description, true, type, section);
+}
+
+IOption& RegisteredOptionStorage::modifier(const char* names,
+                                           const char* actionNames,
+                                           const char* description,
+                                           das_variant_type_t type,
+                                           const char* section) {
+    return option(names, actionNames, description, false, type, section);
+}
+
+IOption& RegisteredOptionStorage::declare(const char* names,
+                                          const char* actionNames,
+                                          const char* description,
+                                          bool isAction,
+                                          das_variant_type_t type,
+                                          const char* section) {
+    OptionDescription item;
+    item.section = findOrAddSection(section);
+    split(names, item.names);
+    std::size_t taken = 0;
+    if (validateName(item.names) != resultSuccess) {
+        return refused();
+    }
+    if (findOption(item.names, taken, *this) == resultSuccess) {
+        internal::trace(internal::messages::nameIsTaken, names);
+        return refused();
+    }
+    item.description = description;
+    item.kind = isAction ? kindAction : kindOption;
+    item.type = type;
+    item.tokenizer = separator;
+    if (actionNames != nullptr) {
+        split(actionNames, item.tags);
+    }
+    if (isAction) {
+        split(names, item.tags);
+    }
+    makeRoomForOne(options);
+    options.push_back(std::move(item));
+    actionCount += isAction ? 1 : 0;
+    return options.back();
+}
+
+std::size_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
+    const std::size_t colon = section.find(':');
+    const std::string key(section.substr(0, colon));
+    const auto known = sectionByKey.find(key);
+    if (known != sectionByKey.end()) {
+        return known->second;
+    }
+    makeRoomForOne(sections);
+    std::pair<std::string, std::string> pair{key, {}};
+    if (colon != std::string_view::npos) {
+        pair.second = section.substr(colon + 1);
+    }
+    sectionByKey.emplace(key, sections.size());
+    sections.push_back(std::move(pair));
+    return sections.size() - 1;
+}
+
+// What clients chain onto a refused declaration must not pile up.
+IOption& RegisteredOptionStorage::refused() noexcept {
+    sink = OptionDescription();
+    sink.result = resultFailure;
+    return sink;
+}
+
+bool RegisteredOptionStorage::isDeclared(std::string_view name,
+                                         bool isAction,
+                                         const char* section) const {
+    const auto isWanted = [&](const OptionDescription& item) {
+        return (item.kind == kindAction) == isAction &&
+               (section == nullptr || sectionKey(item) == section) &&
+               std::find(item.names.begin(), item.names.end(), name) != item.names.end();
+    };
+    // Nearly always the first item with the name is the only one; synonyms can give it to more.
+    const std::size_t first = names().firstNamed(name, options);
+    return first != internal::NameIndex::none &&
+           std::any_of(
+               options.begin() + static_cast<std::ptrdiff_t>(first), options.end(), isWanted);
+}
+
+std::size_t RegisteredOptionStorage::firstPositional() const {
+    // The item declared last may still become positional, so it is looked at again.
+    for (std::size_t i = searchedForPositional; i < options.size(); ++i) {
+        if (options[i].isPositional) {
+            return i;
+        }
+        searchedForPositional = i;
+    }
+    return internal::NameIndex::none;
+}
+
+const internal::NameIndex& RegisteredOptionStorage::names() const {
+    index.catchUp(options);
+    return index;
+}
+
+result_t validateName(const std::vector<std::string>& names) {
+    constexpr std::size_t mostNames = 3;
+    constexpr std::size_t longestThirdName = 2;
+    const bool isRefused = names.size() > mostNames ||
+                           (names.size() == mostNames && names[2].size() > longestThirdName);
+    return isRefused ? resultFailure : resultSuccess;
+}
+
+result_t findOption(std::string_view name,
+                    std::size_t& index,
+                    const RegisteredOptionStorage& registry) {
+    const std::size_t found = registry.names().first(name, registry.items());
+    if (found == internal::NameIndex::none) {
+        return resultFailure;
+    }
+    index = found;
+    return resultSuccess;
+}
+
+result_t findOption(const std::vector<std::string>& names,
+                    std::size_t& index,
+                    const RegisteredOptionStorage& registry) {
+    const bool isFound = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
+        return findOption(name, index, registry) == resultSuccess;
+    });
+    return isFound ? resultSuccess : resultFailure;
+}
+
+}  // namespace zarn_3_3

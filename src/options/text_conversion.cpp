@@ -1,0 +1,165 @@
+// Values from texts and back, by the declared type of an item.
+
+#include <cstddef>
+#include <string>
+#include <utility>
+
+#include "options/number_text.h"
+#include "options/option_description.h"
+
+namespace zarn_3_3 {
+namespace {
+
+using namespace internal;
+
+constexpr const char* hexadecimalDigits = "1234567890ABCDEFabcdef";
+
+bool isHexadecimal(const std::string& text) {
+    const auto areDigits = [&text](std::size_t from, std::size_t to) {
+        return text.find_first_not_of(hexadecimalDigits, from) >= to;
+    };
+    // An empty text has no last character and ends here with the standard out-of-range error.
+    const std::string last = text.substr(text.size() - 1);
+    const std::string first = text.substr(0, 2);
+    return ((first == "0x" || first == "0X") && areDigits(2, text.size())) ||
+           ((last == "h" || last == "H") && areDigits(0, text.size() - 1));
+}
+
+// Reads a text as the type that execute is called with.
+struct OperationFromString {
+    const std::string& text;
+    variant_t result;
+
+    template <typename T>
+    void execute() {
+        if (const auto number = numberFromText<T>(text, Trailing::refused)) {
+            result = *number;
+        }
+    }
+};
+
+// Lenient on purpose: what follows the number is not looked at.
+template <>
+void OperationFromString::execute<unsigned long long>() {
+    const auto number = isHexadecimal(text)
+                            ? hexadecimalFromText(text)
+                            : numberFromText<unsigned long long>(text, Trailing::ignored);
+    if (number) {
+        result = *number;
+    }
+}
+
+template <>
+void OperationFromString::execute<const char*>() {
+    result = variant_t(text);
+}
+
+// Writes a value read as the type that execute is called with, whatever its own kind.
+struct OperationToString {
+    const variant_t& value;
+    std::string result;
+
+    template <typename T>
+    void execute() {
+        result = textFromNumber(value.get<T>());
+    }
+};
+
+template <>
+void OperationToString::execute<bool>() {
+    result = value.get<bool>() ? "1" : "0";
+}
+
+template <>
+void OperationToString::execute<const char*>() {
+    result = value.get<const char*>();
+}
+
+struct OperatorGetTypeName {
+    const char* result = "";
+
+    template <typename T>
+    void execute();
+};
+
+template <>
+void OperatorGetTypeName::execute<bool>() {
+    result = "undefined";  // tools show it so
+}
+
+template <>
+void OperatorGetTypeName::execute<int>() {
+    result = "integer";
+}
+
+template <>
+void OperatorGetTypeName::execute<unsigned>() {
+    result = "unsigned integer";
+}
+
+template <>
+void OperatorGetTypeName::execute<long long>() {
+    result = "64 bit integer";
+}
+
+template <>
+void OperatorGetTypeName::execute<unsigned long long>() {
+    result = "unsigned 64 bit or hex";
+}
+
+template <>
+void OperatorGetTypeName::execute<double>() {
+    result = "double";
+}
+
+template <>
+void OperatorGetTypeName::execute<const char*>() {
+    result = "string";
+}
+
+// Calls operation.execute with the native type of a declared code; other codes have none.
+template <typename Operation>
+void executeAs(das_variant_type_t type, Operation& operation) {
+    switch (type) {
+        case vtBool:
+            return operation.template execute<bool>();
+        case vtS32:
+            return operation.template execute<int>();
+        case vtU32:
+            return operation.template execute<unsigned>();
+        case vtS64:
+            return operation.template execute<long long>();
+        case vtU64:
+            return operation.template execute<unsigned long long>();
+        case vtDouble:
+            return operation.template execute<double>();
+        case vtString:
+            return operation.template execute<const char*>();
+        default:
+            return;
+    }
+}
+
+}  // namespace
+
+variant_t OptionDescription::fromString(const std::string& text) const {
+    OperationFromString operation{text, {}};
+    executeAs(type, operation);
+    return std::move(operation.result);
+}
+
+std::string OptionDescription::toString(const variant_t& value) const {
+    OperationToString operation{value, {}};
+    executeAs(type, operation);
+    return std::move(operation.result);
+}
+
+std::string OptionDescription::getTypeName() const {
+    OperatorGetTypeName operation;
+    executeAs(type, operation);
+    return operation.result;
+}
+
+std::string OptionDescription::getDefaultValueAsText() const { return toString(defaultVal); }
+
+}  // namespace zarn_3_3

@@ -1,0 +1,101 @@
+// How a value is checked against the type and the allowed values of its item.
+
+#include <algorithm>
+#include <ostream>
+#include <string>
+
+#include "options/messages.h"
+#include "options/option_description.h"
+#include "platform/console.h"
+
+namespace zarn_3_3 {
+namespace {
+
+using namespace internal;
+
+// Calls visit(value) for everything that the item accepts: the allowed values as declared, then the
+// deprecated ones in their order. Stops, and answers true, when a visit does.
+template <typename Visit>
+bool visitAccepted(const OptionDescription& option, Visit visit) {
+    return std::any_of(option.allowedValues.begin(), option.allowedValues.end(), visit) ||
+           std::any_of(option.deprecatedValues.begin(),
+                       option.deprecatedValues.end(),
+                       [&visit](const auto& deprecated) { return visit(deprecated.first); });
+}
+
+// Only the allowed values: nobody is pointed to a deprecated one.
+std::string allowedValueList(const OptionDescription& option) {
+    std::string list;
+    for (const variant_t& allowed : option.allowedValues) {
+        list += list.empty() ? "'" : ", '";
+        list += option.toString(allowed) + "'";
+    }
+    return list;
+}
+
+struct Abbreviated {
+    int matches = 0;
+    std::string match;  // the last one
+};
+
+Abbreviated findAbbreviated(const OptionDescription& option, const std::string& text) {
+    Abbreviated found;
+    visitAccepted(option, [&](const variant_t& candidate) {
+        const std::string full = plinth2::get_variant_value(candidate, "");
+        if (full.compare(0, text.size(), text) == 0) {
+            ++found.matches;
+            found.match = full;
+        }
+        return false;
+    });
+    return found;
+}
+
+void warnIfDeprecated(const OptionDescription& option, const std::string& text) {
+    if (option.deprecatedValues.empty()) {
+        return;
+    }
+    const auto deprecated = option.deprecatedValues.find(option.fromString(text));
+    if (deprecated == option.deprecatedValues.end()) {
+        return;
+    }
+    const char* replacement = plinth2::get_variant_value(deprecated->second, "");
+    // One piece, so that the line stays whole.
+    TROV_2_18::strings::pl2::ucerr
+        << messages::valueIsDeprecated(option.primaryName(), text, replacement) + "\n"
+        << std::flush;
+}
+
+}  // namespace
+
+bool OptionDescription::validate(std::string& text,
+                                 variant_t& converted,
+                                 std::string& error) const {
+    converted = fromString(text);
+    if (converted.type() == vtNull) {
+        error = messages::notOfItsType(primaryName(), text, getTypeName());
+        return false;
+    }
+    if (allowedValues.empty()) {
+        return true;
+    }
+    if (visitAccepted(*this, [&](const variant_t& value) { return value == converted; })) {
+        warnIfDeprecated(*this, text);
+        return true;
+    }
+    const Abbreviated found = type == vtString ? findAbbreviated(*this, text) : Abbreviated{};
+    if (found.matches == 0) {
+        error = messages::valueNotAllowed(primaryName(), text, allowedValueList(*this));
+        return false;
+    }
+    if (found.matches > 1) {
+        error = messages::ambiguousValue(primaryName(), allowedValueList(*this));
+        return false;
+    }
+    converted = variant_t(found.match);
+    warnIfDeprecated(*this, found.match);
+    text = found.match;
+    return true;
+}
+
+}  // namespace zarn_3_3

@@ -1,0 +1,147 @@
+#include "parser/action_rules.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+#include <set>
+#include <vector>
+
+#include "options/action_modifiers.h"
+#include "options/registered_option_storage.h"
+#include "parser/action_groups.h"
+#include "parser/messages.h"
+#include "result/parse_result.h"
+#include "zarn/parser.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+// A name in the result with the item that it belongs to.
+struct GivenItem {
+    const StoredOption* entry;
+    const OptionDescription* item;
+};
+
+// Every entry of the result. The order of the names decides which broken rule is reported; without
+// actions no rule can be broken and they stay as they are.
+std::vector<GivenItem> entriesToCheck(const RegisteredOptionStorage& registry,
+                                      const ParseResult& result) {
+    std::vector<GivenItem> given;
+    given.reserve(result.entries().size());
+    for (const StoredOption& entry : result.entries()) {
+        given.push_back({&entry, nullptr});
+    }
+    if (registry.hasActions()) {
+        std::sort(given.begin(), given.end(), [](const GivenItem& a, const GivenItem& b) {
+            return a.entry->name < b.entry->name;
+        });
+    }
+    return given;
+}
+
+class ActionCheck {
+public:
+    ActionCheck(const RegisteredOptionStorage& theRegistry,
+                const ActionGroups& allowedGroups,
+                std::string& errorText)
+        : registry(theRegistry), groups(allowedGroups), error(errorText) {}
+
+    int check(const ParseResult& result) {
+        std::vector<GivenItem> given = entriesToCheck(registry, result);
+        for (GivenItem& one : given) {
+            const int code = take(one);
+            if (code != resultOk) {
+                return code;
+            }
+        }
+        if (firstAction != nullptr) {
+            return checkModifiers(given);
+        }
+        if (registry.hasActions() && isOptionSeen) {
+            return refuse(messages::noAction);
+        }
+        return resultOk;
+    }
+
+private:
+    int refuse(const std::string& message) {
+        error = message;
+        return resultRuleBroken;
+    }
+
+    int take(GivenItem& given) {
+        std::size_t index = 0;
+        const result_t found = findOption(given.entry->name, index, registry);
+        if (found != resultSuccess) {
+            return found;
+        }
+        given.item = &registry.items()[index];
+        if (given.item->kind != kindAction) {
+            isOptionSeen = true;
+            return resultOk;
+        }
+        return takeAction(*given.item);
+    }
+
+    int takeAction(const OptionDescription& action) {
+        const bool isFirst = firstAction == nullptr;
+        if (isFirst) {
+            firstAction = &action;
+        }
+        if (actions.insert(action.primaryName()).second) {
+            narrowGroups(action.primaryName(), isFirst);
+        }
+        if (&action != firstAction && commonGroups.empty()) {
+            return refuse(
+                messages::actionsExclude(action.primaryName(), firstAction->primaryName()));
+        }
+        return resultOk;
+    }
+
+    void narrowGroups(const std::string& action, bool isFirst) {
+        const std::vector<std::size_t>& holding = groups.holding(action);
+        if (isFirst) {
+            commonGroups = holding;
+            return;
+        }
+        std::vector<std::size_t> stillCommon;
+        std::set_intersection(commonGroups.begin(),
+                              commonGroups.end(),
+                              holding.begin(),
+                              holding.end(),
+                              std::back_inserter(stillCommon));
+        commonGroups.swap(stillCommon);
+    }
+
+    // Any tag makes an option a modifier; one that has only its default is never refused.
+    int checkModifiers(const std::vector<GivenItem>& given) {
+        for (const GivenItem& one : given) {
+            const OptionDescription& item = *one.item;
+            if (item.kind != kindAction && !item.tags.empty() && !one.entry->positions.empty() &&
+                !isIntersected(item.tags, actions)) {
+                return refuse(
+                    messages::actionRefusesOption(firstAction->primaryName(), item.primaryName()));
+            }
+        }
+        return resultOk;
+    }
+
+    const RegisteredOptionStorage& registry;
+    const ActionGroups& groups;
+    std::string& error;
+    const OptionDescription* firstAction = nullptr;
+    bool isOptionSeen = false;
+    std::set<std::string> actions;          // the primary names of those given
+    std::vector<std::size_t> commonGroups;  // that hold all of them
+};
+
+}  // namespace
+
+int checkActionRules(const RegisteredOptionStorage& registry,
+                     const ActionGroups& groups,
+                     const ParseResult& result,
+                     std::string& error) {
+    return ActionCheck(registry, groups, error).check(result);
+}
+
+}  // namespace zarn_3_3::internal

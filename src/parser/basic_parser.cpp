@@ -1,0 +1,264 @@
+#include "parser/basic_parser.h"
+
+#include <cstddef>
+#include <memory>
+#include <stdexcept>
+
+#include "parser/action_rules.h"
+#include "parser/argument_sources.h"
+#include "parser/guarded.h"
+#include "parser/option_file_walk.h"
+#include "parser/parse_driver.h"
+#include "result/parse_result.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+template <typename Made>
+void requireOut(Made** out) {
+    if (out == nullptr) {
+        throw std::invalid_argument("The pointer to store the object through is null");
+    }
+}
+
+// Throws std::bad_cast for a result of somebody else's making.
+ParseResult& ownResult(IParseResult* result) {
+    if (result == nullptr) {
+        throw std::invalid_argument("The result is null");
+    }
+    return dynamic_cast<ParseResult&>(*result);
+}
+
+// Removes what was taken from a vector however the taking ends.
+class TakenArguments {
+public:
+    TakenArguments(std::vector<std::string>& all,
+                   const VectorSource& reader,
+                   const std::vector<std::string>& lookahead)
+        : arguments(all), source(reader), notYetTaken(lookahead) {}
+    TakenArguments(const TakenArguments&) = delete;
+    TakenArguments& operator=(const TakenArguments&) = delete;
+    ~TakenArguments() {
+        const std::size_t count = source.taken() - notYetTaken.size();
+        arguments.erase(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(count));
+    }
+
+private:
+    std::vector<std::string>& arguments;
+    const VectorSource& source;
+    const std::vector<std::string>& notYetTaken;
+};
+
+}  // namespace
+
+int createParser(IParser** out, int flags) {
+    std::string discarded;
+    return guarded(discarded, [&] {
+        requireOut(out);
+        *out = new BasicParser(flags);
+        return resultOk;
+    });
+}
+
+BasicParser::BasicParser(int creationFlags) : flags(creationFlags) {
+    if ((flags & flagValuesStayWhole) != 0) {
+        registry.setSeparator(0);
+    }
+}
+
+// The texts that handlers hear are kept, so that they may store the pointers.
+
+bool BasicParser::onOptionParse(const char* name) {
+    if (!handlers.isEmpty()) {
+        const char* const kept = garbage.init(name);
+        handlers.visitWhile([&](EventHandler& handler) {
+            handler.onOptionParse(kept);
+            return true;
+        });
+    }
+    return true;
+}
+
+bool BasicParser::onValueParse(const char* name, const Value& value) {
+    bool isValid = true;
+    if (!handlers.isEmpty()) {
+        const char* const kept = garbage.init(name);
+        handlers.visitWhile([&](EventHandler& handler) {
+            isValid = handler.onValueParse(kept, value);
+            return isValid;
+        });
+    }
+    return isValid;
+}
+
+bool BasicParser::onUknownArgument(const char* argument) {
+    bool isUnhandled = true;
+    if (!handlers.isEmpty()) {
+        const char* const kept = garbage.init(argument);
+        handlers.visitWhile([&](EventHandler& handler) {
+            isUnhandled = handler.onUknownArgument(kept) && isUnhandled;
+            return true;
+        });
+    }
+    return isUnhandled;
+}
+
+void BasicParser::destroy() { delete this; }
+
+int BasicParser::createResult(IParseResult** out) {
+    return guarded(lastError, [&] {
+        requireOut(out);
+        *out = new ParseResult;
+        return resultOk;
+    });
+}
+
+IOption& BasicParser::option(const char* names,
+                             const char* description,
+                             das_variant_type_t type,
+                             const char* section) {
+    return registry.option(names, nullptr, description, false, type, section);
+}
+
+IOption& BasicParser::action(const char* names,
+                             const char* description,
+                             das_variant_type_t type,
+                             const char* section) {
+    return registry.action(names, description, type, section);
+}
+
+IOption& BasicParser::modifier(const char* names,
+                               const char* actionNames,
+                               const char* description,
+                               das_variant_type_t type,
+                               const char* section) {
+    return registry.modifier(names, actionNames, description, type, section);
+}
+
+bool BasicParser::isOptionDeclared(const char* name, bool action, const char* section) {
+    return name != nullptr &&
+           guardedAnswer(false, [&] { return registry.isDeclared(name, action, section); });
+}
+
+int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
+    return guarded(lastError, [&] {
+        ParseResult& filled = ownResult(result);
+        filled.applyDefault(registry.items());
+        if (argc < 2) {
+            return static_cast<int>(resultOk);
+        }
+        CommandLineSource source(argc, argv);
+        return parseSource(source, filled);
+    });
+}
+
+int BasicParser::parseStream(const char* text, IParseResult* result) {
+    return guarded(lastError, [&] {
+        ParseResult& filled = ownResult(result);
+        TextSource source(text == nullptr ? "" : text);
+        return parseSource(source, filled);
+    });
+}
+
+const char* BasicParser::getErrorDesc() {
+    return guardedAnswer("", [&] { return garbage.keep(lastError); });
+}
+
+const char* BasicParser::getDescription(bool hidden) {
+    return guardedAnswer("", [&] { return help().vocabulary(hidden); });
+}
+
+const char* BasicParser::getDescription(const char* topic, bool hidden) {
+    return guardedAnswer("", [&] { return help().topic(topic, hidden); });
+}
+
+const char* BasicParser::getActionModifiersDescription(const char* action, bool hidden) {
+    return guardedAnswer("", [&] { return help().modifiersOf(action, hidden); });
+}
+
+const char* BasicParser::getGlobalModifiersDescription(bool hidden) {
+    return guardedAnswer("", [&] { return help().globalModifiers(hidden); });
+}
+
+bool BasicParser::addHandler(EventHandler* handler) {
+    if (handler == nullptr || handler == this) {
+        return false;
+    }
+    return guardedAnswer(false, [&] { return handlers.add(handler); });
+}
+
+bool BasicParser::removeHandler(EventHandler* handler) { return handlers.remove(handler); }
+
+bool BasicParser::addOptionFileOption(const char* description, const char* section) {
+    optionFileDeclared = true;
+    option(optionFileName, description, vtString, section);
+    return true;
+}
+
+bool BasicParser::allowSimultaneousActions(const std::set<std::string>& actions) {
+    return guardedAnswer(false, [&] {
+        allowedActionSets.add(actions);
+        return true;
+    });
+}
+
+int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* result) {
+    ParseResult& filled = ownResult(result);
+    const int code = parse_phase_one(endOfOptions, args, result, lastError);
+    if (code != resultOk) {
+        return code;
+    }
+    ParseDriver driver = driverFor(&filled, lastError);
+    VectorSource source(args);
+    std::vector<std::string> front;
+    return parseBehindOptions(driver, front, source, filled);
+}
+
+int BasicParser::parse_phase_one(const std::string& terminator,
+                                 std::vector<std::string>& args,
+                                 IParseResult* result,
+                                 std::string& error) {
+    ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
+    VectorSource source(args);
+    std::vector<std::string> front;
+    const TakenArguments taken(args, source, front);
+    return driverFor(filled, error).parseOptions(terminator, front, source);
+}
+
+int BasicParser::parse_phase_two(const std::string& /*terminator*/,
+                                 std::vector<std::string>& /*args*/,
+                                 IParseResult* result,
+                                 std::string& error) {
+    return checkActionRules(registry, allowedActionSets, ownResult(result), error);
+}
+
+int BasicParser::parseSource(ArgumentSource& source, ParseResult& result) {
+    ParseDriver driver = driverFor(&result, lastError);
+    std::vector<std::string> args;
+    const int code = driver.parseOptions(endOfOptions, args, source);
+    return code != resultOk ? code : parseBehindOptions(driver, args, source, result);
+}
+
+// What follows when the options of a command line are parsed: plain arguments, files, rules.
+int BasicParser::parseBehindOptions(ParseDriver& driver,
+                                    std::vector<std::string>& args,
+                                    ArgumentSource& source,
+                                    ParseResult& result) {
+    int code = driver.keepPlainArguments(endOfOptions, args, source);
+    if (code == resultOk && optionFileDeclared) {
+        code = OptionFileWalk(driver, result, lastError).run();
+    }
+    if (code == resultOk) {
+        code = checkActionRules(registry, allowedActionSets, result, lastError);
+    }
+    return code;
+}
+
+ParseDriver BasicParser::driverFor(ParseResult* result, std::string& error) {
+    return {registry, *this, !handlers.isEmpty(), flags, result, error};
+}
+
+}  // namespace zarn_3_3

@@ -1,0 +1,133 @@
+#include "parser/parse_driver.h"
+
+#include <cstddef>
+#include <utility>
+
+#include "log/zarn_log.h"
+#include "options/registered_option_storage.h"
+#include "parser/argument_sources.h"
+#include "parser/messages.h"
+#include "recognizers/abbreviation_parser.h"
+#include "recognizers/positional_options_parser.h"
+#include "result/parse_result.h"
+#include "zarn/event_handler.h"
+#include "zarn/parser.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+constexpr const char* logPrefix = "collectNonparsingArguments: ";
+
+void removeLogSwitch(std::vector<std::string>& args, ArgumentSource& source) {
+    switchLogOff();
+    source.fillUp(args);
+    if (!args.empty() && switchLog(args[0])) {
+        source.removeFront(args);
+    }
+}
+
+}  // namespace
+
+ParseDriver::ParseDriver(RegisteredOptionStorage& theRegistry,
+                         EventHandler& eventParser,
+                         bool isHeard,
+                         int creationFlags,
+                         ParseResult* filled,
+                         std::string& errorText)
+    : registry(theRegistry),
+      parser(eventParser),
+      listener(isHeard ? &eventParser : nullptr),
+      flags(creationFlags),
+      result(filled),
+      collector(filled),
+      error(errorText) {}
+
+int ParseDriver::parseOptions(const std::string& terminator,
+                              std::vector<std::string>& args,
+                              ArgumentSource& source) {
+    removeLogSwitch(args, source);
+    PositionalOptionsParser positional(listener, flags, source);
+    AbbreviationParser abbreviation(listener, flags, source);
+    const std::vector<IArgumentParser*> recognizers{&positional, &abbreviation};
+    std::size_t matched = 0;
+    while (!args.empty() && args[0] != terminator) {
+        IArgumentParser* const taker = chooseRecognizer(recognizers, args);
+        const int code = taker != nullptr ? taker->parse(args, collector, registry, matched, error)
+                                          : passOver(args, source);
+        if (code != resultOk) {
+            return code;
+        }
+    }
+    return resultOk;
+}
+
+// Of those that take the argument in front, the one with the highest priority; null for none.
+IArgumentParser* ParseDriver::chooseRecognizer(const std::vector<IArgumentParser*>& recognizers,
+                                               std::vector<std::string>& args) {
+    IArgumentParser* chosen = nullptr;
+    int highest = -99999999;
+    std::string discarded;
+    for (IArgumentParser* const recognizer : recognizers) {
+        if (recognizer->recognize(args, registry, discarded) == 0 &&
+            recognizer->getPriority() > highest) {
+            chosen = recognizer;
+            highest = recognizer->getPriority();
+        }
+    }
+    return chosen;
+}
+
+// An argument that nobody takes is an error or skipped; the handlers are asked in both cases.
+int ParseDriver::passOver(std::vector<std::string>& args, ArgumentSource& source) {
+    const bool isUnhandled = parser.onUknownArgument(args[0].c_str());
+    if (isUnhandled && (flags & flagUnknownIsError) != 0) {
+        error = messages::unknownArgument(args[0]);
+        return resultRuleBroken;
+    }
+    trace("ignoring ", args[0]);
+    source.removeFront(args);
+    return resultOk;
+}
+
+int ParseDriver::keepPlainArguments(const std::string& terminator,
+                                    std::vector<std::string>& args,
+                                    ArgumentSource& source) {
+    source.fillUp(args);
+    if (args.empty() || args[0] != terminator) {
+        return resultOk;
+    }
+    source.removeFront(args);
+    while (!args.empty()) {
+        std::string argument = args[0];
+        source.removeFront(args);
+        result->storeArgument(argument);
+        trace(logPrefix, "stored argument: '", argument, "'");
+        if ((flags & flagPositionalBehindTerminator) == 0) {
+            continue;
+        }
+        const int code = offerToPositional(std::move(argument));
+        if (code != resultOk) {
+            return code;
+        }
+    }
+    return resultOk;
+}
+
+// One argument at a time, which behind the terminator may begin with a dash.
+int ParseDriver::offerToPositional(std::string argument) {
+    const std::vector<std::string> none;
+    VectorSource nothingElse(none);
+    PositionalOptionsParser positional(listener, flags & ~flagPositionalWithoutDash, nothingElse);
+    std::vector<std::string> args{std::move(argument)};
+    const int recognized = positional.recognize(args, registry, error);
+    trace(logPrefix, "recognize result: ", std::to_string(recognized), ", message: ", error);
+    if (recognized != 0) {
+        return resultOk;
+    }
+    std::size_t matched = 0;
+    const int code = positional.parse(args, collector, registry, matched, error);
+    trace(logPrefix, "parse result: ", std::to_string(code), ", message: ", error);
+    return code;
+}
+
+}  // namespace zarn_3_3::internal

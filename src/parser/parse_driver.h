@@ -1,0 +1,67 @@
+// The main loop: every argument goes to the recogniser that takes it.
+
+#ifndef ZARN_PARSER_PARSE_DRIVER_H
+#define ZARN_PARSER_PARSE_DRIVER_H
+
+#include <string>
+#include <vector>
+
+namespace zarn_3_3 {
+
+class EventHandler;
+class IArgumentParser;
+class IResultCollector;
+class ParseResult;
+class RegisteredOptionStorage;
+
+namespace internal {
+
+class ArgumentSource;
+
+// Ends the options of a command line or file.
+constexpr const char* endOfOptions = "--";
+
+// Reads arguments into one result. The arguments are those in `args` followed by those in `source`;
+// what is dealt with is removed from the front of `args`.
+class ParseDriver {
+public:
+    // `eventParser` hears the events, and `isHeard` tells whether anyone listens there. `errorText`
+    // receives the text of a failure. Without a result nothing can be stored, only refused.
+    ParseDriver(RegisteredOptionStorage& theRegistry,
+                EventHandler& eventParser,
+                bool isHeard,
+                int creationFlags,
+                ParseResult* filled,
+                std::string& errorText);
+
+    // Parses up to the terminator, which then stands in front, or to the end. Sets the debug log on
+    // or off first, by the first argument. resultOk, or the code of the failure.
+    int parseOptions(const std::string& terminator,
+                     std::vector<std::string>& args,
+                     ArgumentSource& source);
+
+    // Keeps what stands behind the terminator as plain arguments; with
+    // flagPositionalBehindTerminator they go to the positional item too.
+    int keepPlainArguments(const std::string& terminator,
+                           std::vector<std::string>& args,
+                           ArgumentSource& source);
+
+private:
+    IArgumentParser* chooseRecognizer(const std::vector<IArgumentParser*>& recognizers,
+                                      std::vector<std::string>& args);
+    int passOver(std::vector<std::string>& args, ArgumentSource& source);
+    int offerToPositional(std::string argument);
+
+    RegisteredOptionStorage& registry;
+    EventHandler& parser;
+    EventHandler* listener;  // null when nobody listens
+    int flags;
+    ParseResult* result;
+    IResultCollector* collector;
+    std::string& error;
+};
+
+}  // namespace internal
+}  // namespace zarn_3_3
+
+#endif  // ZARN_PARSER_PARSE_DRIVER_H

@@ -1,0 +1,196 @@
+#include "recognizers/abbreviation_parser.h"
+
+#include <utility>
+
+#include "log/zarn_log.h"
+#include "options/registered_option_storage.h"
+#include "platform/best_match.h"
+#include "recognizers/argument_source.h"
+#include "recognizers/messages.h"
+#include "recognizers/token_helpers.h"
+#include "zarn/event_handler.h"
+#include "zarn/parser.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+constexpr int recognized = 0;
+constexpr int declined = 1;
+
+bool beginsWithNo(const std::string& name) { return name.compare(0, 3, "no-") == 0; }
+
+}  // namespace
+
+AbbreviationParser::AbbreviationParser(EventHandler* listener,
+                                       int creationFlags,
+                                       ArgumentSource& rest)
+    : IArgumentParser(listener, "AbbreviationParser", creationFlags, rest) {}
+
+int AbbreviationParser::recognize(std::vector<std::string>& args,
+                                  RegisteredOptionStorage& registry,
+                                  std::string& /*error*/) {
+    const std::string& argument = args[0];
+    candidates.clear();
+    trace(name, ": recognizing argument '", argument, "'");
+    matchIndex = NameIndex::none;
+    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+        return declined;
+    }
+    value = {};
+    hasValue = splitOptionValue(argument, &text, &value);
+    return recognizeName(argument, registry) ? recognized : declined;
+}
+
+// An ambiguous argument is recognised too, so that `parse` can refuse it: nobody else shall have
+// it.
+bool AbbreviationParser::recognizeName(const std::string& argument,
+                                       RegisteredOptionStorage& registry) {
+    // An exact name beats every longer one, so there is nothing to search.
+    const bool isExact = findOption(text, matchIndex, registry) == resultSuccess;
+    if (isExact) {
+        matchName = text;
+    } else if (const int matches = findBestMatch(argument, registry); matches != 1) {
+        return matches > 1;
+    }
+    trace(name,
+          ": best match option for '",
+          text,
+          "' in argument '",
+          argument,
+          "' is '",
+          matchName,
+          "'");
+    return isExact || findOption(matchName, matchIndex, registry) == resultSuccess;
+}
+
+// The number of matches: one is left in `matchName`, several in `candidates`.
+int AbbreviationParser::findBestMatch(const std::string& argument,
+                                      RegisteredOptionStorage& registry) {
+    std::vector<std::string> names;
+    makeOptionNamesList(registry, text, names);
+    plinth2::generic_iterator_t<std::string> best;
+    const int matches = plinth2::find_best_match(
+        plinth2::generic_iterator_t<std::string>(names), std::string(text), best);
+    if (matches == 1) {
+        matchName = best.current();
+    } else if (matches > 1) {
+        for (; !best.atEnd(); best.advance()) {
+            candidates += candidates.empty() ? "'" : ", '";
+            candidates += best.current() + "'";
+        }
+        trace(name,
+              ": failed to get best match for '",
+              text,
+              "' in argument '",
+              argument,
+              "':",
+              messages::ambiguousOptions,
+              candidates);
+    }
+    return matches;
+}
+
+int AbbreviationParser::parse(std::vector<std::string>& args,
+                              IResultCollector* collector,
+                              RegisteredOptionStorage& registry,
+                              std::size_t& optionIndex,
+                              std::string& error) {
+    optionIndex = matchIndex;
+    trace(name, ": parsing argument '", args[0], "'");
+    if (text.empty() || text[0] == '-') {
+        error = messages::unknownOption(args[0]);
+        return resultRuleBroken;
+    }
+    if (!candidates.empty()) {
+        error = messages::ambiguousOption(std::string(text), args[0], candidates);
+        return resultRuleBroken;
+    }
+    const OptionDescription& option = registry.items()[matchIndex];
+    trace(name, ": detected option: '", option.primaryName(), "'");
+    if (hasValue) {
+        trace(name, ": value from the same argument taken: '", value, "'");
+    }
+    std::size_t count = 1;
+    int code = decideValue(option, args, count, error);
+    if (code != resultOk) {
+        return code;
+    }
+    if (handler == nullptr) {
+        code = bind(option, args, collector, error);
+    } else {
+        const OptionDescription copy = option;  // a handler may move the item
+        code = bind(copy, args, collector, error);
+    }
+    for (; code == resultOk && count > 0; --count) {
+        removeFront(args);
+    }
+    return code;
+}
+
+int AbbreviationParser::decideValue(const OptionDescription& option,
+                                    std::vector<std::string>& args,
+                                    std::size_t& count,
+                                    std::string& error) {
+    if (option.type == vtNull) {
+        if (!value.empty()) {
+            error = messages::switchTakesNoValue(option.primaryName(), args[0]);
+            return refuse(error);
+        }
+        return resultOk;
+    }
+    if (option.type == vtBool) {
+        if (!value.empty()) {
+            error = messages::booleanTakesNoValue(option.primaryName(), args[0]);
+            return refuse(error);
+        }
+        value = beginsWithNo(matchName) ? "0" : "1";
+        return resultOk;
+    }
+    return value.empty() ? takeNextArgument(option, args, count, error) : resultOk;
+}
+
+int AbbreviationParser::takeNextArgument(const OptionDescription& option,
+                                         std::vector<std::string>& args,
+                                         std::size_t& count,
+                                         std::string& error) {
+    trace(name, ": no value in the same argument, looking next");
+    source.fillUp(args, 2);
+    if (args.size() < 2) {
+        error = messages::valueRequired(option.primaryName(), args[0]);
+        return refuse(error);
+    }
+    value = args[1];
+    if (!value.empty() && value[0] == '-') {
+        error = messages::valueSeemsToBeOption(option.primaryName(), args[1]);
+        return refuse(error);
+    }
+    count = 2;
+    trace(name, ": got value from the next argument: '", value, "'");
+    if (value.empty()) {
+        error = messages::valueRequired(option.primaryName(), args[0]);
+        return refuse(error);
+    }
+    return resultOk;
+}
+
+int AbbreviationParser::bind(const OptionDescription& option,
+                             std::vector<std::string>& args,
+                             IResultCollector* collector,
+                             std::string& error) {
+    if (handler != nullptr) {
+        handler->onOptionParse(option.primaryName().c_str());
+    }
+    trace(name, ": sent event on option parsed");
+    return parseValueAndAddOption(value, error, option, args, collector);
+}
+
+void makeOptionNamesList(const RegisteredOptionStorage& registry,
+                         std::string_view text,
+                         std::vector<std::string>& names) {
+    registry.prefixes().appendBeginningWith(text, registry.items(), names);
+}
+
+}  // namespace zarn_3_3

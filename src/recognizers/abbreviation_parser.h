@@ -1,0 +1,63 @@
+// Recognises dashed options: names, abbreviations, "no-" forms, and values behind them.
+
+#ifndef ZARN_RECOGNIZERS_ABBREVIATION_PARSER_H
+#define ZARN_RECOGNIZERS_ABBREVIATION_PARSER_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "options/name_index.h"
+#include "recognizers/argument_parser.h"
+
+namespace zarn_3_3 {
+
+// `parse` relies on what the `recognize` before it, on the same arguments, left here.
+class AbbreviationParser final : public IArgumentParser {
+public:
+    AbbreviationParser(EventHandler* listener, int creationFlags, internal::ArgumentSource& rest);
+
+    int recognize(std::vector<std::string>& args,
+                  RegisteredOptionStorage& registry,
+                  std::string& error) override;
+    int parse(std::vector<std::string>& args,
+              IResultCollector* collector,
+              RegisteredOptionStorage& registry,
+              std::size_t& optionIndex,
+              std::string& error) override;
+    int getPriority() override { return -10; }
+
+private:
+    bool recognizeName(const std::string& argument, RegisteredOptionStorage& registry);
+    int findBestMatch(const std::string& argument, RegisteredOptionStorage& registry);
+    int decideValue(const OptionDescription& option,
+                    std::vector<std::string>& args,
+                    std::size_t& count,
+                    std::string& error);
+    int takeNextArgument(const OptionDescription& option,
+                         std::vector<std::string>& args,
+                         std::size_t& count,
+                         std::string& error);
+    int bind(const OptionDescription& option,
+             std::vector<std::string>& args,
+             IResultCollector* collector,
+             std::string& error);
+
+    std::size_t matchIndex = internal::NameIndex::none;
+    std::string candidates;  // tied names, quoted; empty unless the argument is ambiguous
+    std::string matchName;   // the name or "no-" form that was matched
+    std::string_view text;   // the argument cut: its name,
+    std::string_view value;  // its value,
+    bool hasValue = false;   // and whether one was attached
+};
+
+// Appends the names, and "no-" forms of booleans, that begin with `text`, in the order of
+// declaration: no other name can be the best match for it.
+void makeOptionNamesList(const RegisteredOptionStorage& registry,
+                         std::string_view text,
+                         std::vector<std::string>& names);
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_RECOGNIZERS_ABBREVIATION_PARSER_H

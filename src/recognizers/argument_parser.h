@@ -1,0 +1,112 @@
+// The base of the recognisers, and the running sequence number.
+
+#ifndef ZARN_RECOGNIZERS_ARGUMENT_PARSER_H
+#define ZARN_RECOGNIZERS_ARGUMENT_PARSER_H
+
+#include <atomic>
+#include <cstddef>
+#include <limits>
+#include <memory>
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace zarn_3_3 {
+
+class EventHandler;
+class IResultCollector;
+class OptionDescription;
+class RegisteredOptionStorage;
+struct OptionData;
+struct OptionValue;
+
+namespace internal {
+class ArgumentSource;
+}
+
+// Takes arguments from the front of an argument vector.
+//
+// `handler` hears of every option and value; it is null when nobody listens. Then no client code
+// runs during an occurrence, nothing can move, and the item is used where it stands; otherwise a
+// copy is taken first, since a handler may declare items. `rest` holds what stands behind the
+// argument vectors that are parsed.
+class IArgumentParser {
+public:
+    IArgumentParser(EventHandler* listener,
+                    std::string_view ownName,
+                    int creationFlags,
+                    internal::ArgumentSource& rest);
+    IArgumentParser(const IArgumentParser&) = delete;
+    IArgumentParser& operator=(const IArgumentParser&) = delete;
+    virtual ~IArgumentParser();
+
+    // Whether `parse` can take the argument in front: 0 for yes. Changes nothing in `args`.
+    virtual int recognize(std::vector<std::string>& args,
+                          RegisteredOptionStorage& registry,
+                          std::string& error) = 0;
+
+    // Takes what `recognize` has just accepted: stores it through `collector` and removes it from
+    // the front of `args`. 0, or the code of a failure with its text in `error`; what failed then
+    // still stands in front. `optionIndex` receives the index of the item that was matched.
+    virtual int parse(std::vector<std::string>& args,
+                      IResultCollector* collector,
+                      RegisteredOptionStorage& registry,
+                      std::size_t& optionIndex,
+                      std::string& error) = 0;
+
+    // What is put behind a message to name the argument that it is about.
+    virtual std::string formatTokenMessage(std::string& token);
+
+    // Of several recognisers that accept an argument the one with the highest priority parses it.
+    virtual int getPriority() = 0;
+
+    // The next number of the sequence; never reset, so that numbers order everything that one
+    // process ever stored. Two parses at once may draw equal numbers, but that is all: the
+    // operations are atomic, though not one together.
+    static std::atomic<int> m_idx;
+
+    // Draws a number. Throws std::overflow_error when there is none left.
+    static int drawIndex() {
+        const int drawn = m_idx.load(std::memory_order_relaxed);
+        if (drawn == std::numeric_limits<int>::max()) {
+            throw std::overflow_error("The sequence numbers are used up");
+        }
+        m_idx.store(drawn + 1, std::memory_order_relaxed);
+        return drawn;
+    }
+
+protected:
+    // Binds `value`, which may be empty for an occurrence without one, to `option`: cuts, checks
+    // and announces it, and stores the occurrence. 0; 1 when a handler refused a value; 2 when a
+    // value is wrong.
+    int parseValueAndAddOption(std::string_view value,
+                               std::string& error,
+                               const OptionDescription& option,
+                               std::vector<std::string>& args,
+                               IResultCollector* collector);
+
+    // Logs `error` and gives the code of a broken rule.
+    int refuse(const std::string& error) const;
+
+    void removeFront(std::vector<std::string>& args);
+
+    EventHandler* handler;
+    std::string name;  // in front of every line of the log
+    int flags;
+    internal::ArgumentSource& source;
+
+private:
+    struct Binding;
+
+    // Of the occurrence in progress; kept for the next one, which then allocates nothing.
+    std::unique_ptr<OptionData> data;
+
+    int bindPieces(const Binding& binding, char separator);
+    int bindPiece(const Binding& binding, std::string_view piece);
+    int announce(const Binding& binding, const OptionValue& value);
+};
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_RECOGNIZERS_ARGUMENT_PARSER_H

@@ -1,0 +1,17 @@
+#include "zarn/result.h"
+
+namespace zarn_3_3 {
+
+Value getLastValue(IParseResult* result, const char* name, int from, int to) {
+    Value last;
+    if (result == nullptr || name == nullptr) {
+        return last;
+    }
+    for (Value value = result->get(name, from, to); value.status == statusFound;
+         value = result->next(name)) {
+        last = value;
+    }
+    return last;
+}
+
+}  // namespace zarn_3_3

@@ -1,0 +1,131 @@
+// How a result is filled. How it is read: result_queries.cpp.
+
+#include "result/parse_result.h"
+
+#include <algorithm>
+
+#include "options/option_description.h"
+#include "recognizers/argument_parser.h"
+#include "result/option_data.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+// Makes room as push_back would, so that adding `count` elements cannot fail.
+template <typename Element>
+void makeRoom(std::vector<Element>& elements, std::size_t count) {
+    const std::size_t needed = elements.size() + count;
+    if (needed > elements.capacity()) {
+        elements.reserve(std::max(needed, 2 * elements.capacity()));
+    }
+}
+
+}  // namespace
+
+void ParseResult::destroy() { delete this; }
+
+int ParseResult::store(const OptionDescription& option, const OptionData& data) {
+    const std::size_t primary = findIndex(option.names.at(0));
+    if (primary == none) {
+        for (const std::string& name : option.names) {
+            replace(name, data);
+        }
+        return 0;
+    }
+    append(options[primary], data);
+    for (std::size_t i = 1; i < option.names.size(); ++i) {
+        append(findOrAdd(option.names[i]), data);
+    }
+    return 0;
+}
+
+void ParseResult::applyDefault(const std::vector<OptionDescription>& items) {
+    for (const OptionDescription& item : items) {
+        if (item.type == vtNull || !item.hasDefault) {
+            continue;
+        }
+        const char* const text = texts.keep(item.getDefaultValueAsText());
+        for (const std::string& name : item.names) {
+            const int position = IArgumentParser::drawIndex();
+            StoredOption& entry = findOrAdd(name);
+            entry.defaultText = text;
+            entry.defaultVariant = item.defaultVal;
+            entry.defaultPosition = position;
+        }
+    }
+}
+
+void ParseResult::storeArgument(std::string_view argument) {
+    makeRoom(arguments, 1);
+    const char* const kept = texts.keep(argument);
+    IArgumentParser::drawIndex();  // the number is part of the order, though no query shows it
+    arguments.push_back(kept);
+}
+
+const StoredOption* ParseResult::find(std::string_view name) const {
+    const std::size_t found = findIndex(name);
+    return found == none ? nullptr : &options[found];
+}
+
+std::size_t ParseResult::findIndex(std::string_view name) const {
+    const std::uint32_t found = table.find(
+        TextTable::hash(name), [&](std::uint32_t number) { return options[number].name == name; });
+    return found == TextTable::none ? none : found;
+}
+
+StoredOption& ParseResult::findOrAdd(std::string_view name) {
+    const std::size_t found = findIndex(name);
+    if (found != none) {
+        return options[found];
+    }
+    table.makeRoom();
+    StoredOption entry;
+    entry.name = name;
+    options.push_back(std::move(entry));
+    table.add(TextTable::hash(name), static_cast<std::uint32_t>(options.size() - 1));
+    return options.back();
+}
+
+// Adds all of `data`, or nothing.
+void ParseResult::append(StoredOption& entry, const OptionData& data) {
+    makeRoom(entry.positions, data.positions.size());
+    makeRoom(entry.values, data.values.size());
+    const std::size_t valuesBefore = entry.values.size();
+    try {
+        for (const OptionValue& value : data.values) {
+            entry.values.push_back({value.value, textOf(value), value.position});
+        }
+    } catch (...) {
+        entry.values.erase(entry.values.begin() + static_cast<std::ptrdiff_t>(valuesBefore),
+                           entry.values.end());
+        throw;
+    }
+    for (const int position : data.positions) {
+        entry.isAscending =
+            entry.isAscending && (entry.positions.empty() || entry.positions.back() < position);
+        entry.positions.push_back(position);
+    }
+}
+
+// The first occurrence of an option makes its entries anew, whatever another item with the same
+// synonym, or a default, left there.
+void ParseResult::replace(std::string_view name, const OptionData& data) {
+    StoredOption fresh;
+    append(fresh, data);
+    StoredOption& entry = findOrAdd(name);
+    makeRoom(replaced, entry.values.size());
+    std::move(entry.values.begin(), entry.values.end(), std::back_inserter(replaced));
+    fresh.name = std::move(entry.name);
+    entry = std::move(fresh);
+}
+
+// A value that holds the text itself lends it: most texts are then kept once.
+const char* ParseResult::textOf(const OptionValue& value) {
+    const char* const held = plinth2::get_variant_value(value.value, nullptr);
+    return held != nullptr ? held : texts.keep(value.text);
+}
+
+}  // namespace zarn_3_3

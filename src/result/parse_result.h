@@ -1,0 +1,95 @@
+// The one result of a parse: what is stored, and the walk through it.
+
+#ifndef ZARN_RESULT_PARSE_RESULT_H
+#define ZARN_RESULT_PARSE_RESULT_H
+
+#include <cstddef>
+#include <limits>
+#include <string_view>
+#include <vector>
+
+#include "options/text_arena.h"
+#include "options/text_table.h"
+#include "result/result_collector.h"
+#include "result/stored_option.h"
+#include "zarn/result.h"
+
+namespace zarn_3_3 {
+
+struct OptionData;
+struct OptionValue;
+
+// Holds one entry for each name that was stored: an option with synonyms has one under each of its
+// names.
+//
+// Cursors are positions, not iterators: whoever walks may store meanwhile, and then sees what was
+// added.
+class ParseResult final : public IParseResult, public IResultCollector {
+public:
+    ParseResult() = default;
+    ParseResult(const ParseResult&) = delete;
+    ParseResult& operator=(const ParseResult&) = delete;
+
+    void destroy() override;
+    bool present(const char* name, int from, int to) override;
+    Value get(const char* name, int from, int to) override;
+    Value next(const char* name) override;
+    int nextPosition() override;
+    int getFirstArgument(const char** out) override;
+    int getNextArgument(const char** out) override;
+
+    ~ParseResult() override = default;
+
+    int store(const OptionDescription& option, const OptionData& data) override;
+
+    // Records the default of every item that has one under each of its names. Throws what drawing a
+    // number and memory throw; what was recorded by then stays.
+    void applyDefault(const std::vector<OptionDescription>& options);
+
+    // Keeps an argument that is not parsed, under the next number of the sequence.
+    void storeArgument(std::string_view argument);
+
+    // The entry of a name, or null.
+    const internal::StoredOption* find(std::string_view name) const;
+
+    // All entries, in the order in which their names were first stored.
+    const std::vector<internal::StoredOption>& entries() const { return options; }
+
+private:
+    static constexpr int lastPosition = std::numeric_limits<int>::max();
+    static constexpr std::size_t none = static_cast<std::size_t>(-1);
+
+    enum class Wanted { presence, value };
+
+    std::size_t findIndex(std::string_view name) const;
+    internal::StoredOption& findOrAdd(std::string_view name);
+    void append(internal::StoredOption& entry, const OptionData& data);
+    void replace(std::string_view name, const OptionData& data);
+    const char* textOf(const OptionValue& value);
+
+    const internal::StoredOption* selected() const;
+    Value select(const char* name, int from, int to, Wanted wanted);
+    Value step();
+    Value stepOccurrence(const internal::StoredOption& entry);
+    Value stepValue(const internal::StoredOption& entry);
+
+    std::vector<internal::StoredOption> options;
+    internal::TextTable table;  // name to entry
+    internal::TextArena texts;
+
+    std::size_t current = none;      // the entry that the last query selected
+    std::size_t valueCursor = 0;     // in its values
+    std::size_t positionCursor = 0;  // in its positions
+    int rangeFrom = 0;
+    int rangeTo = lastPosition;
+
+    std::vector<const char*> arguments;  // kept aside behind the terminator
+    std::size_t argumentCursor = none;
+
+    // What a clash of synonyms replaced: its texts may have been handed out.
+    std::vector<internal::StoredValue> replaced;
+};
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_RESULT_PARSE_RESULT_H

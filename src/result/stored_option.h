@@ -1,0 +1,38 @@
+// Everything that a result holds under one name.
+
+#ifndef ZARN_RESULT_STORED_OPTION_H
+#define ZARN_RESULT_STORED_OPTION_H
+
+#include <string>
+#include <vector>
+
+#include "zarn/value.h"
+
+namespace zarn_3_3::internal {
+
+// The text belongs to the result, or to the value where that holds the same text.
+struct StoredValue {
+    variant_t value;
+    const char* text;
+    int position;
+};
+
+struct StoredOption {
+    std::string name;
+    std::vector<int> positions;  // of occurrences; a switch has only these
+    std::vector<StoredValue> values;
+    const char* defaultText = "";
+    variant_t defaultVariant;
+    int defaultPosition = 0;
+
+    // Whether both lists are in the order of their numbers. They nearly always are; a handler that
+    // parses into the same result inside an event stores what comes later first.
+    bool isAscending = true;
+
+    // Not given, but with a default. One whose text is empty does not count.
+    bool isDefaultOnly() const { return positions.empty() && *defaultText != '\0'; }
+};
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_RESULT_STORED_OPTION_H

@@ -7,8 +7,6 @@
 #include <sstream>
 #include <type_traits>
 
-#include "recognizers/token_helpers.h"
-
 namespace zarn_3_3::internal {
 namespace {
 
@@ -131,6 +129,48 @@ void throwIfOutOfMemory(const std::ios& stream) {
     }
 }
 
+// A stream over one text. What does not depend on the type of the number stands apart from what
+// does, which would otherwise be there six times.
+class NumberStream {
+public:
+    NumberStream(const std::string& text, bool isHexadecimal);
+    ~NumberStream();
+
+    template <typename T>
+    bool read(T& number) {
+        stream >> number;
+        return isRead();
+    }
+
+    // Whether nothing but white space follows.
+    bool isAtEnd();
+
+private:
+    bool isRead() const;
+
+    std::istringstream stream;
+};
+
+NumberStream::NumberStream(const std::string& text, bool isHexadecimal) : stream(text) {
+    if (isHexadecimal) {
+        stream >> std::hex;
+    }
+}
+
+NumberStream::~NumberStream() = default;
+
+bool NumberStream::isRead() const {
+    throwIfOutOfMemory(stream);
+    return !stream.fail();
+}
+
+bool NumberStream::isAtEnd() {
+    char following = 0;
+    const bool isThere = static_cast<bool>(stream >> following);
+    throwIfOutOfMemory(stream);
+    return !isThere;
+}
+
 template <typename T>
 std::optional<T> answer(Reading reading, T number) {
     return reading == Reading::number ? std::optional<T>(number) : std::nullopt;
@@ -140,27 +180,16 @@ std::optional<T> answer(Reading reading, T number) {
 
 template <typename T>
 std::optional<T> numberFromStream(const std::string& text, Trailing trailing, bool hexadecimal) {
-    std::istringstream stream(text);
-    if (hexadecimal) {
-        stream >> std::hex;
-    }
+    NumberStream stream(text, hexadecimal);
     T number{};
-    stream >> number;
-    throwIfOutOfMemory(stream);
-    if (stream.fail()) {
-        return std::nullopt;
-    }
-    char following = 0;
-    if (trailing == Trailing::refused && stream >> following) {
-        return std::nullopt;
-    }
-    throwIfOutOfMemory(stream);
-    return number;
+    const bool isNumber =
+        stream.read(number) && (trailing == Trailing::ignored || stream.isAtEnd());
+    return isNumber ? std::optional<T>(number) : std::nullopt;
 }
 
 template <typename T>
-std::optional<T> numberFromText(const std::string& text, Trailing trailing) {
-    if (isClassicLocale()) {
+std::optional<T> numberFromText(const std::string& text, Trailing trailing, TextLocale locale) {
+    if (locale == TextLocale::classic) {
         T number{};
         const Reading reading = readByHand(text, trailing, number);
         if (reading != Reading::unsure) {
@@ -170,8 +199,8 @@ std::optional<T> numberFromText(const std::string& text, Trailing trailing) {
     return numberFromStream<T>(text, trailing, false);
 }
 
-std::optional<unsigned long long> hexadecimalFromText(const std::string& text) {
-    if (isClassicLocale()) {
+std::optional<unsigned long long> hexadecimalFromText(const std::string& text, TextLocale locale) {
+    if (locale == TextLocale::classic) {
         unsigned long long number = 0;
         const Reading reading = readInteger(text, Trailing::ignored, 16, number);
         return answer(reading, number);
@@ -189,7 +218,7 @@ std::string textFromStream(T number) {
 
 template <typename T>
 std::string textFromNumber(T number) {
-    if (!isClassicLocale()) {
+    if (globalTextLocale() != TextLocale::classic) {
         return textFromStream(number);
     }
     std::array<char, 32> text{};
@@ -204,12 +233,12 @@ std::string textFromNumber(T number) {
     }
 }
 
-template std::optional<bool> numberFromText(const std::string&, Trailing);
-template std::optional<int> numberFromText(const std::string&, Trailing);
-template std::optional<unsigned> numberFromText(const std::string&, Trailing);
-template std::optional<long long> numberFromText(const std::string&, Trailing);
-template std::optional<unsigned long long> numberFromText(const std::string&, Trailing);
-template std::optional<double> numberFromText(const std::string&, Trailing);
+template std::optional<bool> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<int> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<unsigned> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<long long> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<unsigned long long> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<double> numberFromText(const std::string&, Trailing, TextLocale);
 
 template std::string textFromNumber(int);
 template std::string textFromNumber(unsigned);

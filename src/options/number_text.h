@@ -6,6 +6,8 @@
 #include <optional>
 #include <string>
 
+#include "recognizers/token_helpers.h"
+
 namespace zarn_3_3::internal {
 
 enum class Trailing {
@@ -19,10 +21,13 @@ enum class Trailing {
 //
 // T is bool, int, unsigned, long long, unsigned long long or double. Throws std::bad_alloc.
 template <typename T>
-std::optional<T> numberFromText(const std::string& text, Trailing trailing);
+std::optional<T> numberFromText(const std::string& text,
+                                Trailing trailing,
+                                TextLocale locale = globalTextLocale());
 
 // The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
-std::optional<unsigned long long> hexadecimalFromText(const std::string& text);
+std::optional<unsigned long long> hexadecimalFromText(const std::string& text,
+                                                      TextLocale locale = globalTextLocale());
 
 // The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
 // Throws std::bad_alloc.
@@ -32,9 +37,11 @@ std::string textFromNumber(T number);
 // The same by a stream, in whatever locale: what the others must agree with, and what they call
 // where the global locale is not the classic one.
 template <typename T>
-std::optional<T> numberFromStream(const std::string& text, Trailing trailing, bool hexadecimal);
+[[gnu::cold]] std::optional<T> numberFromStream(const std::string& text,
+                                                Trailing trailing,
+                                                bool hexadecimal);
 template <typename T>
-std::string textFromStream(T number);
+[[gnu::cold]] std::string textFromStream(T number);
 
 }  // namespace zarn_3_3::internal
 

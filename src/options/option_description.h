@@ -58,10 +58,14 @@ public:
     // Whether `text` is a value of the item: converts it into `converted`, checks it against the
     // allowed values and completes an abbreviated one in `text`. On false `error` says why, and
     // `text` is as it was. Warns of a deprecated value on the error stream.
-    bool validate(std::string& text, variant_t& converted, std::string& error) const;
+    bool validate(std::string& text,
+                  variant_t& converted,
+                  std::string& error,
+                  internal::TextLocale locale = internal::globalTextLocale()) const;
 
     // `text` as a value of the declared type; vtNull when it is none.
-    variant_t fromString(const std::string& text) const;
+    variant_t fromString(const std::string& text,
+                         internal::TextLocale locale = internal::globalTextLocale()) const;
 
     // The text of `value`, read as the declared type.
     std::string toString(const variant_t& value) const;

@@ -29,9 +29,6 @@ void PrefixIndex::appendBeginningWith(std::string_view text,
     if (text.size() > longest) {
         return;
     }
-    if (text.size() >= lengths.size()) {
-        lengths.resize(text.size() + 1);
-    }
     Length& length = lengths[text.size()];
     catchUp(length, text.size(), options);
     const Entry* const found = find(length, TextTable::hash(text), text, options);

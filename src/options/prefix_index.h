@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -64,7 +65,7 @@ private:
     NameWalk walk;
     std::vector<Candidate> candidates;  // in the order of declaration
     std::size_t longest = 0;            // of the candidates
-    std::vector<Length> lengths;
+    std::map<std::size_t, Length> lengths;
 };
 
 }  // namespace zarn_3_3::internal

@@ -7,6 +7,9 @@
 #include "options/messages.h"
 
 namespace zarn_3_3 {
+
+using namespace internal;
+
 namespace {
 
 const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
@@ -64,7 +67,7 @@ IOption& RegisteredOptionStorage::declare(const char* names,
         return refused();
     }
     if (findOption(item.names, taken, *this) == resultSuccess) {
-        internal::trace(internal::messages::nameIsTaken, names);
+        trace(messages::nameIsTaken, names);
         return refused();
     }
     item.description = description;
@@ -85,18 +88,18 @@ IOption& RegisteredOptionStorage::declare(const char* names,
 
 std::size_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
     const std::size_t colon = section.find(':');
-    const std::string key(section.substr(0, colon));
-    const auto known = sectionByKey.find(key);
-    if (known != sectionByKey.end()) {
-        return known->second;
+    const std::string_view key = section.substr(0, colon);
+    const std::uint32_t hash = TextTable::hash(key);
+    const std::uint32_t known = sectionTable.find(
+        hash, [&](std::uint32_t number) { return sections[number].first == key; });
+    if (known != TextTable::none) {
+        return known;
     }
-    makeRoomForOne(sections);
-    std::pair<std::string, std::string> pair{key, {}};
-    if (colon != std::string_view::npos) {
-        pair.second = section.substr(colon + 1);
-    }
-    sectionByKey.emplace(key, sections.size());
-    sections.push_back(std::move(pair));
+    const std::string_view title =
+        colon == std::string_view::npos ? std::string_view() : section.substr(colon + 1);
+    sectionTable.makeRoom();
+    sections.emplace_back(key, title);
+    sectionTable.add(hash, static_cast<std::uint32_t>(sections.size() - 1));
     return sections.size() - 1;
 }
 
@@ -117,7 +120,7 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
     };
     // Nearly always the first item with the name is the only one; synonyms can give it to more.
     const std::size_t first = names().firstNamed(name, options);
-    return first != internal::NameIndex::none &&
+    return first != NameIndex::none &&
            std::any_of(
                options.begin() + static_cast<std::ptrdiff_t>(first), options.end(), isWanted);
 }
@@ -130,10 +133,10 @@ std::size_t RegisteredOptionStorage::firstPositional() const {
         }
         searchedForPositional = i;
     }
-    return internal::NameIndex::none;
+    return NameIndex::none;
 }
 
-const internal::NameIndex& RegisteredOptionStorage::names() const {
+const NameIndex& RegisteredOptionStorage::names() const {
     index.catchUp(options);
     return index;
 }
@@ -150,7 +153,7 @@ result_t findOption(std::string_view name,
                     std::size_t& index,
                     const RegisteredOptionStorage& registry) {
     const std::size_t found = registry.names().first(name, registry.items());
-    if (found == internal::NameIndex::none) {
+    if (found == NameIndex::none) {
         return resultFailure;
     }
     index = found;

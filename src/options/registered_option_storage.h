@@ -6,13 +6,13 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
-#include <unordered_map>
 #include <utility>
 #include <vector>
 
 #include "options/name_index.h"
 #include "options/option_description.h"
 #include "options/prefix_index.h"
+#include "options/text_table.h"
 #include "recognizers/token_helpers.h"
 
 namespace zarn_3_3 {
@@ -81,7 +81,7 @@ private:
     char separator = ',';
     std::vector<OptionDescription> options;
     std::vector<std::pair<std::string, std::string>> sections;
-    std::unordered_map<std::string, std::size_t> sectionByKey;
+    internal::TextTable sectionTable;  // key to section
     std::size_t actionCount = 0;
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
 

@@ -28,11 +28,12 @@ bool isHexadecimal(const std::string& text) {
 // Reads a text as the type that execute is called with.
 struct OperationFromString {
     const std::string& text;
+    TextLocale locale;
     variant_t result;
 
     template <typename T>
     void execute() {
-        if (const auto number = numberFromText<T>(text, Trailing::refused)) {
+        if (const auto number = numberFromText<T>(text, Trailing::refused, locale)) {
             result = *number;
         }
     }
@@ -42,8 +43,8 @@ struct OperationFromString {
 template <>
 void OperationFromString::execute<unsigned long long>() {
     const auto number = isHexadecimal(text)
-                            ? hexadecimalFromText(text)
-                            : numberFromText<unsigned long long>(text, Trailing::ignored);
+                            ? hexadecimalFromText(text, locale)
+                            : numberFromText<unsigned long long>(text, Trailing::ignored, locale);
     if (number) {
         result = *number;
     }
@@ -142,8 +143,8 @@ void executeAs(das_variant_type_t type, Operation& operation) {
 
 }  // namespace
 
-variant_t OptionDescription::fromString(const std::string& text) const {
-    OperationFromString operation{text, {}};
+variant_t OptionDescription::fromString(const std::string& text, TextLocale locale) const {
+    OperationFromString operation{text, locale, {}};
     executeAs(type, operation);
     return std::move(operation.result);
 }

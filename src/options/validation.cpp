@@ -70,8 +70,9 @@ void warnIfDeprecated(const OptionDescription& option, const std::string& text) 
 
 bool OptionDescription::validate(std::string& text,
                                  variant_t& converted,
-                                 std::string& error) const {
-    converted = fromString(text);
+                                 std::string& error,
+                                 internal::TextLocale locale) const {
+    converted = fromString(text, locale);
     if (converted.type() == vtNull) {
         error = messages::notOfItsType(primaryName(), text, getTypeName());
         return false;

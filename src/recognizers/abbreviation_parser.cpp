@@ -40,7 +40,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
         return declined;
     }
     value = {};
-    hasValue = splitOptionValue(argument, &text, &value);
+    hasValue = splitOptionValue(argument, &text, &value, textLocale());
     return recognizeName(argument, registry) ? recognized : declined;
 }
 
@@ -105,7 +105,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args,
         return resultRuleBroken;
     }
     if (!candidates.empty()) {
-        error = messages::ambiguousOption(std::string(text), args[0], candidates);
+        error = messages::ambiguousOption(text, args[0], candidates);
         return resultRuleBroken;
     }
     const OptionDescription& option = registry.items()[matchIndex];

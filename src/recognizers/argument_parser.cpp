@@ -83,7 +83,7 @@ int IArgumentParser::bindPieces(const Binding& binding, char separator) {
     trace(name, ": using tokenizer on char: '", std::string_view(&separator, 1), "'");
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        binding.error = messages::noValueParsed(std::string(value), binding.option);
+        binding.error = messages::noValueParsed(value, binding.option);
         return refuse(binding.error);
     }
     while (start != std::string_view::npos) {
@@ -108,7 +108,7 @@ int IArgumentParser::bindPieces(const Binding& binding, char separator) {
 int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
     OptionValue& bound = binding.data.values.emplace_back();
     bound.text = piece;
-    if (!binding.description.validate(bound.text, bound.value, binding.error)) {
+    if (!binding.description.validate(bound.text, bound.value, binding.error, textLocale())) {
         binding.error = messages::invalidValue(binding.argument, binding.error);
         return refuse(binding.error);
     }
@@ -121,8 +121,7 @@ int IArgumentParser::announce(const Binding& binding, const OptionValue& value) 
     if (handler->onValueParse(binding.option.c_str(), announced)) {
         return resultOk;
     }
-    binding.error =
-        messages::vetoedValue(std::string(binding.value), binding.option, binding.argument);
+    binding.error = messages::vetoedValue(binding.value, binding.option, binding.argument);
     trace(name, binding.error, messages::handlerVetoed);  // kept: nothing behind the name
     return resultVetoed;
 }

@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "recognizers/token_helpers.h"
+
 namespace zarn_3_3 {
 
 class EventHandler;
@@ -91,6 +93,11 @@ protected:
 
     void removeFront(std::vector<std::string>& args);
 
+    // Asked once unless somebody listens, who may set another locale.
+    internal::TextLocale textLocale() const {
+        return handler == nullptr ? initialLocale : internal::globalTextLocale();
+    }
+
     EventHandler* handler;
     std::string name;  // in front of every line of the log
     int flags;
@@ -98,6 +105,8 @@ protected:
 
 private:
     struct Binding;
+
+    internal::TextLocale initialLocale = internal::globalTextLocale();
 
     // Of the occurrence in progress; kept for the next one, which then allocates nothing.
     std::unique_ptr<OptionData> data;

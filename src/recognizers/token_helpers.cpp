@@ -81,17 +81,20 @@ std::size_t getDashLength(const std::string& text, std::size_t pos) {
 
 bool splitOptionValue(const std::string& argument,
                       std::string_view* name,
-                      std::string_view* value) {
-    if (internal::isClassicLocale()) {
+                      std::string_view* value,
+                      internal::TextLocale locale) {
+    if (locale == internal::TextLocale::classic) {
         return splitAt(argument, name, value, internal::isClassicSpace);
     }
-    const std::locale locale;
-    const auto& classes = std::use_facet<std::ctype<char>>(locale);
+    const std::locale global;
+    const auto& classes = std::use_facet<std::ctype<char>>(global);
     return splitAt(argument, name, value, [&classes](char c) {
         return classes.is(std::ctype_base::space, c);
     });
 }
 
-bool internal::isClassicLocale() { return std::locale() == std::locale::classic(); }
+internal::TextLocale internal::globalTextLocale() {
+    return std::locale() == std::locale::classic() ? TextLocale::classic : TextLocale::other;
+}
 
 }  // namespace zarn_3_3

@@ -95,7 +95,7 @@ AllowedTie        | strict | --word=mar       | | Value validation problem in ar
 NotAllowed        | strict | --word MARB      | | Value validation problem in argument '--word': Option 'word' does not allow value 'MARB'. Possible values follows: 'marble', 'market'
 Terminator        | strict | --z -- --z -- '' -q | z=1 -- --z --  -q |
 TerminatorLast    | strict | --z --           | z=1 |
-UnknownIsSkipped  | others | a '' - --- --q=1 --ids=1:2 -- b | ids=1|2(1) -- b |)");
+UnknownIsSkipped  | others | a '' - --q=1 --ids=1:2 -- b | ids=1|2(1) -- b |)");
 
 class OptionLine : public CommandLine {};
 

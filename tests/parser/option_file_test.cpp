@@ -1,13 +1,11 @@
 // Arguments in files, and what keeps files that name each other from going on for ever.
 
 #include <gmock/gmock.h>
-#include <sys/stat.h>
 
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
 #include <iostream>
-#include <ostream>
 
 #include "log/zarn_log.h"
 #include "support/captured_stream.h"

@@ -13,7 +13,7 @@ bool isIntersected(const std::set<std::string>& a, const std::set<std::string>& 
 }
 
 void findActionModifiers(std::size_t action,
-                         const std::vector<OptionDescription>& options,
+                         const OptionList& options,
                          std::vector<const OptionDescription*>& out) {
     const OptionDescription& wanted = options.at(action);
     for (const OptionDescription& item : options) {

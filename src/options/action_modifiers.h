@@ -18,7 +18,7 @@ bool isIntersected(const std::set<std::string>& a, const std::set<std::string>& 
 // Appends the items other than `action` that are no actions and share a tag with it, in the order
 // of declaration. Throws std::out_of_range when there is no item with that index.
 void findActionModifiers(std::size_t action,
-                         const std::vector<OptionDescription>& options,
+                         const OptionList& options,
                          std::vector<const OptionDescription*>& out);
 
 }  // namespace zarn_3_3

@@ -20,15 +20,13 @@ public:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
     // Takes in the names that were declared since. Throws std::bad_alloc; what was taken in stays.
-    void catchUp(const std::vector<OptionDescription>& options);
+    void catchUp(const OptionList& options);
 
     // The first item that has this name.
-    std::size_t firstNamed(std::string_view name,
-                           const std::vector<OptionDescription>& options) const;
+    std::size_t firstNamed(std::string_view name) const;
 
     // The first item that has this name, or is a boolean of which it is the "no-" form.
-    std::size_t first(std::string_view nameOrNoForm,
-                      const std::vector<OptionDescription>& options) const;
+    std::size_t first(std::string_view nameOrNoForm) const;
 
 private:
     // A distinct name, where it stands first, and the first boolean item that has it.
@@ -37,10 +35,8 @@ private:
         std::uint32_t booleanItem;
     };
 
-    void add(NamePlace place, const std::vector<OptionDescription>& options);
-    std::uint32_t find(std::uint32_t hash,
-                       std::string_view name,
-                       const std::vector<OptionDescription>& options) const;
+    void add(NamePlace place);
+    std::uint32_t find(std::uint32_t hash, std::string_view name) const;
 
     NameWalk walk;
     std::vector<Entry> entries;

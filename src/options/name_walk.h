@@ -5,20 +5,19 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <vector>
+#include <string>
 
 #include "options/option_description.h"
 
 namespace zarn_3_3::internal {
 
-// Where a name stands. Numbers, not pointers, since items move.
+// Where a name stands. The name itself may still move while its item is the last one.
 struct NamePlace {
-    std::uint32_t item;
-    std::uint32_t name;
+    const OptionDescription* item;
+    std::uint32_t itemIndex;
+    std::uint32_t nameIndex;
 
-    const std::string& in(const std::vector<OptionDescription>& options) const {
-        return options[item].names[name];
-    }
+    const std::string& text() const { return item->names[nameIndex]; }
 };
 
 // What an index has taken in so far. Items are only ever added, and of those there only the last
@@ -28,12 +27,13 @@ public:
     // Calls take(place) for every name that was declared since, in the order of the items and of
     // their names. A name whose take throws is taken again the next time.
     template <typename Take>
-    void catchUp(const std::vector<OptionDescription>& options, Take take) {
+    void catchUp(const OptionList& options, Take take) {
         for (;;) {
             if (itemsTaken > 0) {
-                const std::size_t last = itemsTaken - 1;
-                for (; namesTaken < options[last].names.size(); ++namesTaken) {
-                    take(NamePlace{static_cast<std::uint32_t>(last),
+                const OptionDescription& last = options[itemsTaken - 1];
+                for (; namesTaken < last.names.size(); ++namesTaken) {
+                    take(NamePlace{&last,
+                                   static_cast<std::uint32_t>(itemsTaken - 1),
                                    static_cast<std::uint32_t>(namesTaken)});
                 }
             }

@@ -4,10 +4,11 @@
 #define ZARN_OPTIONS_OPTION_DESCRIPTION_H
 
 #include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <map>
 #include <set>
 #include <string>
-#include <type_traits>
 #include <vector>
 
 #include "recognizers/token_helpers.h"
@@ -23,13 +24,12 @@ enum ItemKind : int {
 
 // The item behind an IOption, read directly by everything that works with the vocabulary.
 //
-// It has no copy operation or destructor of its own, so that it is moved when the registry grows.
 class OptionDescription final : public IOption {
 public:
     result_t result = resultSuccess;
+    std::uint32_t section = 0;       // index of its pair in the registry's sections
     std::vector<std::string> names;  // the primary name first; without dashes
     std::set<std::string> tags;      // what ties modifiers to actions
-    std::size_t section = 0;         // index of its pair in the registry's sections
     std::string description;
     bool isPositional = false;
     bool hasDefault = false;
@@ -74,7 +74,8 @@ public:
     std::string getDefaultValueAsText() const;
 };
 
-static_assert(std::is_nothrow_move_constructible_v<OptionDescription>);
+// Items stay where they are: a vocabulary that grows moves and copies none.
+using OptionList = std::deque<OptionDescription>;
 
 }  // namespace zarn_3_3
 

@@ -7,67 +7,68 @@
 namespace zarn_3_3::internal {
 namespace {
 
-bool beginsWith(std::string_view text, std::string_view beginning) {
+bool isBeginning(std::string_view beginning, std::string_view text) {
     return text.substr(0, beginning.size()) == beginning;
 }
 
 }  // namespace
 
-std::string PrefixIndex::Candidate::text(const std::vector<OptionDescription>& options) const {
-    const std::string& name = place.in(options);
+std::string PrefixIndex::Candidate::text() const {
+    const std::string& name = place.text();
     return isNoForm ? std::string(noPrefix).append(name) : name;
 }
 
-std::size_t PrefixIndex::Candidate::size(const std::vector<OptionDescription>& options) const {
-    return place.in(options).size() + (isNoForm ? noPrefix.size() : 0);
+bool PrefixIndex::Candidate::beginsWith(std::string_view beginning) const {
+    if (!isNoForm) {
+        return isBeginning(beginning, place.text());
+    }
+    const std::string_view head = beginning.substr(0, noPrefix.size());
+    return isBeginning(head, noPrefix) && isBeginning(beginning.substr(head.size()), place.text());
+}
+
+std::size_t PrefixIndex::Candidate::size() const {
+    return place.text().size() + (isNoForm ? noPrefix.size() : 0);
 }
 
 void PrefixIndex::appendBeginningWith(std::string_view text,
-                                      const std::vector<OptionDescription>& options,
+                                      const OptionList& options,
                                       std::vector<std::string>& names) {
     catchUp(options);
     if (text.size() > longest) {
         return;
     }
     Length& length = lengths[text.size()];
-    catchUp(length, text.size(), options);
-    const Entry* const found = find(length, TextTable::hash(text), text, options);
+    catchUp(length, text.size());
+    const Entry* const found = find(length, TextTable::hash(text), text);
     if (found == nullptr) {
         return;
     }
     if (!found->isShared) {
-        names.push_back(candidates[found->candidate].text(options));
+        names.push_back(candidates[found->candidate].text());
         return;
     }
     for (const Candidate& candidate : candidates) {
-        std::string full = candidate.text(options);
-        if (beginsWith(full, text)) {
-            names.push_back(std::move(full));
+        if (candidate.beginsWith(text)) {
+            names.push_back(candidate.text());
         }
     }
 }
 
-void PrefixIndex::catchUp(const std::vector<OptionDescription>& options) {
+void PrefixIndex::catchUp(const OptionList& options) {
     walk.catchUp(options, [&](NamePlace place) {
         candidates.push_back({place, false});  // again after a failure, which does no harm
-        if (options[place.item].type == vtBool) {
+        if (place.item->type == vtBool) {
             candidates.push_back({place, true});
         }
-        longest = std::max(longest, candidates.back().size(options));
+        longest = std::max(longest, candidates.back().size());
     });
 }
 
-void PrefixIndex::catchUp(Length& length,
-                          std::size_t size,
-                          const std::vector<OptionDescription>& options) const {
+void PrefixIndex::catchUp(Length& length, std::size_t size) const {
     for (; length.taken < candidates.size(); ++length.taken) {
         const Candidate& candidate = candidates[length.taken];
-        if (candidate.size(options) >= size) {
-            add(length,
-                static_cast<std::uint32_t>(length.taken),
-                candidate.text(options),
-                size,
-                options);
+        if (candidate.size() >= size) {
+            add(length, static_cast<std::uint32_t>(length.taken), candidate.text(), size);
         }
     }
 }
@@ -75,26 +76,24 @@ void PrefixIndex::catchUp(Length& length,
 void PrefixIndex::add(Length& length,
                       std::uint32_t candidate,
                       std::string_view text,
-                      std::size_t size,
-                      const std::vector<OptionDescription>& options) const {
+                      std::size_t size) const {
     const std::string_view beginning = text.substr(0, size);
     const std::uint32_t hash = TextTable::hash(beginning);
-    const Entry* const known = find(length, hash, beginning, options);
+    const Entry* const known = find(length, hash, beginning);
     if (known == nullptr) {
         length.table.makeRoom();
         length.entries.push_back({candidate, false});
         length.table.add(hash, static_cast<std::uint32_t>(length.entries.size() - 1));
-    } else if (candidates[known->candidate].text(options) != text) {
+    } else if (!candidates[known->candidate].equals(text)) {
         length.entries[static_cast<std::size_t>(known - length.entries.data())].isShared = true;
     }
 }
 
 const PrefixIndex::Entry* PrefixIndex::find(const Length& length,
                                             std::uint32_t hash,
-                                            std::string_view beginning,
-                                            const std::vector<OptionDescription>& options) const {
+                                            std::string_view beginning) const {
     const std::uint32_t found = length.table.find(hash, [&](std::uint32_t entry) {
-        return beginsWith(candidates[length.entries[entry].candidate].text(options), beginning);
+        return candidates[length.entries[entry].candidate].beginsWith(beginning);
     });
     return found == TextTable::none ? nullptr : &length.entries[found];
 }

@@ -23,7 +23,7 @@ public:
     // names, each name before its "no-" form. Equal candidates may stand there more than once.
     // Throws std::bad_alloc.
     void appendBeginningWith(std::string_view text,
-                             const std::vector<OptionDescription>& options,
+                             const OptionList& options,
                              std::vector<std::string>& names);
 
 private:
@@ -32,8 +32,12 @@ private:
         NamePlace place;
         bool isNoForm;
 
-        std::string text(const std::vector<OptionDescription>& options) const;
-        std::size_t size(const std::vector<OptionDescription>& options) const;
+        std::string text() const;
+        std::size_t size() const;
+        bool beginsWith(std::string_view beginning) const;
+        bool equals(std::string_view other) const {
+            return size() == other.size() && beginsWith(other);
+        }
     };
 
     // The candidates by their beginnings of one length: the first that begins so, and whether
@@ -48,19 +52,13 @@ private:
         TextTable table;
     };
 
-    void catchUp(const std::vector<OptionDescription>& options);
-    void catchUp(Length& length,
-                 std::size_t size,
-                 const std::vector<OptionDescription>& options) const;
+    void catchUp(const OptionList& options);
+    void catchUp(Length& length, std::size_t size) const;
     void add(Length& length,
              std::uint32_t candidate,
              std::string_view text,
-             std::size_t size,
-             const std::vector<OptionDescription>& options) const;
-    const Entry* find(const Length& length,
-                      std::uint32_t hash,
-                      std::string_view beginning,
-                      const std::vector<OptionDescription>& options) const;
+             std::size_t size) const;
+    const Entry* find(const Length& length, std::uint32_t hash, std::string_view beginning) const;
 
     NameWalk walk;
     std::vector<Candidate> candidates;  // in the order of declaration

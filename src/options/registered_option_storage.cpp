@@ -14,14 +14,6 @@ namespace {
 
 const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
-// Grows as push_back would, so that the push_back that follows cannot fail.
-template <typename Element>
-void makeRoomForOne(std::vector<Element>& elements) {
-    if (elements.size() == elements.capacity()) {
-        elements.reserve(std::max<std::size_t>(8, 2 * elements.capacity()));
-    }
-}
-
 }  // namespace
 
 IOption& RegisteredOptionStorage::option(const char* names,
@@ -80,13 +72,12 @@ IOption& RegisteredOptionStorage::declare(const char* names,
     if (isAction) {
         split(names, item.tags);
     }
-    makeRoomForOne(options);
     options.push_back(std::move(item));
     actionCount += isAction ? 1 : 0;
     return options.back();
 }
 
-std::size_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
+std::uint32_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
     const std::size_t colon = section.find(':');
     const std::string_view key = section.substr(0, colon);
     const std::uint32_t hash = TextTable::hash(key);
@@ -100,7 +91,7 @@ std::size_t RegisteredOptionStorage::findOrAddSection(std::string_view section) 
     sectionTable.makeRoom();
     sections.emplace_back(key, title);
     sectionTable.add(hash, static_cast<std::uint32_t>(sections.size() - 1));
-    return sections.size() - 1;
+    return static_cast<std::uint32_t>(sections.size() - 1);
 }
 
 // What clients chain onto a refused declaration must not pile up.
@@ -119,7 +110,7 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
                std::find(item.names.begin(), item.names.end(), name) != item.names.end();
     };
     // Nearly always the first item with the name is the only one; synonyms can give it to more.
-    const std::size_t first = names().firstNamed(name, options);
+    const std::size_t first = names().firstNamed(name);
     return first != NameIndex::none &&
            std::any_of(
                options.begin() + static_cast<std::ptrdiff_t>(first), options.end(), isWanted);
@@ -127,13 +118,14 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
 
 std::size_t RegisteredOptionStorage::firstPositional() const {
     // The item declared last may still become positional, so it is looked at again.
-    for (std::size_t i = searchedForPositional; i < options.size(); ++i) {
-        if (options[i].isPositional) {
-            return i;
+    for (; positionalItem == NameIndex::none && notPositional < options.size(); ++notPositional) {
+        if (options[notPositional].isPositional) {
+            positionalItem = notPositional;
+        } else if (isOpen(notPositional)) {
+            break;
         }
-        searchedForPositional = i;
     }
-    return NameIndex::none;
+    return positionalItem;
 }
 
 const NameIndex& RegisteredOptionStorage::names() const {
@@ -152,7 +144,7 @@ result_t validateName(const std::vector<std::string>& names) {
 result_t findOption(std::string_view name,
                     std::size_t& index,
                     const RegisteredOptionStorage& registry) {
-    const std::size_t found = registry.names().first(name, registry.items());
+    const std::size_t found = registry.names().first(name);
     if (found == NameIndex::none) {
         return resultFailure;
     }

@@ -17,8 +17,8 @@
 
 namespace zarn_3_3 {
 
-// Only grows. The reference that a declaration hands out is valid until the next one, which may
-// move the items.
+// Only grows, and only the item declared last changes: the reference that a declaration hands out
+// is valid until the next one.
 class RegisteredOptionStorage final {
 public:
     // Declares an item. A refused declaration, or one for which memory runs out, hands out the
@@ -42,7 +42,7 @@ public:
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
 
-    const std::vector<OptionDescription>& items() const { return options; }
+    const OptionList& items() const { return options; }
 
     // The (key, title) pairs of the help in the order of their first mention; an item's `section`
     // counts in them.
@@ -58,6 +58,9 @@ public:
     // Whether an item has exactly this name, among the actions or among the others, and with a
     // section that is not null in the one with that key.
     bool isDeclared(std::string_view name, bool isAction, const char* section) const;
+
+    // Whether settings can still be made on the item: it is the one declared last.
+    bool isOpen(std::size_t item) const { return item + 1 == options.size(); }
 
     // The index of the first positional item, or NameIndex::none.
     std::size_t firstPositional() const;
@@ -75,11 +78,11 @@ private:
                      bool isAction,
                      das_variant_type_t type,
                      const char* section);
-    std::size_t findOrAddSection(std::string_view section);
+    std::uint32_t findOrAddSection(std::string_view section);
     IOption& refused() noexcept;
 
     char separator = ',';
-    std::vector<OptionDescription> options;
+    OptionList options;
     std::vector<std::pair<std::string, std::string>> sections;
     internal::TextTable sectionTable;  // key to section
     std::size_t actionCount = 0;
@@ -87,7 +90,8 @@ private:
 
     mutable internal::NameIndex index;
     mutable internal::PrefixIndex prefixIndex;
-    mutable std::size_t searchedForPositional = 0;  // that many items in front are not positional
+    mutable std::size_t positionalItem = internal::NameIndex::none;
+    mutable std::size_t notPositional = 0;  // that many items in front
 };
 
 // Refuses (resultFailure) four names and more, and three of which the third has more than two

@@ -68,10 +68,13 @@ IArgumentParser* ParseDriver::chooseRecognizer(const std::vector<IArgumentParser
     int highest = -99999999;
     std::string discarded;
     for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(args, registry, discarded) == 0 &&
-            recognizer->getPriority() > highest) {
+        if (recognizer->recognize(args, registry, discarded) != 0) {
+            continue;
+        }
+        const int priority = recognizer->getPriority();
+        if (priority > highest) {
             chosen = recognizer;
-            highest = recognizer->getPriority();
+            highest = priority;
         }
     }
     return chosen;

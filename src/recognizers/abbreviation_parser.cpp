@@ -118,11 +118,11 @@ int AbbreviationParser::parse(std::vector<std::string>& args,
     if (code != resultOk) {
         return code;
     }
-    if (handler == nullptr) {
-        code = bind(option, args, collector, error);
-    } else {
-        const OptionDescription copy = option;  // a handler may move the item
+    if (mayChange(matchIndex, registry)) {
+        const OptionDescription copy = option;
         code = bind(copy, args, collector, error);
+    } else {
+        code = bind(option, args, collector, error);
     }
     for (; code == resultOk && count > 0; --count) {
         removeFront(args);

@@ -1,7 +1,7 @@
 #include "recognizers/argument_parser.h"
 
 #include "log/zarn_log.h"
-#include "options/option_description.h"
+#include "options/registered_option_storage.h"
 #include "recognizers/argument_source.h"
 #include "recognizers/messages.h"
 #include "result/option_data.h"
@@ -39,6 +39,10 @@ int IArgumentParser::refuse(const std::string& error) const {
 void IArgumentParser::removeFront(std::vector<std::string>& args) {
     trace(name, ": removing argument: '", args[0], "'");
     source.removeFront(args);
+}
+
+bool IArgumentParser::mayChange(std::size_t item, const RegisteredOptionStorage& registry) const {
+    return handler != nullptr && registry.isOpen(item);
 }
 
 // One occurrence on its way into the result.

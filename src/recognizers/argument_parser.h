@@ -30,9 +30,10 @@ class ArgumentSource;
 // Takes arguments from the front of an argument vector.
 //
 // `handler` hears of every option and value; it is null when nobody listens. Then no client code
-// runs during an occurrence, nothing can move, and the item is used where it stands; otherwise a
-// copy is taken first, since a handler may declare items. `rest` holds what stands behind the
-// argument vectors that are parsed.
+// runs during an occurrence, and the item is used where it stands. A handler may still change the
+// item declared last, so of that one a copy is taken first: an occurrence is bound to the item as
+// it was when it was recognised. `rest` holds what stands behind the argument vectors that are
+// parsed.
 class IArgumentParser {
 public:
     IArgumentParser(EventHandler* listener,
@@ -92,6 +93,9 @@ protected:
     int refuse(const std::string& error) const;
 
     void removeFront(std::vector<std::string>& args);
+
+    // Whether a handler could change the item while it is bound.
+    bool mayChange(std::size_t item, const RegisteredOptionStorage& registry) const;
 
     // Asked once unless somebody listens, who may set another locale.
     internal::TextLocale textLocale() const {

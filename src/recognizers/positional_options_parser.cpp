@@ -43,11 +43,11 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args,
     // Kept: the log and onOptionParse name the item declared first, whichever that is.
     trace(name, ": option is '", registry.items().front().primaryName(), "'");
     const OptionDescription& option = registry.items()[optionIndex];
-    if (handler == nullptr) {
-        return parseArguments(option, args, collector, registry, error);
+    if (mayChange(optionIndex, registry)) {
+        const OptionDescription copy = option;
+        return parseArguments(copy, args, collector, registry, error);
     }
-    const OptionDescription copy = option;  // a handler may move the item
-    return parseArguments(copy, args, collector, registry, error);
+    return parseArguments(option, args, collector, registry, error);
 }
 
 int PositionalOptionsParser::parseArguments(const OptionDescription& option,

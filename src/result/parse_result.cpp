@@ -42,7 +42,7 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
     return 0;
 }
 
-void ParseResult::applyDefault(const std::vector<OptionDescription>& items) {
+void ParseResult::applyDefault(const OptionList& items) {
     for (const OptionDescription& item : items) {
         if (item.type == vtNull || !item.hasDefault) {
             continue;
@@ -91,23 +91,23 @@ StoredOption& ParseResult::findOrAdd(std::string_view name) {
 
 // Adds all of `data`, or nothing.
 void ParseResult::append(StoredOption& entry, const OptionData& data) {
-    makeRoom(entry.positions, data.positions.size());
-    makeRoom(entry.values, data.values.size());
     const std::size_t valuesBefore = entry.values.size();
+    const std::size_t positionsBefore = entry.positions.size();
     try {
         for (const OptionValue& value : data.values) {
             entry.values.push_back({value.value, textOf(value), value.position});
         }
+        entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
     } catch (...) {
         entry.values.erase(entry.values.begin() + static_cast<std::ptrdiff_t>(valuesBefore),
                            entry.values.end());
         throw;
     }
-    for (const int position : data.positions) {
-        entry.isAscending =
-            entry.isAscending && (entry.positions.empty() || entry.positions.back() < position);
-        entry.positions.push_back(position);
-    }
+    entry.isAscending =
+        entry.isAscending &&
+        std::is_sorted(entry.positions.begin() + static_cast<std::ptrdiff_t>(
+                                                     positionsBefore > 0 ? positionsBefore - 1 : 0),
+                       entry.positions.end());
 }
 
 // The first occurrence of an option makes its entries anew, whatever another item with the same

@@ -8,6 +8,7 @@
 #include <string_view>
 #include <vector>
 
+#include "options/option_description.h"
 #include "options/text_arena.h"
 #include "options/text_table.h"
 #include "result/result_collector.h"
@@ -44,7 +45,7 @@ public:
 
     // Records the default of every item that has one under each of its names. Throws what drawing a
     // number and memory throw; what was recorded by then stays.
-    void applyDefault(const std::vector<OptionDescription>& options);
+    void applyDefault(const OptionList& options);
 
     // Keeps an argument that is not parsed, under the next number of the sequence.
     void storeArgument(std::string_view argument);

@@ -140,7 +140,7 @@ bool hasName(const OptionDescription& item, const std::string& name) {
     return std::find(item.names.begin(), item.names.end(), name) != item.names.end();
 }
 
-std::size_t slowFind(const std::string& name, const std::vector<OptionDescription>& items) {
+std::size_t slowFind(const std::string& name, const OptionList& items) {
     const auto found = std::find_if(items.begin(), items.end(), [&](const OptionDescription& item) {
         const bool isNoForm = item.type == vtBool && name.substr(0, 3) == "no-";
         return hasName(item, name) || (isNoForm && hasName(item, name.substr(3)));
@@ -148,7 +148,7 @@ std::size_t slowFind(const std::string& name, const std::vector<OptionDescriptio
     return static_cast<std::size_t>(found - items.begin());
 }
 
-Names slowCandidates(const std::string& text, const std::vector<OptionDescription>& items) {
+Names slowCandidates(const std::string& text, const OptionList& items) {
     Names all;
     const auto add = [&](const std::string& name) {
         if (name.substr(0, text.size()) == text &&

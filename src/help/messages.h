@@ -15,7 +15,7 @@ namespace zarn_3_3::internal::messages {
 
 constexpr const char* unknownError = "Unknown error handled.";
 
-[[gnu::cold, gnu::noinline]] inline std::string noSuchTopic(std::string_view topic) {
+inline std::string noSuchTopic(std::string_view topic) {
     return joined({"Help for ", topic, " not available.Please use one of the following topics:\n"});
 }
 

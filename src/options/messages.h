@@ -16,9 +16,9 @@ namespace zarn_3_3::internal::messages {
 constexpr const char* nameIsTaken =
     "Tried to register an option with a name, which is alread registered: ";
 
-[[gnu::cold, gnu::noinline]] inline std::string notOfItsType(std::string_view option,
-                                                             std::string_view text,
-                                                             std::string_view typeName) {
+inline std::string notOfItsType(std::string_view option,
+                                std::string_view text,
+                                std::string_view typeName) {
     return joined({"Option '",
                    option,
                    "' can not parse '",
@@ -28,15 +28,14 @@ constexpr const char* nameIsTaken =
                    "' here."});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string ambiguousValue(std::string_view option,
-                                                               std::string_view valueList) {
+inline std::string ambiguousValue(std::string_view option, std::string_view valueList) {
     return joined(
         {"Ambiguous value for option '", option, "'. Possible values follows: ", valueList});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string valueNotAllowed(std::string_view option,
-                                                                std::string_view text,
-                                                                std::string_view valueList) {
+inline std::string valueNotAllowed(std::string_view option,
+                                   std::string_view text,
+                                   std::string_view valueList) {
     return joined({"Option '",
                    option,
                    "' does not allow value '",
@@ -45,9 +44,9 @@ constexpr const char* nameIsTaken =
                    valueList});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string valueIsDeprecated(std::string_view option,
-                                                                  std::string_view text,
-                                                                  std::string_view replacement) {
+inline std::string valueIsDeprecated(std::string_view option,
+                                     std::string_view text,
+                                     std::string_view replacement) {
     return joined({"Warning: '",
                    text,
                    "' argument is deprecated for the option '-",

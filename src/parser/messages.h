@@ -13,16 +13,15 @@
 
 namespace zarn_3_3::internal::messages {
 
-[[gnu::cold, gnu::noinline]] inline std::string unknownArgument(std::string_view argument) {
+inline std::string unknownArgument(std::string_view argument) {
     return joined({"Unknown option: ", argument});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string optionFileUnreadable(std::string_view path) {
+inline std::string optionFileUnreadable(std::string_view path) {
     return joined({"Error reading option file '", path, "'"});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string optionFileRefused(std::string_view path,
-                                                                  std::string_view reason) {
+inline std::string optionFileRefused(std::string_view path, std::string_view reason) {
     return joined({optionFileUnreadable(path), ": ", reason});
 }
 
@@ -30,8 +29,7 @@ constexpr const char* optionFileCycle = "the files name each other in a cycle";
 constexpr const char* tooManyOptionFiles = "more than 1000 option files in one parse";
 constexpr const char* tooMuchOptionText = "more than 256 MiB of option files in one parse";
 
-[[gnu::cold, gnu::noinline]] inline std::string actionsExclude(std::string_view action,
-                                                               std::string_view firstAction) {
+inline std::string actionsExclude(std::string_view action, std::string_view firstAction) {
     return joined({"Action '-",
                    action,
                    "' and action '-",
@@ -39,8 +37,7 @@ constexpr const char* tooMuchOptionText = "more than 256 MiB of option files in 
                    "' were defined, but only one action possible."});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string actionRefusesOption(std::string_view action,
-                                                                    std::string_view option) {
+inline std::string actionRefusesOption(std::string_view action, std::string_view option) {
     return joined({"Action '-", action, "' doesn't accept option '-", option, "'"});
 }
 

@@ -44,8 +44,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
     return recognizeName(argument, registry) ? recognized : declined;
 }
 
-// An ambiguous argument is recognised too, so that `parse` can refuse it: nobody else shall have
-// it.
+// An ambiguous argument is recognised too, for `parse` to refuse it: nobody else shall take it.
 bool AbbreviationParser::recognizeName(const std::string& argument,
                                        RegisteredOptionStorage& registry) {
     // An exact name beats every longer one, so there is nothing to search.
@@ -105,7 +104,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args,
         return resultRuleBroken;
     }
     if (!candidates.empty()) {
-        error = messages::ambiguousOption(text, args[0], candidates);
+        error = messages::ambiguousOption(text, formatTokenMessage(args[0]), candidates);
         return resultRuleBroken;
     }
     const OptionDescription& option = registry.items()[matchIndex];
@@ -136,14 +135,15 @@ int AbbreviationParser::decideValue(const OptionDescription& option,
                                     std::string& error) {
     if (option.type == vtNull) {
         if (!value.empty()) {
-            error = messages::switchTakesNoValue(option.primaryName(), args[0]);
+            error = messages::switchTakesNoValue(option.primaryName(), formatTokenMessage(args[0]));
             return refuse(error);
         }
         return resultOk;
     }
     if (option.type == vtBool) {
         if (!value.empty()) {
-            error = messages::booleanTakesNoValue(option.primaryName(), args[0]);
+            error =
+                messages::booleanTakesNoValue(option.primaryName(), formatTokenMessage(args[0]));
             return refuse(error);
         }
         value = beginsWithNo(matchName) ? "0" : "1";
@@ -159,7 +159,7 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option,
     trace(name, ": no value in the same argument, looking next");
     source.fillUp(args, 2);
     if (args.size() < 2) {
-        error = messages::valueRequired(option.primaryName(), args[0]);
+        error = messages::valueRequired(option.primaryName(), formatTokenMessage(args[0]));
         return refuse(error);
     }
     value = args[1];
@@ -170,7 +170,7 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option,
     count = 2;
     trace(name, ": got value from the next argument: '", value, "'");
     if (value.empty()) {
-        error = messages::valueRequired(option.primaryName(), args[0]);
+        error = messages::valueRequired(option.primaryName(), formatTokenMessage(args[0]));
         return refuse(error);
     }
     return resultOk;

@@ -13,66 +13,59 @@
 
 namespace zarn_3_3::internal::messages {
 
-[[gnu::cold, gnu::noinline]] inline std::string inArgument(std::string_view argument) {
+// The suffix of the messages below that name the argument they are about.
+inline std::string inArgument(std::string_view argument) {
     return joined({" in argument: '", argument, "'"});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string unknownOption(std::string_view argument) {
+inline std::string unknownOption(std::string_view argument) {
     return joined({"Unknown option '", argument, "'"});
 }
 
 constexpr const char* ambiguousOptions = "Ambiguous option, possible options are: ";
 
-[[gnu::cold, gnu::noinline]] inline std::string ambiguousOption(std::string_view text,
-                                                                std::string_view argument,
-                                                                std::string_view candidates) {
-    return joined(
-        {"Ambiguous option '", text, "'", inArgument(argument), ", could be: ", candidates});
+inline std::string ambiguousOption(std::string_view text,
+                                   std::string_view suffix,
+                                   std::string_view candidates) {
+    return joined({"Ambiguous option '", text, "'", suffix, ", could be: ", candidates});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string switchTakesNoValue(std::string_view option,
-                                                                   std::string_view argument) {
-    return joined({"Option '", option, "'does not requires a value", inArgument(argument)});
+inline std::string switchTakesNoValue(std::string_view option, std::string_view suffix) {
+    return joined({"Option '", option, "'does not requires a value", suffix});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string booleanTakesNoValue(std::string_view option,
-                                                                    std::string_view argument) {
+inline std::string booleanTakesNoValue(std::string_view option, std::string_view suffix) {
     return joined({"Option '",
                    option,
                    "' is boolean and should be declared in form '--option' or '--no-option'",
-                   inArgument(argument)});
+                   suffix});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string valueRequired(std::string_view option,
-                                                              std::string_view argument) {
-    return joined({"Option '", option, "' requires a value", inArgument(argument)});
+inline std::string valueRequired(std::string_view option, std::string_view suffix) {
+    return joined({"Option '", option, "' requires a value", suffix});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string valueSeemsToBeOption(std::string_view option,
-                                                                     std::string_view value) {
-    return joined(
-        {"Option '",
-         option,
-         "' received value from the next argument: '",
-         value,
-         "', but it seems to be an option. Use '-option=value' declaration form or make sure "
-         "that value is not missed"});
+inline std::string valueSeemsToBeOption(std::string_view option, std::string_view value) {
+    return joined({"Option '",
+                   option,
+                   "' received value from the next argument: '",
+                   value,
+                   "', but it seems to be an option. Use '-option=value' declaration form",
+                   " or make sure that value is not missed"});
 }
 
 // Quotes the value where the argument would be expected.
-[[gnu::cold, gnu::noinline]] inline std::string noValueParsed(std::string_view value,
-                                                              std::string_view option) {
+inline std::string noValueParsed(std::string_view value, std::string_view option) {
     return joined({"No value parsed in argument '", value, "' for option '", option, "'"});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string invalidValue(std::string_view argument,
-                                                             std::string_view reason) {
+inline std::string invalidValue(std::string_view argument, std::string_view reason) {
     return joined({"Value validation problem in argument '", argument, "': ", reason});
 }
 
-[[gnu::cold, gnu::noinline]] inline std::string vetoedValue(std::string_view value,
-                                                            std::string_view option,
-                                                            std::string_view argument) {
+inline std::string vetoedValue(std::string_view value,
+                               std::string_view option,
+                               std::string_view argument) {
     return joined({"Value '",
                    value,
                    "' is not valid for option '",

@@ -19,6 +19,8 @@ class NameIndex {
 public:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
+    bool isUpToDate(const OptionList& options) const { return walk.isUpToDate(options); }
+
     // Takes in the names that were declared since. Throws std::bad_alloc; what was taken in stays.
     void catchUp(const OptionList& options);
 

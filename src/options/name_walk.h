@@ -24,6 +24,11 @@ struct NamePlace {
 // can get further names, so catching up costs no more than the names that are new.
 class NameWalk {
 public:
+    bool isUpToDate(const OptionList& options) const {
+        return itemsTaken == options.size() &&
+               (options.empty() || namesTaken == options.back().names.size());
+    }
+
     // Calls take(place) for every name that was declared since, in the order of the items and of
     // their names. A name whose take throws is taken again the next time.
     template <typename Take>

@@ -70,9 +70,9 @@ bool OptionDescription::operator<(const OptionDescription& other) const {
     return primaryName() < other.primaryName();
 }
 
-const std::string& OptionDescription::primaryName() const {
-    static const std::string unnamed;
-    return names.empty() ? unnamed : names.front();
+const std::string& OptionDescription::noName() {
+    static const std::string empty;
+    return empty;
 }
 
 }  // namespace zarn_3_3

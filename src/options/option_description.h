@@ -53,7 +53,7 @@ public:
     bool operator<(const OptionDescription& other) const;
 
     // The primary name; empty for an item without names.
-    const std::string& primaryName() const;
+    const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 
     // Whether `text` is a value of the item: converts it into `converted`, checks it against the
     // allowed values and completes an abbreviated one in `text`. On false `error` says why, and
@@ -72,6 +72,9 @@ public:
 
     std::string getTypeName() const;
     std::string getDefaultValueAsText() const;
+
+private:
+    static const std::string& noName();
 };
 
 // Items stay where they are: a vocabulary that grows moves and copies none.

@@ -129,7 +129,9 @@ std::size_t RegisteredOptionStorage::firstPositional() const {
 }
 
 const NameIndex& RegisteredOptionStorage::names() const {
-    index.catchUp(options);
+    if (!index.isUpToDate(options)) {
+        index.catchUp(options);
+    }
     return index;
 }
 

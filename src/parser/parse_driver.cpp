@@ -66,9 +66,8 @@ IArgumentParser* ParseDriver::chooseRecognizer(const std::vector<IArgumentParser
                                                std::vector<std::string>& args) {
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
-    std::string discarded;
     for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(args, registry, discarded) != 0) {
+        if (recognizer->recognize(args, registry, discardedMessage) != 0) {
             continue;
         }
         const int priority = recognizer->getPriority();

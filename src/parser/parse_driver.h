@@ -59,6 +59,7 @@ private:
     ParseResult* result;
     IResultCollector* collector;
     std::string& error;
+    std::string discardedMessage;  // of recognisers, which are only asked
 };
 
 }  // namespace internal

@@ -20,7 +20,7 @@ namespace {
 constexpr int recognized = 0;
 constexpr int declined = 1;
 
-bool beginsWithNo(const std::string& name) { return name.compare(0, 3, "no-") == 0; }
+bool beginsWithNo(std::string_view name) { return name.substr(0, noPrefix.size()) == noPrefix; }
 
 }  // namespace
 
@@ -74,7 +74,8 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
     const int matches = plinth2::find_best_match(
         plinth2::generic_iterator_t<std::string>(names), std::string(text), best);
     if (matches == 1) {
-        matchName = best.current();
+        completedName = best.current();
+        matchName = completedName;
     } else if (matches > 1) {
         for (; !best.atEnd(); best.advance()) {
             candidates += candidates.empty() ? "'" : ", '";

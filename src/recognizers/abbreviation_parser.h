@@ -45,11 +45,12 @@ private:
              std::string& error);
 
     std::size_t matchIndex = internal::NameIndex::none;
-    std::string candidates;  // tied names, quoted; empty unless the argument is ambiguous
-    std::string matchName;   // the name or "no-" form that was matched
-    std::string_view text;   // the argument cut: its name,
-    std::string_view value;  // its value,
-    bool hasValue = false;   // and whether one was attached
+    std::string candidates;      // tied names, quoted; empty unless the argument is ambiguous
+    std::string_view matchName;  // the name or "no-" form that was matched: the text itself,
+    std::string completedName;   // or this, which completes it
+    std::string_view text;       // the argument cut: its name,
+    std::string_view value;      // its value,
+    bool hasValue = false;       // and whether one was attached
 };
 
 // Appends the names, and "no-" forms of booleans, that begin with `text`, in the order of

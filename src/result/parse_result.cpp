@@ -28,7 +28,7 @@ void makeRoom(std::vector<Element>& elements, std::size_t count) {
 void ParseResult::destroy() { delete this; }
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
-    const std::size_t primary = findIndex(option.names.at(0));
+    const std::size_t primary = findStored(option.names.at(0));
     if (primary == none) {
         for (const std::string& name : option.names) {
             replace(name, data);
@@ -65,6 +65,14 @@ void ParseResult::storeArgument(std::string_view argument) {
     arguments.push_back(kept);
 }
 
+// The same option often comes several times in a row.
+std::size_t ParseResult::findStored(std::string_view name) {
+    if (lastStored >= options.size() || options[lastStored].name != name) {
+        lastStored = findIndex(name);
+    }
+    return lastStored;
+}
+
 const StoredOption* ParseResult::find(std::string_view name) const {
     const std::size_t found = findIndex(name);
     return found == none ? nullptr : &options[found];
@@ -95,7 +103,7 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
     const std::size_t positionsBefore = entry.positions.size();
     try {
         for (const OptionValue& value : data.values) {
-            entry.values.push_back({value.value, textOf(value), value.position});
+            entry.values.emplace_back(value.value, textOf(value), value.position);
         }
         entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
     } catch (...) {

@@ -63,6 +63,7 @@ private:
     enum class Wanted { presence, value };
 
     std::size_t findIndex(std::string_view name) const;
+    std::size_t findStored(std::string_view name);
     internal::StoredOption& findOrAdd(std::string_view name);
     void append(internal::StoredOption& entry, const OptionData& data);
     void replace(std::string_view name, const OptionData& data);
@@ -77,6 +78,7 @@ private:
     std::vector<internal::StoredOption> options;
     internal::TextTable table;  // name to entry
     internal::TextArena texts;
+    std::size_t lastStored = none;  // the entry that the last store found
 
     std::size_t current = none;      // the entry that the last query selected
     std::size_t valueCursor = 0;     // in its values

@@ -10,12 +10,19 @@
 
 namespace zarn_3_3::internal {
 
-// The text belongs to the result, or to the value where that holds the same text.
-struct StoredValue {
-    variant_t value;
-    const char* text;
+// A value with its text, which belongs to the result, or to the value where that holds the same.
+//
+// Derived, so that the position fits into the bytes that a variant_t leaves free at its end: a
+// result holds one of these for every value.
+struct StoredValue : variant_t {
+    StoredValue(const variant_t& value, const char* keptText, int number)
+        : variant_t(value), position(number), text(keptText) {}
+
     int position;
+    const char* text;
 };
+
+static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));
 
 struct StoredOption {
     std::string name;

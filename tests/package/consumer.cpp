@@ -3,32 +3,27 @@
 
 #include <zarn/zarn.h>
 
+#include <climits>
 #include <iostream>
-#include <limits>
 
 namespace {
 
-class PathRefuser final : public zarn::EventHandler {
-public:
+struct PathRefuser final : zarn::EventHandler {
     bool onValueParse(const char*, const zarn::Value& value) override {
         return value.as<const char*>()[0] != '/';
     }
 };
 
-constexpr int everything = std::numeric_limits<int>::max();
-
 void declare(zarn::IParser& parser) {
     parser.option("name,n", "Who is greeted.", zarn::vtString, "main:Main options");
     parser.option("count,c", "How often.", zarn::vtS32, "main").defaultValue(1);
-    parser.option("tone", "How loud.", zarn::vtString, "main")
-        .allowValue("quiet")
-        .allowValue("loud");
+    parser.option("tone", "How loud.", zarn::vtString, "main").allowValue("loud");
 }
 
 void greet(zarn::IParseResult& result) {
-    const char* name = zarn::getLastValue(&result, "name", 0, everything).as<const char*>();
-    const int count = result.get("count", 0, everything).value.get<int>();
-    const zarn::Value tone = result.get("tone", 0, everything);
+    const char* name = zarn::getLastValue(&result, "name", 0, INT_MAX).as<const char*>();
+    const int count = result.get("count", 0, INT_MAX).value.get<int>();
+    const zarn::Value tone = result.get("tone", 0, INT_MAX);
     for (int i = 0; i < count; ++i) {
         std::cout << "Hello, " << (name ? name : "world") << ", "
                   << plinth2::get_variant_value(tone.value, "normal") << '\n';

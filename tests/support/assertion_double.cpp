@@ -1,27 +1,13 @@
 #include "support/assertion_double.h"
 
-#include <mutex>
 #include <utility>
 
 #include "platform/assertion.h"
 
-namespace {
+static std::string reported;
 
-std::mutex guard;
-std::vector<std::string> reported;
+std::string takeAssertions() { return std::exchange(reported, {}); }
 
-}  // namespace
-
-std::vector<std::string> takeAssertions() {
-    const std::lock_guard<std::mutex> lock(guard);
-    return std::exchange(reported, {});
+void TROV_2_18::debugAssertionFailed(const char* text) noexcept {
+    reported += std::string(text) + "\n";
 }
-
-namespace TROV_2_18 {
-
-void debugAssertionFailed(const char* text) noexcept {
-    const std::lock_guard<std::mutex> lock(guard);
-    reported.emplace_back(text);
-}
-
-}  // namespace TROV_2_18

@@ -4,10 +4,9 @@
 #define ZARN_TESTS_SUPPORT_ASSERTION_DOUBLE_H
 
 #include <string>
-#include <vector>
 
-// The texts reported since the last call, in order. Linking this file replaces the assertion hook
-// of the library, whatever the build type.
-std::vector<std::string> takeAssertions();
+// The texts reported since the last call, in order, each with a line feed. Linking this file
+// replaces the assertion hook of the library, whatever the build type.
+std::string takeAssertions();
 
 #endif  // ZARN_TESTS_SUPPORT_ASSERTION_DOUBLE_H

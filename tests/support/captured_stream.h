@@ -12,8 +12,6 @@ class CapturedStream {
 public:
     explicit CapturedStream(std::ostream& captured)
         : stream(captured), before(captured.rdbuf(taken.rdbuf())) {}
-    CapturedStream(const CapturedStream&) = delete;
-    CapturedStream& operator=(const CapturedStream&) = delete;
     ~CapturedStream() { stream.rdbuf(before); }
 
     std::string text() const { return taken.str(); }

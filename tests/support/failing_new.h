@@ -5,42 +5,15 @@
 
 #include <cstddef>
 
-// Linking this file replaces operator new and delete in the whole program.
-
-enum class Outage {
-    once,     // the n-th allocation fails, the next one works again
-    lasting,  // every allocation from the n-th on fails
+// What one thread takes from operator new. Linking this file replaces that in the whole program.
+struct Memory {
+    std::size_t blocks = 0;  // taken since the thread began, given back or not
+    std::size_t bytes = 0;
+    long left = 0;           // allocations up to the one that fails, 1 for the next; 0: none will
+    bool isLasting = false;  // whether all that follow fail as well
+    bool hasStruck = false;
 };
 
-// While it lives, allocations of this thread fail as asked; `countdown` 1 is the next one.
-class FailingNew {
-public:
-    FailingNew(long countdown, Outage outage);
-    ~FailingNew();
-    FailingNew(const FailingNew&) = delete;
-    FailingNew& operator=(const FailingNew&) = delete;
-
-    // Whether the allocation to fail was reached.
-    bool struck() const;
-};
-
-// What this thread took from operator new since it began, given back or not.
-struct Allocated {
-    std::size_t blocks;
-    std::size_t bytes;
-};
-
-Allocated allocated();
-
-// Calls scenario(countdown, outage) for every n from 1 until the scenario, which makes its own
-// FailingNew and answers struck(), runs through without a failure. Returns the last n.
-template <typename Scenario>
-long forEveryAllocation(Outage outage, Scenario scenario) {
-    long countdown = 1;
-    while (scenario(countdown, outage)) {
-        ++countdown;
-    }
-    return countdown;
-}
+extern thread_local Memory memory;
 
 #endif  // ZARN_TESTS_SUPPORT_FAILING_NEW_H

@@ -1,8 +1,8 @@
 #include "support/tool.h"
 
 #include <algorithm>
+#include <regex>
 #include <sstream>
-#include <stdexcept>
 
 #include "recognizers/argument_parser.h"
 
@@ -13,23 +13,15 @@ void append(std::string& list, const char* separator, const std::string& text) {
     list += (list.empty() ? "" : separator) + text;
 }
 
-std::string trimmed(const std::string& text) {
-    const std::size_t start = std::min(text.find_first_not_of(' '), text.size());
-    return text.substr(start, text.find_last_not_of(' ') + 1 - start);
-}
-
 }  // namespace
 
-std::vector<Words> rowsOf(const std::string& table) {
+std::vector<Words> rowsOf(const std::string& table, std::size_t columns) {
+    const std::regex bar(" *\\|( +|$)");
     std::vector<Words> rows;
     std::istringstream lines(table);
     for (std::string line; std::getline(lines, line);) {
-        Words& cells = rows.emplace_back();
-        std::size_t bar = 0;
-        for (; (bar = line.find(" |")) != std::string::npos; line.erase(0, bar + 2)) {
-            cells.push_back(trimmed(line.substr(0, bar)));
-        }
-        cells.push_back(trimmed(line));
+        const std::sregex_token_iterator cells(line.begin(), line.end(), bar, -1);
+        rows.emplace_back(cells, std::sregex_token_iterator()).resize(columns);
     }
     return rows;
 }
@@ -44,25 +36,14 @@ Words wordsOf(const std::string& text) {
     return words;
 }
 
-bool Recorder::onOptionParse(const char* name) { return hear(std::string("option ") + name); }
-
-bool Recorder::onValueParse(const char* name, const Value& value) {
-    return hear(std::string("value ") + name + "=" + value.text);
-}
-
-bool Recorder::onUknownArgument(const char* argument) {
-    return hear(std::string("unknown ") + argument);
-}
-
 bool Recorder::hear(const std::string& event) {
     append(events, "; ", event);
     return answer == nullptr || answer(event);
 }
 
 Tool::Tool(int flags) : base(IArgumentParser::m_idx - 1) {
-    if (createParser(&parser, flags) != resultOk || parser->createResult(&result) != resultOk) {
-        throw std::runtime_error("A tool cannot be made");
-    }
+    createParser(&parser, flags);
+    parser->createResult(&result);
 }
 
 Tool::~Tool() {
@@ -94,11 +75,9 @@ void Tool::startNewResult() {
 }
 
 std::string Tool::show(const Value& value) const {
-    if (value.status != statusFound) {
-        return "status " + std::to_string(value.status);
-    }
-    return (value.text == nullptr ? "" : value.text) +
-           ("@" + std::to_string(value.position - base));
+    return value.status != statusFound ? ""
+                                       : (value.text == nullptr ? "" : value.text) +
+                                             ("@" + std::to_string(value.position - base));
 }
 
 std::string Tool::walk(const char* name, int from, int to) {
@@ -126,14 +105,13 @@ std::string Tool::stored() {
             append(all, " ", storedUnder(name.c_str()));
         }
     }
-    std::string kept;
     const char* text = nullptr;
-    for (int status = result->getFirstArgument(&text); status == statusFound;
-         status = result->getNextArgument(&text)) {
-        kept += std::string(" ") + text;
+    int status = result->getFirstArgument(&text);
+    if (status == statusFound) {
+        append(all, " ", "--");
     }
-    if (!kept.empty()) {
-        append(all, " ", "--" + kept);
+    for (; status == statusFound; status = result->getNextArgument(&text)) {
+        all += std::string(" ") + text;
     }
     return all;
 }

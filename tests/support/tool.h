@@ -15,8 +15,8 @@ namespace zarn_3_3::testing_support {
 using Words = std::vector<std::string>;
 
 // The rows of a table that is written as a text: one a line, its cells between bars that have a
-// blank before them.
-std::vector<Words> rowsOf(const std::string& table);
+// blank or the end of the line behind them. Cells that are missing are empty.
+std::vector<Words> rowsOf(const std::string& table, std::size_t columns);
 
 // The words of a text; in a word '_' stands for a blank, and '' alone for the empty word.
 Words wordsOf(const std::string& text);
@@ -24,9 +24,13 @@ Words wordsOf(const std::string& text);
 // Records what it hears: "option <name>; value <name>=<text>; unknown <argument>".
 class Recorder final : public EventHandler {
 public:
-    bool onOptionParse(const char* name) override;
-    bool onValueParse(const char* name, const Value& value) override;
-    bool onUknownArgument(const char* argument) override;
+    bool onOptionParse(const char* name) override { return hear(std::string("option ") + name); }
+    bool onValueParse(const char* name, const Value& value) override {
+        return hear(std::string("value ") + name + "=" + value.text);
+    }
+    bool onUknownArgument(const char* argument) override {
+        return hear(std::string("unknown ") + argument);
+    }
 
     std::string events;
     std::function<bool(const std::string& event)> answer;  // without, every answer is true
@@ -54,10 +58,10 @@ public:
 
     // Numbers count from the first that was drawn since the tool was made.
     int number(int relative) const { return relative == INT_MAX ? INT_MAX : base + relative; }
-    std::string show(const Value& value) const;  // "text@number", or "status 1"
 
     // "text@number" of every value, "@number" of every occurrence of a switch.
     std::string walk(const char* name, int from = 0, int to = INT_MAX);
+    std::string show(const Value& value) const;  // one of them; empty when nothing was found
 
     // The texts of the values, as "1|2".
     std::string values(const char* name);

@@ -1,0 +1,108 @@
+// Declared items: their values as texts, and how they are found by name.
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <iostream>
+#include <random>
+
+#include "options/registered_option_storage.h"
+#include "support/assertion_double.h"
+#include "support/captured_stream.h"
+
+namespace zarn_3_3 {
+namespace {
+
+struct Writing {
+    das_variant_type_t type;
+    const char* typeName;
+    variant_t value;
+    const char* text;
+    const char* assertion;  // empty: the value can be read so
+};
+
+const variant_t lent("lent", true);
+
+const Writing writings[] = {
+    {vtBool,   "undefined", 7,         "1",           ""                        },
+    {vtS32,    "integer",   5LL,       "5",           "can_get<s32_t>()\n"      },
+    {vtDouble, "double",    1234567.0, "1.23457e+06", ""                        },
+    {vtString, "string",    lent,      "lent",        ""                        },
+    {vtString, "string",    5,         "",            "can_get<const char*>()\n"},
+    {vtNull,   "",          5,         "",            ""                        },
+};
+
+TEST(ToString, WritesWhatTheDeclaredTypeReads) {
+    for (const auto& [type, typeName, value, text, assertion] : writings) {
+        OptionDescription option;
+        option.type = type;
+        EXPECT_EQ(option.getTypeName(), typeName);
+        EXPECT_EQ(option.toString(value), text) << typeName;
+        EXPECT_EQ(takeAssertions(), assertion) << typeName;
+    }
+}
+
+TEST(Validate, WarnsOfDeprecatedValues) {
+    OptionDescription option;
+    option.type = vtString;
+    option.synonym("x").allowValue("new").allowDeprecatedValue("old", "new");
+    std::string text = "o";
+    variant_t value;
+    std::string error;
+    const CapturedStream warnings(std::cerr);
+    EXPECT_TRUE(option.validate(text, value, error));
+    EXPECT_EQ(text, "old");
+    EXPECT_EQ(warnings.text(),
+              "Warning: 'old' argument is deprecated for the option '-x'. Use the 'new' argument "
+              "instead.\n");
+}
+
+// Compares the lookups with what they are to find, item by item and without an index.
+void expectSlowAnswers(const RegisteredOptionStorage& registry, const std::string& text) {
+    const std::size_t size = registry.items().size();
+    std::size_t first = size;
+    bool isDeclared[2] = {false, false};
+    for (std::size_t i = 0; i < size; ++i) {
+        const OptionDescription& item = registry.items()[i];
+        for (const std::string& name : item.names) {
+            isDeclared[item.kind] = isDeclared[item.kind] || name == text;
+            for (const std::string& form : {name, item.type == vtBool ? "no-" + name : name}) {
+                first = form == text ? std::min(first, i) : first;
+            }
+        }
+    }
+    std::size_t found = size;
+    const result_t code = findOption(text, found, registry);
+    EXPECT_EQ(code == resultSuccess ? found : size, first) << text;
+    EXPECT_EQ(registry.isDeclared(text, true, nullptr), isDeclared[kindAction]) << text;
+    EXPECT_EQ(registry.isDeclared(text, false, nullptr), isDeclared[kindOption]) << text;
+}
+
+TEST(Registry, FindsWhatALinearSearchFinds) {
+    const std::vector<std::string> pool{
+        "", "a", "ab", "abc", "b", "n", "no", "no-", "no-a", "no-b", "nob", "no-no-a"};
+    std::mt19937 dice(42);
+    const auto drawn = [&] { return pool[dice() % pool.size()]; };
+    for (int round = 0; round < 400 && !testing::Test::HasFailure(); ++round) {
+        RegisteredOptionStorage registry;
+        IOption* last = nullptr;
+        for (int step = 0; step < 8; ++step) {
+            const bool isAction = dice() % 3 == 0;
+            const das_variant_type_t type = dice() % 2 == 0 ? vtBool : vtString;
+            if (last != nullptr && dice() % 3 == 0) {
+                last->synonym(drawn().c_str());
+            } else {
+                const std::string names = dice() % 2 == 0 ? drawn() : drawn() + "," + drawn();
+                last = &registry.option(names.c_str(), nullptr, "", isAction, type, "");
+            }
+            if (dice() % 4 != 0) {  // sometimes several are new at once
+                for (const std::string& text : pool) {
+                    expectSlowAnswers(registry, text);
+                }
+            }
+        }
+    }
+}
+
+}  // namespace
+}  // namespace zarn_3_3

@@ -138,7 +138,7 @@ double timeWalk(ZarnSession* session, const Workload& workload) {
 
 // The first values of all options, again and again.
 double timeGets(ZarnSession* session, const Workload& workload, std::size_t gets) {
-    const std::vector<OptionSpec>& options = workload.vocabulary.options;
+    const std::vector<DeclaredOption>& options = workload.vocabulary.options;
     std::size_t found = 0;
     const double seconds = timeStep([&] {
         for (std::size_t i = 0; i < gets; ++i) {

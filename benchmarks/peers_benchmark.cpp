@@ -52,11 +52,11 @@ double timeDeclarations(const Peer& peer, const Workload& workload) {
 }
 
 void requireHelp(const Peer& peer, const Workload& workload, const std::string& help) {
-    for (const OptionSpec& spec : workload.vocabulary.options) {
-        const std::string firstWord = spec.description.substr(0, spec.description.find(' '));
-        if (help.find("-" + spec.name) == std::string::npos ||
+    for (const DeclaredOption& item : workload.vocabulary.options) {
+        const std::string firstWord = item.description.substr(0, item.description.find(' '));
+        if (help.find("-" + item.name) == std::string::npos ||
             help.find(firstWord) == std::string::npos) {
-            std::fprintf(stderr, "the help of %s lacks %s\n", peer.name, spec.name.c_str());
+            std::fprintf(stderr, "the help of %s lacks %s\n", peer.name, item.name.c_str());
             std::exit(EXIT_FAILURE);
         }
     }

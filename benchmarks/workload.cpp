@@ -33,7 +33,7 @@ std::string describe(std::size_t index, std::size_t size) {
     return text;
 }
 
-OptionSpec option(std::size_t index, Kind kind, std::size_t descriptionSize = 24) {
+DeclaredOption option(std::size_t index, Kind kind, std::size_t descriptionSize = 24) {
     return {optionName(index), describe(index, descriptionSize), kind, false};
 }
 
@@ -94,14 +94,14 @@ void setExpected(const std::vector<Given>& given, Workload* workload) {
 // Writes the arguments, and what must be read back of them.
 void finish(std::vector<Given> given, NameForm form, Workload* workload) {
     for (Given& one : given) {
-        const OptionSpec& spec = workload->vocabulary.options[one.option];
+        const DeclaredOption& item = workload->vocabulary.options[one.option];
         std::string argument = form == NameForm::negated ? "--no-" : "--";
-        argument += form == NameForm::cut ? spec.name.substr(0, spec.name.size() - 1) : spec.name;
-        if (spec.positional) {
+        argument += form == NameForm::cut ? item.name.substr(0, item.name.size() - 1) : item.name;
+        if (item.positional) {
             argument = one.value;
-        } else if (spec.kind == Kind::toggle) {
+        } else if (item.kind == Kind::toggle) {
             one.value = form == NameForm::negated ? "0" : "1";
-        } else if (spec.kind != Kind::flag) {
+        } else if (item.kind != Kind::flag) {
             argument += "=" + one.value;
         }
         workload->line.add(argument);

@@ -26,7 +26,7 @@ enum class Kind {
 
 inline constexpr const char* choices[] = {"red", "green", "blue", "white"};
 
-struct OptionSpec {
+struct DeclaredOption {
     std::string name;
     std::string description;
     Kind kind = Kind::text;
@@ -34,7 +34,7 @@ struct OptionSpec {
 };
 
 struct Vocabulary {
-    std::vector<OptionSpec> options;
+    std::vector<DeclaredOption> options;
     bool multiValued = false;  // each option keeps all its values, or its only one
 };
 

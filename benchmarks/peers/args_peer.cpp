@@ -18,8 +18,8 @@ class ArgsSession final : public ISession {
 public:
     explicit ArgsSession(const Vocabulary& words) : vocabulary(words), parser("bench") {
         options.reserve(words.options.size());
-        for (const OptionSpec& spec : words.options) {
-            options.push_back(declare(spec));
+        for (const DeclaredOption& item : words.options) {
+            options.push_back(declare(item));
         }
     }
 
@@ -49,29 +49,29 @@ private:
         return map;
     }
 
-    std::unique_ptr<args::Base> declare(const OptionSpec& spec) {
-        const Text& name = spec.name;
-        const Text& help = spec.description;
-        if (spec.positional) {
+    std::unique_ptr<args::Base> declare(const DeclaredOption& item) {
+        const Text& name = item.name;
+        const Text& help = item.description;
+        if (item.positional) {
             return std::make_unique<args::PositionalList<Text>>(parser, name, help);
         }
         args::Matcher matcher{name};
-        if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
+        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
             return std::make_unique<args::Flag>(parser, name, help, std::move(matcher));
         }
-        if (spec.kind == Kind::real) {
+        if (item.kind == Kind::real) {
             return std::make_unique<args::ValueFlag<double>>(
                 parser, name, help, std::move(matcher));
         }
-        if (spec.kind == Kind::choice) {
+        if (item.kind == Kind::choice) {
             return std::make_unique<ChoiceFlag>(
                 parser, name, help, std::move(matcher), choiceMap());
         }
-        if (spec.kind == Kind::integer && vocabulary.multiValued) {
+        if (item.kind == Kind::integer && vocabulary.multiValued) {
             return std::make_unique<args::ValueFlagList<int>>(
                 parser, name, help, std::move(matcher));
         }
-        if (spec.kind == Kind::integer) {
+        if (item.kind == Kind::integer) {
             return std::make_unique<args::ValueFlag<int>>(parser, name, help, std::move(matcher));
         }
         if (vocabulary.multiValued) {
@@ -81,18 +81,18 @@ private:
         return std::make_unique<args::ValueFlag<Text>>(parser, name, help, std::move(matcher));
     }
 
-    void readOne(const OptionSpec& spec, args::Base& base, Checksum* sum) const {
-        if (spec.positional) {
+    void readOne(const DeclaredOption& item, args::Base& base, Checksum* sum) const {
+        if (item.positional) {
             addAll(args::get(static_cast<args::PositionalList<Text>&>(base)), sum);
-        } else if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
+        } else if (item.kind == Kind::flag || item.kind == Kind::toggle) {
             sum->addNumber(args::get(static_cast<args::Flag&>(base)) ? 1 : 0);
-        } else if (spec.kind == Kind::real) {
+        } else if (item.kind == Kind::real) {
             sum->addReal(args::get(static_cast<args::ValueFlag<double>&>(base)));
-        } else if (spec.kind == Kind::choice) {
+        } else if (item.kind == Kind::choice) {
             sum->addText(args::get(static_cast<ChoiceFlag&>(base)));
-        } else if (spec.kind == Kind::integer && vocabulary.multiValued) {
+        } else if (item.kind == Kind::integer && vocabulary.multiValued) {
             addAll(args::get(static_cast<args::ValueFlagList<int>&>(base)), sum);
-        } else if (spec.kind == Kind::integer) {
+        } else if (item.kind == Kind::integer) {
             sum->addInteger(args::get(static_cast<args::ValueFlag<int>&>(base)));
         } else if (vocabulary.multiValued) {
             addAll(args::get(static_cast<args::ValueFlagList<Text>&>(base)), sum);

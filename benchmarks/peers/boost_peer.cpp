@@ -13,8 +13,8 @@ namespace zarn_benchmarks {
 
 namespace {
 
-const po::value_semantic* semantic(const OptionSpec& spec, bool multiValued) {
-    switch (spec.kind) {
+const po::value_semantic* semantic(const DeclaredOption& item, bool multiValued) {
+    switch (item.kind) {
         case Kind::integer:
             return multiValued ? static_cast<po::value_semantic*>(po::value<std::vector<int>>())
                                : po::value<int>();
@@ -37,10 +37,10 @@ class BoostSession final : public ISession {
 public:
     explicit BoostSession(const Vocabulary& words) : vocabulary(words) {
         auto add = description.add_options();
-        for (const OptionSpec& spec : words.options) {
-            add(spec.name.c_str(), semantic(spec, words.multiValued), spec.description.c_str());
-            if (spec.positional) {
-                positional.add(spec.name.c_str(), -1);
+        for (const DeclaredOption& item : words.options) {
+            add(item.name.c_str(), semantic(item, words.multiValued), item.description.c_str());
+            if (item.positional) {
+                positional.add(item.name.c_str(), -1);
             }
         }
     }
@@ -53,8 +53,8 @@ public:
 
     void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
         for (std::size_t option : asked) {
-            const OptionSpec& spec = vocabulary.options[option];
-            readOne(spec.kind, variables[spec.name], sum);
+            const DeclaredOption& item = vocabulary.options[option];
+            readOne(item.kind, variables[item.name], sum);
         }
     }
 

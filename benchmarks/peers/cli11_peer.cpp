@@ -23,8 +23,8 @@ public:
     explicit Cli11Session(const Vocabulary& words)
         : vocabulary(words), fields(words.options.size()), app("bench") {
         for (std::size_t i = 0; i < words.options.size(); ++i) {
-            const OptionSpec& spec = words.options[i];
-            declare(spec, spec.positional ? spec.name : "--" + spec.name, &fields[i]);
+            const DeclaredOption& item = words.options[i];
+            declare(item, item.positional ? item.name : "--" + item.name, &fields[i]);
         }
     }
 
@@ -39,23 +39,23 @@ public:
     std::string help() override { return app.help(); }
 
 private:
-    void declare(const OptionSpec& spec, const std::string& name, Field* field) {
+    void declare(const DeclaredOption& item, const std::string& name, Field* field) {
         const bool multiValued = vocabulary.multiValued;
-        if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
-            app.add_flag(name, field->flag, spec.description);
-        } else if (spec.kind == Kind::real) {
-            app.add_option(name, field->real, spec.description);
-        } else if (spec.kind == Kind::choice) {
+        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
+            app.add_flag(name, field->flag, item.description);
+        } else if (item.kind == Kind::real) {
+            app.add_option(name, field->real, item.description);
+        } else if (item.kind == Kind::choice) {
             const std::vector<std::string> members(std::begin(choices), std::end(choices));
-            app.add_option(name, field->text, spec.description)->check(CLI::IsMember(members));
-        } else if (spec.kind == Kind::integer && multiValued) {
-            app.add_option(name, field->integers, spec.description)->allow_extra_args(false);
-        } else if (spec.kind == Kind::integer) {
-            app.add_option(name, field->integer, spec.description);
+            app.add_option(name, field->text, item.description)->check(CLI::IsMember(members));
+        } else if (item.kind == Kind::integer && multiValued) {
+            app.add_option(name, field->integers, item.description)->allow_extra_args(false);
+        } else if (item.kind == Kind::integer) {
+            app.add_option(name, field->integer, item.description);
         } else if (multiValued) {
-            app.add_option(name, field->texts, spec.description)->allow_extra_args(spec.positional);
+            app.add_option(name, field->texts, item.description)->allow_extra_args(item.positional);
         } else {
-            app.add_option(name, field->text, spec.description);
+            app.add_option(name, field->text, item.description);
         }
     }
 

@@ -10,8 +10,8 @@ namespace zarn_benchmarks {
 
 namespace {
 
-std::shared_ptr<cxxopts::Value> valueType(const OptionSpec& spec, bool multiValued) {
-    switch (spec.kind) {
+std::shared_ptr<cxxopts::Value> valueType(const DeclaredOption& item, bool multiValued) {
+    switch (item.kind) {
         case Kind::integer:
             return multiValued ? cxxopts::value<std::vector<int>>() : cxxopts::value<int>();
         case Kind::real:
@@ -30,10 +30,10 @@ class CxxoptsSession final : public ISession {
 public:
     explicit CxxoptsSession(const Vocabulary& words) : vocabulary(words), options("bench") {
         auto add = options.add_options();
-        for (const OptionSpec& spec : words.options) {
-            add(spec.name, spec.description, valueType(spec, words.multiValued));
-            if (spec.positional) {
-                options.parse_positional({spec.name});
+        for (const DeclaredOption& item : words.options) {
+            add(item.name, item.description, valueType(item, words.multiValued));
+            if (item.positional) {
+                options.parse_positional({item.name});
             }
         }
     }
@@ -44,9 +44,9 @@ public:
 
     void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
         for (std::size_t option : asked) {
-            const OptionSpec& spec = vocabulary.options[option];
-            if (result.count(spec.name) > 0) {
-                readOne(spec.kind, result[spec.name], sum);
+            const DeclaredOption& item = vocabulary.options[option];
+            if (result.count(item.name) > 0) {
+                readOne(item.kind, result[item.name], sum);
             }
         }
     }

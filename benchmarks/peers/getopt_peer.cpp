@@ -16,9 +16,9 @@ public:
     explicit GetoptSession(const Vocabulary& vocabulary) : fields(vocabulary) {
         table.reserve(vocabulary.options.size() + 1);
         for (std::size_t i = 0; i < vocabulary.options.size(); ++i) {
-            const OptionSpec& spec = vocabulary.options[i];
-            const bool isFlag = spec.kind == Kind::flag || spec.kind == Kind::toggle;
-            table.push_back({spec.name.c_str(),
+            const DeclaredOption& item = vocabulary.options[i];
+            const bool isFlag = item.kind == Kind::flag || item.kind == Kind::toggle;
+            table.push_back({item.name.c_str(),
                              isFlag ? no_argument : required_argument,
                              nullptr,
                              firstCode + static_cast<int>(i)});

@@ -66,21 +66,21 @@ public:
     }
 
 private:
-    poptOption row(const OptionSpec& spec, int code) {
-        poptOption option{spec.name.c_str(),
+    poptOption row(const DeclaredOption& item, int code) {
+        poptOption option{item.name.c_str(),
                           '\0',
                           POPT_ARG_STRING,
                           nullptr,
                           code,
-                          spec.description.c_str(),
+                          item.description.c_str(),
                           "VALUE"};
-        if (spec.kind == Kind::integer) {
+        if (item.kind == Kind::integer) {
             option.argInfo = POPT_ARG_INT;
             option.arg = &integer;
-        } else if (spec.kind == Kind::real) {
+        } else if (item.kind == Kind::real) {
             option.argInfo = POPT_ARG_DOUBLE;
             option.arg = &real;
-        } else if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
+        } else if (item.kind == Kind::flag || item.kind == Kind::toggle) {
             option.argInfo = POPT_ARG_NONE;
         }
         return option;

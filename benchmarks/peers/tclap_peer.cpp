@@ -28,8 +28,8 @@ public:
         : vocabulary(words), commandLine("bench", '=', "1", false), allowed(choiceTexts()) {
         commandLine.setExceptionHandling(false);
         options.reserve(words.options.size());
-        for (const OptionSpec& spec : words.options) {
-            options.push_back(declare(spec));
+        for (const DeclaredOption& item : words.options) {
+            options.push_back(declare(item));
         }
     }
 
@@ -49,27 +49,27 @@ private:
         return texts;
     }
 
-    std::unique_ptr<TCLAP::Arg> declare(const OptionSpec& spec) {
+    std::unique_ptr<TCLAP::Arg> declare(const DeclaredOption& item) {
         using namespace TCLAP;
-        const Text& name = spec.name;
-        const Text& help = spec.description;
-        if (spec.positional) {
+        const Text& name = item.name;
+        const Text& help = item.description;
+        if (item.positional) {
             return std::make_unique<UnlabeledMultiArg<Text>>(name, help, false, "v", commandLine);
         }
-        if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
+        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
             return std::make_unique<SwitchArg>("", name, help, commandLine);
         }
-        if (spec.kind == Kind::real) {
+        if (item.kind == Kind::real) {
             return std::make_unique<ValueArg<double>>("", name, help, false, 0, "v", commandLine);
         }
-        if (spec.kind == Kind::choice) {
+        if (item.kind == Kind::choice) {
             return std::make_unique<ValueArg<Text>>(
                 "", name, help, false, "", &allowed, commandLine);
         }
-        if (spec.kind == Kind::integer && vocabulary.multiValued) {
+        if (item.kind == Kind::integer && vocabulary.multiValued) {
             return std::make_unique<MultiArg<int>>("", name, help, false, "v", commandLine);
         }
-        if (spec.kind == Kind::integer) {
+        if (item.kind == Kind::integer) {
             return std::make_unique<ValueArg<int>>("", name, help, false, 0, "v", commandLine);
         }
         if (vocabulary.multiValued) {
@@ -78,15 +78,15 @@ private:
         return std::make_unique<ValueArg<Text>>("", name, help, false, "", "v", commandLine);
     }
 
-    void readOne(const OptionSpec& spec, TCLAP::Arg& arg, Checksum* sum) const {
+    void readOne(const DeclaredOption& item, TCLAP::Arg& arg, Checksum* sum) const {
         using namespace TCLAP;
-        if (spec.kind == Kind::flag || spec.kind == Kind::toggle) {
+        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
             sum->addNumber(static_cast<SwitchArg&>(arg).getValue() ? 1 : 0);
-        } else if (spec.kind == Kind::real) {
+        } else if (item.kind == Kind::real) {
             sum->addReal(static_cast<ValueArg<double>&>(arg).getValue());
-        } else if (spec.kind == Kind::integer && vocabulary.multiValued) {
+        } else if (item.kind == Kind::integer && vocabulary.multiValued) {
             addAll(static_cast<MultiArg<int>&>(arg).getValue(), sum);
-        } else if (spec.kind == Kind::integer) {
+        } else if (item.kind == Kind::integer) {
             sum->addInteger(static_cast<ValueArg<int>&>(arg).getValue());
         } else if (vocabulary.multiValued) {
             addAll(static_cast<MultiArg<Text>&>(arg).getValue(), sum);

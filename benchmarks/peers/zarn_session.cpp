@@ -52,13 +52,13 @@ public:
 
 ZarnSession::ZarnSession(const Vocabulary& words, int flags) : vocabulary(words) {
     require(zarn::createParser(&declared, flags));
-    for (const OptionSpec& spec : words.options) {
+    for (const DeclaredOption& item : words.options) {
         zarn::IOption& option = declared->option(
-            spec.name.c_str(), spec.description.c_str(), typeOf(spec.kind), "main:Options");
-        if (spec.positional) {
+            item.name.c_str(), item.description.c_str(), typeOf(item.kind), "main:Options");
+        if (item.positional) {
             option.positional().tokenize(0);
         }
-        if (spec.kind == Kind::choice) {
+        if (item.kind == Kind::choice) {
             for (const char* choice : choices) {
                 option.allowValue(choice);
             }
@@ -85,11 +85,11 @@ void ZarnSession::parseText(const char* text) {
 
 void ZarnSession::read(const std::vector<std::size_t>& asked, Checksum* sum) {
     for (std::size_t option : asked) {
-        const OptionSpec& spec = vocabulary.options[option];
-        const char* name = spec.name.c_str();
+        const DeclaredOption& item = vocabulary.options[option];
+        const char* name = item.name.c_str();
         for (zarn::Value value = parsed->get(name, 0, wholeLine); value.status == 0;
              value = parsed->next(name)) {
-            readOne(spec.kind, value, sum);
+            readOne(item.kind, value, sum);
             if (!vocabulary.multiValued) {
                 break;
             }

@@ -1,5 +1,7 @@
 #include "recognizers/argument_parser.h"
 
+#include <stdexcept>
+
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_source.h"

@@ -3,6 +3,8 @@
 #include "result/parse_result.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 #include "options/option_description.h"
 #include "recognizers/argument_parser.h"

@@ -1,6 +1,9 @@
 #include <gtest/gtest.h>
+#include <unistd.h>
 
 #include <cstring>
+#include <filesystem>
+#include <fstream>
 #include <iostream>
 #include <stdexcept>
 
@@ -185,6 +188,14 @@ TEST(OutOfMemory, IsAnsweredAndLeavesTheParserUsable) {
         SCOPED_TRACE(line.first);
         expectSteadiness([&line](World& w) { return w.tool.parseText(line.first); }, line.second);
     }
+}
+
+TEST(OutOfMemory, WhileFilesAreReadIsAnsweredToo) {
+    const std::string file = testing::TempDir() + "zarn_memory_" + std::to_string(getpid());
+    std::ofstream(file) << "--jobs-that-run-at-once=1\n--\na-plain-argument-in-a-file";
+    const std::string line = "-b\n--option-file=" + file;
+    expectSteadiness([&line](World& w) { return w.tool.parseText(line.c_str()); }, resultOk);
+    std::filesystem::remove(file);
 }
 
 // "std::bad_alloc" fits a short string and is kept without memory; the text of this one is not.

@@ -51,35 +51,45 @@ IOption& RegisteredOptionStorage::declare(const char* names,
                                           bool isAction,
                                           das_variant_type_t type,
                                           const char* section) {
-    OptionDescription item;
-    item.section = findOrAddSection(section);
-    split(names, item.names);
+    const std::uint32_t sectionIndex = findOrAddSection(section);
+    std::vector<std::string> nameList;
+    split(names, nameList);
     std::size_t taken = 0;
-    if (validateName(item.names) != resultSuccess) {
+    if (validateName(nameList) != resultSuccess) {
         return refused();
     }
-    if (findOption(item.names, taken, *this) == resultSuccess) {
+    if (findOption(nameList, taken, *this) == resultSuccess) {
         trace(messages::nameIsTaken, names);
         return refused();
     }
-    item.description = description;
+    OptionDescription& item = options.emplace_back();
+    try {
+        item.description = description;
+        if (actionNames != nullptr) {
+            split(actionNames, item.tags);
+        }
+        if (isAction) {
+            split(names, item.tags);
+        }
+    } catch (...) {
+        options.pop_back();
+        throw;
+    }
+    item.section = sectionIndex;
+    item.names = std::move(nameList);
     item.kind = isAction ? kindAction : kindOption;
     item.type = type;
     item.tokenizer = separator;
-    if (actionNames != nullptr) {
-        split(actionNames, item.tags);
-    }
-    if (isAction) {
-        split(names, item.tags);
-    }
-    options.push_back(std::move(item));
     actionCount += isAction ? 1 : 0;
-    return options.back();
+    return item;
 }
 
 std::uint32_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
     const std::size_t colon = section.find(':');
     const std::string_view key = section.substr(0, colon);
+    if (!options.empty() && sectionKey(options.back()) == key) {
+        return options.back().section;  // most items stand in the section of the one before
+    }
     const std::uint32_t hash = TextTable::hash(key);
     const std::uint32_t known = sectionTable.find(
         hash, [&](std::uint32_t number) { return sections[number].first == key; });

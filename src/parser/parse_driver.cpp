@@ -48,7 +48,7 @@ int ParseDriver::parseOptions(const std::string& terminator,
     removeLogSwitch(args, source);
     PositionalOptionsParser positional(listener, flags, source);
     AbbreviationParser abbreviation(listener, flags, source);
-    const std::vector<IArgumentParser*> recognizers{&positional, &abbreviation};
+    const Recognizers recognizers{&positional, &abbreviation};
     std::size_t matched = 0;
     while (!args.empty() && args[0] != terminator) {
         IArgumentParser* const taker = chooseRecognizer(recognizers, args);
@@ -62,7 +62,7 @@ int ParseDriver::parseOptions(const std::string& terminator,
 }
 
 // Of those that take the argument in front, the one with the highest priority; null for none.
-IArgumentParser* ParseDriver::chooseRecognizer(const std::vector<IArgumentParser*>& recognizers,
+IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
                                                std::vector<std::string>& args) {
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;

@@ -3,6 +3,7 @@
 #ifndef ZARN_PARSER_PARSE_DRIVER_H
 #define ZARN_PARSER_PARSE_DRIVER_H
 
+#include <array>
 #include <string>
 #include <vector>
 
@@ -47,7 +48,9 @@ public:
                            ArgumentSource& source);
 
 private:
-    IArgumentParser* chooseRecognizer(const std::vector<IArgumentParser*>& recognizers,
+    using Recognizers = std::array<IArgumentParser*, 2>;
+
+    IArgumentParser* chooseRecognizer(const Recognizers& recognizers,
                                       std::vector<std::string>& args);
     int passOver(std::vector<std::string>& args, ArgumentSource& source);
     int offerToPositional(std::string argument);

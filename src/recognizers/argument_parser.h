@@ -103,7 +103,7 @@ protected:
     }
 
     EventHandler* handler;
-    std::string name;  // in front of every line of the log
+    std::string_view name;  // in front of every line of the log
     int flags;
     internal::ArgumentSource& source;
 

@@ -165,7 +165,8 @@ public:
 
     // Help texts. With `hidden` false they show everything but the section "zarn_hidden", with true
     // that section alone. Lines end with a line feed and have at most 79 bytes, but for long
-    // columns of names and values. When memory runs out: an empty text, or "Unknown error handled."
+    // columns of names and values. When memory runs out: an empty text, or one that ends in
+    // "Unknown error handled.", which is the last error then.
     //
     // The actions with their descriptions; for a vocabulary without actions, all its options.
     virtual const char* getDescription(bool hidden) = 0;

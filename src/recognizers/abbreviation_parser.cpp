@@ -1,7 +1,5 @@
 #include "recognizers/abbreviation_parser.h"
 
-#include <utility>
-
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "platform/best_match.h"

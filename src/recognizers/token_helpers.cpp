@@ -1,6 +1,5 @@
 #include "recognizers/token_helpers.h"
 
-#include <algorithm>
 #include <array>
 #include <locale>
 #include <stdexcept>

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
 
@@ -133,6 +134,8 @@ private:
         double number;
         const void* pointer;  // shared kinds: just behind the header of the data
     };
+
+    friend variant_t ownedText(std::string_view text);  // inside the library
 
     variant_t(das_variant_type_t type, const void* pointer) noexcept;
 

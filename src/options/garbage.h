@@ -4,10 +4,8 @@
 #define ZARN_OPTIONS_GARBAGE_H
 
 #include <string_view>
-#include <vector>
 
-#include "options/text_arena.h"
-#include "options/text_table.h"
+#include "options/kept_texts.h"
 
 namespace zarn_3_3 {
 
@@ -21,15 +19,13 @@ public:
 
     // The kept copy of `text`: equal texts give the same pointer, null gives an empty text.
     // Throws std::bad_alloc; the keeper is then unchanged.
-    virtual const char* init(const char* text);
+    virtual const char* init(const char* text) { return text == nullptr ? "" : keep(text); }
 
     // The same for a text whose length is known.
-    const char* keep(std::string_view text);
+    const char* keep(std::string_view text) { return texts[texts.keep(text)].data(); }
 
 private:
-    std::vector<std::string_view> texts;
-    internal::TextTable table;
-    internal::TextArena arena;
+    internal::KeptTexts texts;
 };
 
 }  // namespace zarn_3_3

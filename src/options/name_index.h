@@ -8,18 +8,26 @@
 #include <string_view>
 #include <vector>
 
-#include "options/name_walk.h"
-#include "options/text_table.h"
+#include "options/kept_texts.h"
+#include "options/option_description.h"
 
 namespace zarn_3_3::internal {
 
 constexpr std::string_view noPrefix = "no-";
 
+// What a user can type in full: the names, and the "no-" forms of booleans. Each is held once, in
+// the order of the items and of their names, a name before its "no-" form.
+//
+// Items are only ever added, and of those there only the last can get further names, so catching up
+// costs no more than the names that are new.
 class NameIndex {
 public:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
-    bool isUpToDate(const OptionList& options) const { return walk.isUpToDate(options); }
+    bool isUpToDate(const OptionList& options) const {
+        return itemsTaken == options.size() &&
+               (options.empty() || namesTaken == options.back().names.size());
+    }
 
     // Takes in the names that were declared since. Throws std::bad_alloc; what was taken in stays.
     void catchUp(const OptionList& options);
@@ -30,19 +38,25 @@ public:
     // The first item that has this name, or is a boolean of which it is the "no-" form.
     std::size_t first(std::string_view nameOrNoForm) const;
 
+    // All names and "no-" forms; a form is meant by its number there.
+    const KeptTexts& forms() const { return texts; }
+
+    std::size_t firstWithForm(std::uint32_t number) const { return entries[number].item; }
+
 private:
-    // A distinct name, where it stands first, and the first boolean item that has it.
+    // Of a form: the first item that it stands for, and the first that has it as its name.
     struct Entry {
-        NamePlace place;
-        std::uint32_t booleanItem;
+        std::uint32_t item;
+        std::uint32_t namedItem;
     };
 
-    void add(NamePlace place);
-    std::uint32_t find(std::uint32_t hash, std::string_view name) const;
+    void add(const OptionDescription& item, std::uint32_t itemIndex, std::string_view name);
+    Entry& findOrAdd(std::string_view form, std::uint32_t itemIndex);
 
-    NameWalk walk;
-    std::vector<Entry> entries;
-    TextTable table;  // name to entry
+    std::size_t itemsTaken = 0;  // the last of them perhaps with further names to come
+    std::size_t namesTaken = 0;  // of that last item
+    KeptTexts texts;
+    std::vector<Entry> entries;  // by the number of the text
 };
 
 }  // namespace zarn_3_3::internal

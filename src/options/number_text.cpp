@@ -47,7 +47,7 @@ bool applySign(unsigned long long magnitude, bool isNegative, T& number) {
 }
 
 template <typename T>
-Reading readInteger(const std::string& text, Trailing trailing, int base, T& number) {
+Reading readInteger(std::string_view text, Trailing trailing, int base, T& number) {
     const char* const end = text.data() + text.size();
     const char* at = skipSpace(text.data(), end);
     const bool isNegative = at != end && *at == '-';
@@ -88,7 +88,7 @@ const char* endOfDouble(const char* at, const char* end) {
     return at != exponent ? at : nullptr;
 }
 
-Reading readDouble(const std::string& text, Trailing trailing, double& number) {
+Reading readDouble(std::string_view text, Trailing trailing, double& number) {
     const char* const end = text.data() + text.size();
     const char* at = skipSpace(text.data(), end);
     const bool isNegative = at != end && *at == '-';
@@ -109,7 +109,7 @@ Reading readDouble(const std::string& text, Trailing trailing, double& number) {
 }
 
 template <typename T>
-Reading readByHand(const std::string& text, Trailing trailing, T& number) {
+Reading readByHand(std::string_view text, Trailing trailing, T& number) {
     if constexpr (std::is_same_v<T, double>) {
         return readDouble(text, trailing, number);
     } else if constexpr (std::is_same_v<T, bool>) {
@@ -133,7 +133,7 @@ void throwIfOutOfMemory(const std::ios& stream) {
 // does, which would otherwise be there six times.
 class NumberStream {
 public:
-    NumberStream(const std::string& text, bool isHexadecimal);
+    NumberStream(std::string_view text, bool isHexadecimal);
     ~NumberStream();
 
     template <typename T>
@@ -151,7 +151,7 @@ private:
     std::istringstream stream;
 };
 
-NumberStream::NumberStream(const std::string& text, bool isHexadecimal) : stream(text) {
+NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream(std::string(text)) {
     if (isHexadecimal) {
         stream >> std::hex;
     }
@@ -179,7 +179,7 @@ std::optional<T> answer(Reading reading, T number) {
 }  // namespace
 
 template <typename T>
-std::optional<T> numberFromStream(const std::string& text, Trailing trailing, bool hexadecimal) {
+std::optional<T> numberFromStream(std::string_view text, Trailing trailing, bool hexadecimal) {
     NumberStream stream(text, hexadecimal);
     T number{};
     const bool isNumber =
@@ -188,7 +188,7 @@ std::optional<T> numberFromStream(const std::string& text, Trailing trailing, bo
 }
 
 template <typename T>
-std::optional<T> numberFromText(const std::string& text, Trailing trailing, TextLocale locale) {
+std::optional<T> numberFromText(std::string_view text, Trailing trailing, TextLocale locale) {
     if (locale == TextLocale::classic) {
         T number{};
         const Reading reading = readByHand(text, trailing, number);
@@ -199,7 +199,7 @@ std::optional<T> numberFromText(const std::string& text, Trailing trailing, Text
     return numberFromStream<T>(text, trailing, false);
 }
 
-std::optional<unsigned long long> hexadecimalFromText(const std::string& text, TextLocale locale) {
+std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale) {
     if (locale == TextLocale::classic) {
         unsigned long long number = 0;
         const Reading reading = readInteger(text, Trailing::ignored, 16, number);
@@ -233,12 +233,12 @@ std::string textFromNumber(T number) {
     }
 }
 
-template std::optional<bool> numberFromText(const std::string&, Trailing, TextLocale);
-template std::optional<int> numberFromText(const std::string&, Trailing, TextLocale);
-template std::optional<unsigned> numberFromText(const std::string&, Trailing, TextLocale);
-template std::optional<long long> numberFromText(const std::string&, Trailing, TextLocale);
-template std::optional<unsigned long long> numberFromText(const std::string&, Trailing, TextLocale);
-template std::optional<double> numberFromText(const std::string&, Trailing, TextLocale);
+template std::optional<bool> numberFromText(std::string_view, Trailing, TextLocale);
+template std::optional<int> numberFromText(std::string_view, Trailing, TextLocale);
+template std::optional<unsigned> numberFromText(std::string_view, Trailing, TextLocale);
+template std::optional<long long> numberFromText(std::string_view, Trailing, TextLocale);
+template std::optional<unsigned long long> numberFromText(std::string_view, Trailing, TextLocale);
+template std::optional<double> numberFromText(std::string_view, Trailing, TextLocale);
 
 template std::string textFromNumber(int);
 template std::string textFromNumber(unsigned);

@@ -5,6 +5,7 @@
 
 #include <optional>
 #include <string>
+#include <string_view>
 
 #include "recognizers/token_helpers.h"
 
@@ -21,12 +22,12 @@ enum class Trailing {
 //
 // T is bool, int, unsigned, long long, unsigned long long or double. Throws std::bad_alloc.
 template <typename T>
-std::optional<T> numberFromText(const std::string& text,
+std::optional<T> numberFromText(std::string_view text,
                                 Trailing trailing,
                                 TextLocale locale = globalTextLocale());
 
 // The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
-std::optional<unsigned long long> hexadecimalFromText(const std::string& text,
+std::optional<unsigned long long> hexadecimalFromText(std::string_view text,
                                                       TextLocale locale = globalTextLocale());
 
 // The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
@@ -37,7 +38,7 @@ std::string textFromNumber(T number);
 // The same by a stream, in whatever locale: what the others must agree with, and what they call
 // where the global locale is not the classic one.
 template <typename T>
-[[gnu::cold]] std::optional<T> numberFromStream(const std::string& text,
+[[gnu::cold]] std::optional<T> numberFromStream(std::string_view text,
                                                 Trailing trailing,
                                                 bool hexadecimal);
 template <typename T>

@@ -9,6 +9,7 @@
 #include <map>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "recognizers/token_helpers.h"
@@ -30,7 +31,7 @@ public:
     std::uint32_t section = 0;       // index of its pair in the registry's sections
     std::vector<std::string> names;  // the primary name first; without dashes
     std::set<std::string> tags;      // what ties modifiers to actions
-    std::string description;
+    std::string_view description;    // kept by the registry
     bool isPositional = false;
     bool hasDefault = false;
     ItemKind kind = kindSink;
@@ -56,15 +57,16 @@ public:
     const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 
     // Whether `text` is a value of the item: converts it into `converted`, checks it against the
-    // allowed values and completes an abbreviated one in `text`. On false `error` says why, and
-    // `text` is as it was. Warns of a deprecated value on the error stream.
-    bool validate(std::string& text,
+    // allowed values and completes an abbreviated one: `text` then points into `converted`. On
+    // false `error` says why, and `text` is as it was. Warns of a deprecated value on the error
+    // stream.
+    bool validate(std::string_view& text,
                   variant_t& converted,
                   std::string& error,
                   internal::TextLocale locale = internal::globalTextLocale()) const;
 
     // `text` as a value of the declared type; vtNull when it is none.
-    variant_t fromString(const std::string& text,
+    variant_t fromString(std::string_view text,
                          internal::TextLocale locale = internal::globalTextLocale()) const;
 
     // The text of `value`, read as the declared type.

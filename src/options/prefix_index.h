@@ -1,4 +1,4 @@
-// Finds the names, and "no-" forms of booleans, that begin with a text.
+// Finds what a beginning can stand for.
 
 #ifndef ZARN_OPTIONS_PREFIX_INDEX_H
 #define ZARN_OPTIONS_PREFIX_INDEX_H
@@ -6,11 +6,10 @@
 #include <cstddef>
 #include <cstdint>
 #include <map>
-#include <string>
 #include <string_view>
 #include <vector>
 
-#include "options/name_walk.h"
+#include "options/kept_texts.h"
 #include "options/text_table.h"
 
 namespace zarn_3_3::internal {
@@ -19,50 +18,31 @@ namespace zarn_3_3::internal {
 // as much as a whole name. Nothing is built before the first look-up.
 class PrefixIndex {
 public:
-    // Appends every candidate that begins with `text`, in the order of the items and of their
-    // names, each name before its "no-" form. Equal candidates may stand there more than once.
-    // Throws std::bad_alloc.
-    void appendBeginningWith(std::string_view text,
-                             const OptionList& options,
-                             std::vector<std::string>& names);
+    struct Found {
+        std::uint32_t first = KeptTexts::none;  // of the texts that begin so
+        bool isOnly = false;                    // whether no other one does
+    };
+
+    // Looks for `beginning` among `texts`, the same ones each time, to which some may have been
+    // added. Throws std::bad_alloc.
+    Found find(std::string_view beginning, const KeptTexts& texts);
 
 private:
-    // A name or its "no-" form.
-    struct Candidate {
-        NamePlace place;
-        bool isNoForm;
-
-        std::string text() const;
-        std::size_t size() const;
-        bool beginsWith(std::string_view beginning) const;
-        bool equals(std::string_view other) const {
-            return size() == other.size() && beginsWith(other);
-        }
-    };
-
-    // The candidates by their beginnings of one length: the first that begins so, and whether
-    // another one does.
-    struct Entry {
-        std::uint32_t candidate;
-        bool isShared;
-    };
+    // The texts by their beginnings of one length.
     struct Length {
-        std::size_t taken = 0;  // that many candidates are in
-        std::vector<Entry> entries;
-        TextTable table;
+        std::size_t taken = 0;       // that many texts are in
+        TextTable firsts;            // the first text with each beginning
+        std::vector<bool> isShared;  // whether others begin like this first one
     };
 
-    void catchUp(const OptionList& options);
-    void catchUp(Length& length, std::size_t size) const;
-    void add(Length& length,
-             std::uint32_t candidate,
-             std::string_view text,
-             std::size_t size) const;
-    const Entry* find(const Length& length, std::uint32_t hash, std::string_view beginning) const;
+    static void catchUp(Length& length, std::size_t size, const KeptTexts& texts);
+    static std::uint32_t findFirst(const Length& length,
+                                   std::uint32_t hash,
+                                   std::string_view beginning,
+                                   const KeptTexts& texts);
 
-    NameWalk walk;
-    std::vector<Candidate> candidates;  // in the order of declaration
-    std::size_t longest = 0;            // of the candidates
+    std::size_t measured = 0;  // that many texts
+    std::size_t longest = 0;   // of them
     std::map<std::size_t, Length> lengths;
 };
 

@@ -64,7 +64,7 @@ IOption& RegisteredOptionStorage::declare(const char* names,
     }
     OptionDescription& item = options.emplace_back();
     try {
-        item.description = description;
+        item.description = descriptions.keep(description);
         if (actionNames != nullptr) {
             split(actionNames, item.tags);
         }
@@ -90,7 +90,7 @@ std::uint32_t RegisteredOptionStorage::findOrAddSection(std::string_view section
     if (!options.empty() && sectionKey(options.back()) == key) {
         return options.back().section;  // most items stand in the section of the one before
     }
-    const std::uint32_t hash = TextTable::hash(key);
+    const std::uint32_t hash = TextHash::of(key);
     const std::uint32_t known = sectionTable.find(
         hash, [&](std::uint32_t number) { return sections[number].first == key; });
     if (known != TextTable::none) {
@@ -98,7 +98,7 @@ std::uint32_t RegisteredOptionStorage::findOrAddSection(std::string_view section
     }
     const std::string_view title =
         colon == std::string_view::npos ? std::string_view() : section.substr(colon + 1);
-    sectionTable.makeRoom();
+    sectionTable.makeRoom(1);
     sections.emplace_back(key, title);
     sectionTable.add(hash, static_cast<std::uint32_t>(sections.size() - 1));
     return static_cast<std::uint32_t>(sections.size() - 1);

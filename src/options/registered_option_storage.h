@@ -12,6 +12,7 @@
 #include "options/name_index.h"
 #include "options/option_description.h"
 #include "options/prefix_index.h"
+#include "options/text_arena.h"
 #include "options/text_table.h"
 #include "recognizers/token_helpers.h"
 
@@ -68,8 +69,10 @@ public:
     // The index over all names, up to date.
     const internal::NameIndex& names() const;
 
-    // The index of their beginnings.
-    internal::PrefixIndex& prefixes() const { return prefixIndex; }
+    // What `beginning` can stand for, among the forms of the index. Throws std::bad_alloc.
+    internal::PrefixIndex::Found findBeginning(std::string_view beginning) const {
+        return prefixIndex.find(beginning, names().forms());
+    }
 
 private:
     IOption& declare(const char* names,
@@ -83,6 +86,7 @@ private:
 
     char separator = ',';
     OptionList options;
+    internal::TextArena descriptions;
     std::vector<std::pair<std::string, std::string>> sections;
     internal::TextTable sectionTable;  // key to section
     std::size_t actionCount = 0;

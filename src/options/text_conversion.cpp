@@ -2,10 +2,12 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 
 #include "options/number_text.h"
 #include "options/option_description.h"
+#include "platform/owned_text.h"
 
 namespace zarn_3_3 {
 namespace {
@@ -14,20 +16,20 @@ using namespace internal;
 
 constexpr const char* hexadecimalDigits = "1234567890ABCDEFabcdef";
 
-bool isHexadecimal(const std::string& text) {
+bool isHexadecimal(std::string_view text) {
     const auto areDigits = [&text](std::size_t from, std::size_t to) {
         return text.find_first_not_of(hexadecimalDigits, from) >= to;
     };
     // An empty text has no last character and ends here with the standard out-of-range error.
-    const std::string last = text.substr(text.size() - 1);
-    const std::string first = text.substr(0, 2);
+    const std::string_view last = text.substr(text.size() - 1);
+    const std::string_view first = text.substr(0, 2);
     return ((first == "0x" || first == "0X") && areDigits(2, text.size())) ||
            ((last == "h" || last == "H") && areDigits(0, text.size() - 1));
 }
 
 // Reads a text as the type that execute is called with.
 struct OperationFromString {
-    const std::string& text;
+    std::string_view text;
     TextLocale locale;
     variant_t result;
 
@@ -52,7 +54,7 @@ void OperationFromString::execute<unsigned long long>() {
 
 template <>
 void OperationFromString::execute<const char*>() {
-    result = variant_t(text);
+    result = plinth2::ownedText(text);
 }
 
 // Writes a value read as the type that execute is called with, whatever its own kind.
@@ -143,7 +145,7 @@ void executeAs(das_variant_type_t type, Operation& operation) {
 
 }  // namespace
 
-variant_t OptionDescription::fromString(const std::string& text, TextLocale locale) const {
+variant_t OptionDescription::fromString(std::string_view text, TextLocale locale) const {
     OperationFromString operation{text, locale, {}};
     executeAs(type, operation);
     return std::move(operation.result);

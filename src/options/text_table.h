@@ -1,12 +1,10 @@
-// Finds things by text: a flat hash table of numbers.
+// Finds things by the hash of a text: a flat hash table of numbers.
 
 #ifndef ZARN_OPTIONS_TEXT_TABLE_H
 #define ZARN_OPTIONS_TEXT_TABLE_H
 
 #include <cstddef>
 #include <cstdint>
-#include <functional>
-#include <string_view>
 #include <utility>
 #include <vector>
 
@@ -17,10 +15,6 @@ namespace zarn_3_3::internal {
 class TextTable {
 public:
     static constexpr std::uint32_t none = 0xffffffff;
-
-    static std::uint32_t hash(std::string_view text) noexcept {
-        return static_cast<std::uint32_t>(std::hash<std::string_view>{}(text));
-    }
 
     // The number that was added with `hash` and for which isIt(number) holds, or none.
     template <typename IsIt>
@@ -36,13 +30,19 @@ public:
         }
     }
 
-    // Makes sure that one add will not allocate. Throws std::bad_alloc and changes nothing then.
-    void makeRoom() {
-        if (2 * (used + 1) <= slots.size()) {
+    // Makes sure that `count` adds will not allocate. Throws std::bad_alloc and changes nothing
+    // then.
+    void makeRoom(std::size_t count) {
+        const std::size_t needed = (used + count) * 4 / 3 + 1;
+        if (needed <= slots.size()) {
             return;
         }
+        std::size_t size = slots.empty() ? 16 : 2 * slots.size();
+        while (size < needed) {
+            size *= 2;
+        }
         TextTable larger;
-        larger.slots.resize(slots.empty() ? 16 : 2 * slots.size());
+        larger.slots.resize(size);
         for (const Slot& slot : slots) {
             if (slot.number != none) {
                 larger.add(slot.hash, slot.number);
@@ -69,7 +69,7 @@ private:
 
     std::size_t mask() const noexcept { return slots.size() - 1; }
 
-    std::vector<Slot> slots;  // a power of two, at most half used
+    std::vector<Slot> slots;  // a power of two, at most three quarters used
     std::size_t used = 0;
 };
 

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <ostream>
 #include <string>
+#include <string_view>
 
 #include "options/messages.h"
 #include "options/option_description.h"
@@ -38,7 +39,7 @@ struct Abbreviated {
     std::string match;  // the last one
 };
 
-Abbreviated findAbbreviated(const OptionDescription& option, const std::string& text) {
+Abbreviated findAbbreviated(const OptionDescription& option, std::string_view text) {
     Abbreviated found;
     visitAccepted(option, [&](const variant_t& candidate) {
         const std::string full = plinth2::get_variant_value(candidate, "");
@@ -51,7 +52,7 @@ Abbreviated findAbbreviated(const OptionDescription& option, const std::string& 
     return found;
 }
 
-void warnIfDeprecated(const OptionDescription& option, const std::string& text) {
+void warnIfDeprecated(const OptionDescription& option, std::string_view text) {
     if (option.deprecatedValues.empty()) {
         return;
     }
@@ -68,7 +69,7 @@ void warnIfDeprecated(const OptionDescription& option, const std::string& text) 
 
 }  // namespace
 
-bool OptionDescription::validate(std::string& text,
+bool OptionDescription::validate(std::string_view& text,
                                  variant_t& converted,
                                  std::string& error,
                                  internal::TextLocale locale) const {
@@ -95,7 +96,7 @@ bool OptionDescription::validate(std::string& text,
     }
     converted = variant_t(found.match);
     warnIfDeprecated(*this, found.match);
-    text = found.match;
+    text = converted.get<const char*>();
     return true;
 }
 

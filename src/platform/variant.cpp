@@ -9,6 +9,7 @@
 
 #include "platform/assertion.h"
 #include "platform/compare.h"
+#include "platform/owned_text.h"
 #include "platform/sync.h"
 
 namespace plinth2 {
@@ -44,10 +45,12 @@ void* allocateData(std::size_t size, std::size_t capacity) {
 // A null text becomes a block of size 0; it has a terminator all the same, so that it can be read.
 template <typename Character>
 void* copyText(const Character* text, std::size_t length) {
-    const std::size_t size = text != nullptr ? (length + 1) * sizeof(Character) : 0;
-    void* const data = allocateData(size, std::max(size, sizeof(Character)));
-    const Character terminator{};
-    std::memcpy(data, size != 0 ? text : &terminator, std::max(size, sizeof(Character)));
+    const std::size_t size = (length + 1) * sizeof(Character);
+    void* const data = allocateData(text != nullptr ? size : 0, size);
+    if (length != 0) {
+        std::memcpy(data, text, size - sizeof(Character));
+    }
+    static_cast<Character*>(data)[length] = Character{};
     return data;
 }
 
@@ -156,7 +159,12 @@ variant_t::variant_t(das_variant_type_t type, const void* pointer) noexcept : m_
 variant_t::variant_t(const char* text, bool borrow)
     : variant_t(borrow ? vtStringRef : vtString, borrow ? text : copyNarrow(text)) {}
 
-variant_t::variant_t(const std::string& text) : variant_t(text.c_str()) {}
+variant_t::variant_t(const std::string& text) : variant_t(ownedText(text)) {}
+
+variant_t ownedText(std::string_view text) {
+    const std::string_view upToNul = text.substr(0, text.find('\0'));
+    return {vtString, copyText(upToNul.data(), upToNul.size())};
+}
 
 variant_t variant_t::wideText(const wchar_t* text) { return {vtWString, copyWide(text)}; }
 

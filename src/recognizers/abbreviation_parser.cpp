@@ -1,5 +1,7 @@
 #include "recognizers/abbreviation_parser.h"
 
+#include <cstdint>
+
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "platform/best_match.h"
@@ -46,8 +48,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
 bool AbbreviationParser::recognizeName(const std::string& argument,
                                        RegisteredOptionStorage& registry) {
     // An exact name beats every longer one, so there is nothing to search.
-    const bool isExact = findOption(text, matchIndex, registry) == resultSuccess;
-    if (isExact) {
+    if (findOption(text, matchIndex, registry) == resultSuccess) {
         matchName = text;
     } else if (const int matches = findBestMatch(argument, registry); matches != 1) {
         return matches > 1;
@@ -60,34 +61,38 @@ bool AbbreviationParser::recognizeName(const std::string& argument,
           "' is '",
           matchName,
           "'");
-    return isExact || findOption(matchName, matchIndex, registry) == resultSuccess;
+    return true;
 }
 
-// The number of matches: one is left in `matchName`, several in `candidates`.
+// The number of matches: one is left in `matchName` and `matchIndex`, several in `candidates`.
 int AbbreviationParser::findBestMatch(const std::string& argument,
                                       RegisteredOptionStorage& registry) {
+    const PrefixIndex::Found found = registry.findBeginning(text);
+    if (found.first == KeptTexts::none) {
+        return 0;
+    }
+    if (found.isOnly) {
+        matchName = registry.names().forms()[found.first];
+        matchIndex = registry.names().firstWithForm(found.first);
+        return 1;
+    }
     std::vector<std::string> names;
     makeOptionNamesList(registry, text, names);
     plinth2::generic_iterator_t<std::string> best;
     const int matches = plinth2::find_best_match(
         plinth2::generic_iterator_t<std::string>(names), std::string(text), best);
-    if (matches == 1) {
-        completedName = best.current();
-        matchName = completedName;
-    } else if (matches > 1) {
-        for (; !best.atEnd(); best.advance()) {
-            candidates += candidates.empty() ? "'" : ", '";
-            candidates += best.current() + "'";
-        }
-        trace(name,
-              ": failed to get best match for '",
-              text,
-              "' in argument '",
-              argument,
-              "':",
-              messages::ambiguousOptions,
-              candidates);
+    for (; !best.atEnd(); best.advance()) {
+        candidates += candidates.empty() ? "'" : ", '";
+        candidates += best.current() + "'";
     }
+    trace(name,
+          ": failed to get best match for '",
+          text,
+          "' in argument '",
+          argument,
+          "':",
+          messages::ambiguousOptions,
+          candidates);
     return matches;
 }
 
@@ -189,7 +194,12 @@ int AbbreviationParser::bind(const OptionDescription& option,
 void makeOptionNamesList(const RegisteredOptionStorage& registry,
                          std::string_view text,
                          std::vector<std::string>& names) {
-    registry.prefixes().appendBeginningWith(text, registry.items(), names);
+    const KeptTexts& forms = registry.names().forms();
+    for (std::uint32_t number = 0; number < forms.size(); ++number) {
+        if (forms[number].substr(0, text.size()) == text) {
+            names.emplace_back(forms[number]);
+        }
+    }
 }
 
 }  // namespace zarn_3_3

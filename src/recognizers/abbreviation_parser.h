@@ -46,15 +46,14 @@ private:
 
     std::size_t matchIndex = internal::NameIndex::none;
     std::string candidates;      // tied names, quoted; empty unless the argument is ambiguous
-    std::string_view matchName;  // the name or "no-" form that was matched: the text itself,
-    std::string completedName;   // or this, which completes it
+    std::string_view matchName;  // the name or "no-" form that was matched
     std::string_view text;       // the argument cut: its name,
     std::string_view value;      // its value,
     bool hasValue = false;       // and whether one was attached
 };
 
-// Appends the names, and "no-" forms of booleans, that begin with `text`, in the order of
-// declaration: no other name can be the best match for it.
+// Appends the names, and "no-" forms of booleans, that begin with `text`, each once, in the order
+// of declaration: no other name can be the best match for it.
 void makeOptionNamesList(const RegisteredOptionStorage& registry,
                          std::string_view text,
                          std::vector<std::string>& names);

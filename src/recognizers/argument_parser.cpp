@@ -123,7 +123,8 @@ int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
 }
 
 int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
-    const Value announced(value.text.c_str(), value.value, value.position);
+    const std::string text(value.text);  // with a terminator
+    const Value announced(text.c_str(), value.value, value.position);
     if (handler->onValueParse(binding.option.c_str(), announced)) {
         return resultOk;
     }

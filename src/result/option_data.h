@@ -3,17 +3,17 @@
 #ifndef ZARN_RESULT_OPTION_DATA_H
 #define ZARN_RESULT_OPTION_DATA_H
 
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "zarn/value.h"
 
 namespace zarn_3_3 {
 
-// A narrow text in `value` equals `text`. Positions are numbers of the running sequence, here and
-// below.
+// The text belongs to the argument, or to `value`: it is valid during the occurrence. A narrow text
+// in `value` equals it. Positions are numbers of the running sequence, here and below.
 struct OptionValue {
-    std::string text;
+    std::string_view text;
     variant_t value;
     int position = 0;
 };

@@ -81,22 +81,17 @@ const StoredOption* ParseResult::find(std::string_view name) const {
 }
 
 std::size_t ParseResult::findIndex(std::string_view name) const {
-    const std::uint32_t found = table.find(
-        TextTable::hash(name), [&](std::uint32_t number) { return options[number].name == name; });
-    return found == TextTable::none ? none : found;
+    const std::uint32_t number = names.find(name);
+    return number < options.size() ? number : none;
 }
 
 StoredOption& ParseResult::findOrAdd(std::string_view name) {
-    const std::size_t found = findIndex(name);
-    if (found != none) {
-        return options[found];
+    makeRoom(options, 1);
+    const std::uint32_t number = names.keep(name);
+    if (number == options.size()) {
+        options.emplace_back().name = names[number];
     }
-    table.makeRoom();
-    StoredOption entry;
-    entry.name = name;
-    options.push_back(std::move(entry));
-    table.add(TextTable::hash(name), static_cast<std::uint32_t>(options.size() - 1));
-    return options.back();
+    return options[number];
 }
 
 // Adds all of `data`, or nothing.
@@ -128,7 +123,7 @@ void ParseResult::replace(std::string_view name, const OptionData& data) {
     StoredOption& entry = findOrAdd(name);
     makeRoom(replaced, entry.values.size());
     std::move(entry.values.begin(), entry.values.end(), std::back_inserter(replaced));
-    fresh.name = std::move(entry.name);
+    fresh.name = entry.name;
     entry = std::move(fresh);
 }
 

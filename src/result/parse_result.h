@@ -8,9 +8,9 @@
 #include <string_view>
 #include <vector>
 
+#include "options/kept_texts.h"
 #include "options/option_description.h"
 #include "options/text_arena.h"
-#include "options/text_table.h"
 #include "result/result_collector.h"
 #include "result/stored_option.h"
 #include "zarn/result.h"
@@ -75,8 +75,8 @@ private:
     Value stepOccurrence(const internal::StoredOption& entry);
     Value stepValue(const internal::StoredOption& entry);
 
-    std::vector<internal::StoredOption> options;
-    internal::TextTable table;  // name to entry
+    internal::KeptTexts names;
+    std::vector<internal::StoredOption> options;  // by the number of the name
     internal::TextArena texts;
     std::size_t lastStored = none;  // the entry that the last store found
 

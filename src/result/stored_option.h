@@ -3,7 +3,7 @@
 #ifndef ZARN_RESULT_STORED_OPTION_H
 #define ZARN_RESULT_STORED_OPTION_H
 
-#include <string>
+#include <string_view>
 #include <vector>
 
 #include "zarn/value.h"
@@ -25,7 +25,7 @@ struct StoredValue : variant_t {
 static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));
 
 struct StoredOption {
-    std::string name;
+    std::string_view name;       // kept by the result
     std::vector<int> positions;  // of occurrences; a switch has only these
     std::vector<StoredValue> values;
     const char* defaultText = "";

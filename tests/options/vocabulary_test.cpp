@@ -46,7 +46,7 @@ TEST(Validate, WarnsOfDeprecatedValues) {
     OptionDescription option;
     option.type = vtString;
     option.synonym("x").allowValue("new").allowDeprecatedValue("old", "new");
-    std::string text = "o";
+    std::string_view text = "o";
     variant_t value;
     std::string error;
     const CapturedStream warnings(std::cerr);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "support/counted_calls.h"
 #include "support/failing_new.h"
 #include "support/tool.h"
 
@@ -8,13 +9,20 @@ namespace {
 
 using testing_support::Tool;
 
-// The clock tells too little; a step that copies everything seen before shows in what it takes
-// from memory.
+// The clock tells too little; a step that goes through everything seen before shows in what it
+// takes from memory, compares and copies.
+struct Effort {
+    std::size_t blocks;
+    std::size_t bytes;
+    std::size_t calls;
+};
+
 template <typename Run>
-Memory measure(Run run) {
+Effort measure(Run run) {
     const Memory before = memory;
+    const std::size_t callsBefore = memoryCalls;
     run();
-    return {memory.blocks - before.blocks, memory.bytes - before.bytes};
+    return {memory.blocks - before.blocks, memory.bytes - before.bytes, memoryCalls - callsBefore};
 }
 
 // `taken(n)` tells what n elements take, without what it takes to prepare them.
@@ -22,10 +30,11 @@ template <typename Taken>
 void expectLinear(Taken taken) {
     constexpr std::size_t n = 2000;
     taken(10);  // whatever is made once
-    const Memory small = taken(n);
-    const Memory large = taken(2 * n);
+    const Effort small = taken(n);
+    const Effort large = taken(2 * n);
     EXPECT_LE(large.blocks * 10, small.blocks * 22 + 100) << small.blocks;
     EXPECT_LE(large.bytes * 10, small.bytes * 22 + 1000) << small.bytes;
+    EXPECT_LE(large.calls * 10, small.calls * 22 + 1000) << small.calls;
 }
 
 std::string numbered(const std::string& prefix, std::size_t number) {

@@ -76,8 +76,9 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
         matchIndex = registry.names().firstWithForm(found.first);
         return 1;
     }
+    // Several: who they are is asked once in a parse, which fails with that.
     std::vector<std::string> names;
-    makeOptionNamesList(registry, text, names);
+    makeOptionNamesList(registry, names);
     plinth2::generic_iterator_t<std::string> best;
     const int matches = plinth2::find_best_match(
         plinth2::generic_iterator_t<std::string>(names), std::string(text), best);
@@ -191,14 +192,10 @@ int AbbreviationParser::bind(const OptionDescription& option,
     return parseValueAndAddOption(value, error, option, args, collector);
 }
 
-void makeOptionNamesList(const RegisteredOptionStorage& registry,
-                         std::string_view text,
-                         std::vector<std::string>& names) {
+void makeOptionNamesList(const RegisteredOptionStorage& registry, std::vector<std::string>& names) {
     const KeptTexts& forms = registry.names().forms();
     for (std::uint32_t number = 0; number < forms.size(); ++number) {
-        if (forms[number].substr(0, text.size()) == text) {
-            names.emplace_back(forms[number]);
-        }
+        names.emplace_back(forms[number]);
     }
 }
 

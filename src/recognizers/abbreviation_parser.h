@@ -52,11 +52,8 @@ private:
     bool hasValue = false;       // and whether one was attached
 };
 
-// Appends the names, and "no-" forms of booleans, that begin with `text`, each once, in the order
-// of declaration: no other name can be the best match for it.
-void makeOptionNamesList(const RegisteredOptionStorage& registry,
-                         std::string_view text,
-                         std::vector<std::string>& names);
+// Appends all names and "no-" forms of booleans, each once, in the order of declaration.
+void makeOptionNamesList(const RegisteredOptionStorage& registry, std::vector<std::string>& names);
 
 }  // namespace zarn_3_3
 

@@ -47,7 +47,7 @@ template <typename Character>
 void* copyText(const Character* text, std::size_t length) {
     const std::size_t size = (length + 1) * sizeof(Character);
     void* const data = allocateData(text != nullptr ? size : 0, size);
-    if (length != 0) {
+    if (text != nullptr) {
         std::memcpy(data, text, size - sizeof(Character));
     }
     static_cast<Character*>(data)[length] = Character{};

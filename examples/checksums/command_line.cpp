@@ -1,77 +1,37 @@
 #include "command_line.h"
 
-#include <limits>
-#include <new>
 #include <string_view>
 
 #include "console.h"
-#include "unknown_arguments.h"
 #include "value_checks.h"
 #include "vocabulary.h"
 
 namespace checksums {
 namespace {
 
-using zarn::IParser;
-using zarn::IParseResult;
-using zarn::Value;
-
-constexpr int wholeLineFrom = 0;
-constexpr int wholeLineTo = std::numeric_limits<int>::max();
-
-Owned<IParseResult> makeResult(IParser& parser) {
-    IParseResult* result = nullptr;
-    if (parser.createResult(&result) != zarn::resultOk) {
-        throw std::bad_alloc();
-    }
-    return Owned<IParseResult>(result);
-}
-
-bool isGiven(IParseResult& result, const char* name) {
-    return result.present(name, wholeLineFrom, wholeLineTo);
-}
-
-// The first value given, so that the command line goes before option files; else the default.
-Value valueOf(IParseResult& result, const char* name) {
-    return result.get(name, wholeLineFrom, wholeLineTo);
-}
-
-std::vector<std::string> allValuesOf(IParseResult& result, const char* name) {
-    std::vector<std::string> values;
-    for (Value value = valueOf(result, name); value.status == 0; value = result.next(name)) {
-        // An empty argument is an occurrence without a value.
-        if (value.text != nullptr) {
-            values.emplace_back(value.text);
-        }
-    }
-    return values;
-}
-
 // The parser warns of the deprecated value and hands it on as it is.
-Algorithm algorithmOf(const Value& value) {
-    const std::string_view name = value.text;
+Algorithm algorithmOf(std::string_view name) {
     return name == deprecatedCrc ? Algorithm::crc32
                                  : algorithmNamed(name).value_or(Algorithm::crc32);
 }
 
-Command commandOf(IParseResult& result) {
+// Of an option given twice the first counts, so that the command line overrules option files.
+Command commandOf(zarn::IParseResult& result) {
     Command command;
-    command.create = isGiven(result, names::create);
-    command.verify = isGiven(result, names::verify);
-    command.compare = isGiven(result, names::compare);
-    command.help = isGiven(result, names::help);
-    command.hidden = isGiven(result, names::hidden);
-    command.ignoreMissing = isGiven(result, names::ignoreMissing);
-    command.quiet = isGiven(result, names::quiet);
-    command.algorithm = algorithmOf(valueOf(result, names::algorithm));
-    command.manifest = valueOf(result, names::manifest).text;
-    command.names = allValuesOf(result, names::files);
-    command.reading.jobs = valueOf(result, names::jobs).value.get<unsigned>();
-    command.reading.bufferSize = valueOf(result, names::bufferSize).value.get<unsigned>();
-    const Value color = valueOf(result, names::color);
-    if (color.status == 0) {
-        command.color = color.value.get<bool>();
-    }
+    command.create = zarn::isGiven(result, names::create);
+    command.verify = zarn::isGiven(result, names::verify);
+    command.compare = zarn::isGiven(result, names::compare);
+    command.help = zarn::isGiven(result, names::help);
+    command.hidden = zarn::isGiven(result, names::hidden);
+    command.ignoreMissing = zarn::isGiven(result, names::ignoreMissing);
+    command.quiet = zarn::isGiven(result, names::quiet);
+    command.color = zarn::get<bool>(result, names::color);
+    command.algorithm = algorithmOf(zarn::valueOr(result, names::algorithm, ""));
+    command.manifest = zarn::valueOr(result, names::manifest, "");
+    command.names = zarn::values<std::string>(result, names::files);
+    Reading& reading = command.reading;
+    reading.jobs = zarn::valueOr(result, names::jobs, reading.jobs);
+    reading.bufferSize = zarn::valueOr(result, names::bufferSize, reading.bufferSize);
     return command;
 }
 
@@ -97,18 +57,18 @@ ExitCode refuse(const std::string& message) {
     return exitUsage;
 }
 
-ExitCode reportFailure(int code, const std::string& message, const ValueChecks& checks) {
-    switch (code) {
+ExitCode reportFailure(const zarn::ParseOutcome& parsed, const ValueChecks& checks) {
+    switch (parsed.code) {
         case zarn::resultRuleBroken:
-            return refuse(message);
+            return refuse(parsed.text);
         case zarn::resultVetoed:
-            printError(message + ": " + checks.reason());
+            printError(parsed.text + ": " + checks.reason());
             return checks.isFileMissing() ? exitFile : exitUsage;
         case zarn::resultOptionFileUnreadable:
-            printError(message);
+            printError(parsed.text);
             return exitFile;
         default:
-            printError("Internal error: " + message);
+            printError("Internal error: " + parsed.text);
             return exitInternal;
     }
 }
@@ -123,39 +83,34 @@ ExitCode reportUnknown(const std::vector<std::string>& arguments) {
 
 }  // namespace
 
-Owned<IParser> makeParser() {
-    IParser* parser = nullptr;
+zarn::Parser makeParser() {
     // The third flag: names that begin with a dash can be given behind "--".
-    const int flags = zarn::flagPositionalWithoutDash | zarn::flagPositionalTakesRest |
-                      zarn::flagPositionalBehindTerminator;
-    if (zarn::createParser(&parser, flags) != zarn::resultOk) {
-        throw std::bad_alloc();
-    }
-    Owned<IParser> owned(parser);
-    declareVocabulary(*owned);
-    return owned;
+    zarn::Parser parser(zarn::flagPositionalWithoutDash | zarn::flagPositionalTakesRest |
+                        zarn::flagPositionalBehindTerminator);
+    declareVocabulary(parser);
+    return parser;
 }
 
-Outcome readCommandLine(IParser& parser, int argc, const char* const* argv) {
+Outcome readCommandLine(zarn::Parser& parser, int argc, const char* const* argv) {
     if (argc < 2) {
         return {refuse("No action defined."), {}};
     }
-    const Owned<IParseResult> result = makeResult(parser);
     ValueChecks checks;
-    UnknownArguments unknown;
-    parser.addHandler(&checks);
-    parser.addHandler(&unknown);
-    const int code = parser.parseArgsVector(argc, argv, result.get());
-    parser.removeHandler(&checks);
-    parser.removeHandler(&unknown);
+    const zarn::Registration checking(parser, checks);
+    std::vector<std::string> unknown;
+    const zarn::OnUnknown collecting(parser, [&unknown](const char* argument) {
+        unknown.emplace_back(argument);
+        return false;  // taken care of, the parse goes on
+    });
+    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
 
-    if (!unknown.all().empty()) {
-        return {reportUnknown(unknown.all()), {}};
+    if (!unknown.empty()) {
+        return {reportUnknown(unknown), {}};
     }
-    if (code != zarn::resultOk) {
-        return {reportFailure(code, parser.getErrorDesc(), checks), {}};
+    if (!parsed) {
+        return {reportFailure(parsed, checks), {}};
     }
-    const Command command = commandOf(*result);
+    const Command command = commandOf(parsed.result);
     if (const char* problem = whyNamesAreWrong(command)) {
         return {refuse(problem), {}};
     }

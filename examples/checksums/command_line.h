@@ -3,9 +3,8 @@
 #ifndef ZARN_CHECKSUMS_COMMAND_LINE_H
 #define ZARN_CHECKSUMS_COMMAND_LINE_H
 
-#include <zarn/zarn.h>
+#include <zarn/typed.h>
 
-#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -31,19 +30,8 @@ struct Command {
     Reading reading;
 };
 
-struct Destroy {
-    template <typename Interface>
-    void operator()(Interface* object) const {
-        object->destroy();
-    }
-};
-
-// Keeps an object that the library made.
-template <typename Interface>
-using Owned = std::unique_ptr<Interface, Destroy>;
-
 // Throws std::bad_alloc when memory runs out.
-Owned<zarn::IParser> makeParser();
+zarn::Parser makeParser();
 
 // What the tool is to do; when the command line is wrong, the code to exit with, after the error
 // stream has been told why.
@@ -52,7 +40,7 @@ struct Outcome {
     Command command;
 };
 
-Outcome readCommandLine(zarn::IParser& parser, int argc, const char* const* argv);
+Outcome readCommandLine(zarn::Parser& parser, int argc, const char* const* argv);
 
 }  // namespace checksums
 

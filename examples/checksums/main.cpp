@@ -30,12 +30,12 @@ ExitCode perform(const Command& command, zarn::IParser& parser) {
 }
 
 ExitCode run(int argc, const char* const* argv) {
-    const Owned<zarn::IParser> parser = makeParser();
-    const Outcome outcome = readCommandLine(*parser, argc, argv);
+    zarn::Parser parser = makeParser();
+    const Outcome outcome = readCommandLine(parser, argc, argv);
     if (outcome.code != exitOk) {
         return outcome.code;
     }
-    const ExitCode code = perform(outcome.command, *parser);
+    const ExitCode code = perform(outcome.command, parser);
     if (!std::cout.flush()) {
         printError("The standard output cannot be written.");
         return std::max(code, exitFile);

@@ -21,10 +21,10 @@ bool ValueChecks::onValueParse(const char* name, const zarn::Value& value) {
         return namesAreTopics || isThere(value.text);
     }
     if (option == names::jobs) {
-        return isInRange(value.value.get<unsigned>(), maxJobs);
+        return isInRange(zarn::get<unsigned>(value).value_or(0), maxJobs);
     }
     if (option == names::bufferSize) {
-        return isInRange(value.value.get<unsigned>(), maxBufferSize);
+        return isInRange(zarn::get<unsigned>(value).value_or(0), maxBufferSize);
     }
     return true;
 }

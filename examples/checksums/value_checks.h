@@ -3,7 +3,7 @@
 #ifndef ZARN_CHECKSUMS_VALUE_CHECKS_H
 #define ZARN_CHECKSUMS_VALUE_CHECKS_H
 
-#include <zarn/zarn.h>
+#include <zarn/typed.h>
 
 #include <string>
 

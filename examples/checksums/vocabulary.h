@@ -3,7 +3,7 @@
 #ifndef ZARN_CHECKSUMS_VOCABULARY_H
 #define ZARN_CHECKSUMS_VOCABULARY_H
 
-#include <zarn/zarn.h>
+#include <zarn/typed.h>
 
 namespace checksums {
 
@@ -30,7 +30,7 @@ inline constexpr const char* deprecatedCrc = "crc";
 inline constexpr unsigned maxJobs = 64;
 inline constexpr unsigned maxBufferSize = 1u << 24;
 
-void declareVocabulary(zarn::IParser& parser);
+void declareVocabulary(zarn::Parser& parser);
 
 }  // namespace checksums
 

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: run.sh BUILD_DIR COMPILER...
 # Installs BUILD_DIR, moves what was installed, and builds and runs a tool on it with each compiler:
-# through the CMake package, through pkg-config, and with the undefined behaviour sanitizer.
+# through the CMake package, through pkg-config, and with the undefined behaviour sanitizer. Compiles
+# each header alone.
 set -euo pipefail
 
 build_dir=$1
@@ -33,11 +34,30 @@ try_tool() {
     expect 2 "Unknown option: --nmae" "$1" --nmae Anna
 }
 
+warnings=(-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor -Woverloaded-virtual
+    -Werror)
+
+# Alone, and twice, which its guard must stand.
+compile_headers() {
+    local compiler=$1 header standard
+    for header in "${headers[@]}"; do
+        for standard in c++17 c++20; do
+            printf '#include <%s>\n' "$header" "$header" |
+                "$compiler" -std="$standard" "${warnings[@]}" -I "$includedir" -fsyntax-only -x c++ - ||
+                fail "$compiler, $standard: $header does not stand alone"
+        done
+    done
+    echo "$compiler: ${#headers[@]} headers stand alone"
+}
+
 cmake --install "$build_dir" --prefix "$work/first" >"$work/log" || fail "$(cat "$work/log")"
 mv "$work/first" "$work/moved"
 pc_file=$(find "$work/moved" -name zarn.pc)
 libdir=$(dirname "$(dirname "$pc_file")")
 export PKG_CONFIG_PATH=${pc_file%/*}
+includedir=$(pkg-config --variable=includedir zarn)
+mapfile -t headers < <(cd "$includedir" && find . -name '*.h' -printf '%P\n')
+((${#headers[@]} > 0)) || fail "no headers in $includedir"
 [[ $(pkg-config --modversion zarn) == 3.3.* ]] || fail "pkg-config does not know the version"
 ! grep -rIl -e "$work" -e "$(cd "$build_dir" && pwd)" "$work/moved" ||
     fail "the files above name the place where they were built or installed"
@@ -56,5 +76,6 @@ for compiler in "$@"; do
             $(pkg-config --cflags --libs zarn) -Wl,-rpath,"$libdir"
         try_tool "$build/by-pkg-config"
     done
+    compile_headers "$compiler"
     echo "$compiler: the package serves through CMake, pkg-config and with the sanitizer"
 done

@@ -108,11 +108,11 @@ class Workshop:
              "-DZARN_BUILD_FUZZERS=ON"],
             check=True, stdout=subprocess.DEVNULL)
 
-    def run(self, command):
+    def run(self, command, seconds=SECONDS):
         """Whether the command succeeds in time; memory is limited as well."""
         try:
             return subprocess.run(
-                ["prlimit", "--as=8000000000", *command], cwd=self.build, timeout=SECONDS,
+                ["prlimit", "--as=8000000000", *command], cwd=self.build, timeout=seconds,
                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                 stderr=subprocess.DEVNULL).returncode == 0
         except subprocess.TimeoutExpired:
@@ -182,8 +182,9 @@ def main():
     workshops = queue.Queue()
     for number in range(given.jobs):
         workshop = Workshop(ROOT / "build" / "mutate" / str(number))
-        if not workshop.is_built() or workshop.first_failure() is not None:
-            sys.exit("mutate: the tests do not pass as they are")
+        noticed = workshop.first_failure() if workshop.run(["ninja"], None) else "build"
+        if noticed is not None:
+            sys.exit(f"mutate: {noticed} fails without any change")
         workshops.put(workshop)
 
     def judge(mutant):

@@ -48,18 +48,6 @@ CODE
     (((status & 12) != 0 && (status & 3) == 0))
 }
 
-# What an optimised build carries against misuse of its memory.
-is_hardened() {
-    local segments dynamic
-    segments=$(readelf --wide --segments "$library")
-    dynamic=$(readelf --wide --dynamic "$library")
-    grep -q 'GNU_RELRO' <<<"$segments" &&
-        grep -Eq 'GNU_STACK.* RW ' <<<"$segments" &&
-        grep -q 'BIND_NOW' <<<"$dynamic" &&
-        ! grep -q 'TEXTREL' <<<"$dynamic" &&
-        grep -q '__stack_chk_fail' <<<"$(nm --dynamic --undefined-only "$library")"
-}
-
 check() {
     local what=$1
     shift
@@ -76,6 +64,6 @@ if [[ ${3-} == --update ]]; then
 fi
 check "the exported names are those of abi/exports.txt" "$here/symbols.sh" exports "$library"
 check "nothing of abi/forbidden_imports.txt is called" "$here/symbols.sh" imports "$library"
-check "the library is hardened" is_hardened
+check "the library is hardened" "$here/hardening.sh" "$library"
 check "the comparison sees two operations swapped" sees_a_swap
 check "the interface is that of abi/zarn.abi" same_interface "$here/zarn.abi" "$described"

@@ -1,6 +1,6 @@
 #!/usr/bin/env bash
 # Usage: symbols.sh exports|imports LIBRARY
-#   exports  the names that the library defines are those of exports.txt
+#   exports  the names that the library defines are those of exports.txt, each with the version node
 #   imports  it calls nothing of forbidden_imports.txt (builds without assertions only)
 set -euo pipefail
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
@@ -16,6 +16,10 @@ case $1 in
     exports)
         if ! diff "$here/exports.txt" <(names --defined-only | grep -v '^ZARN_3.3$'); then
             echo "The exported names have changed (< abi/exports.txt, > library)." >&2
+            exit 1
+        fi
+        if nm --dynamic --defined-only "$library" | grep -Ev '@@ZARN_3\.3$| A ZARN_3\.3$'; then
+            echo "These are exported without the version." >&2
             exit 1
         fi
         ;;

@@ -10,12 +10,12 @@ target_compile_options(zarn_hardening INTERFACE
 if(NOT CMAKE_CXX_FLAGS MATCHES "-fsanitize")
     target_compile_options(zarn_hardening INTERFACE
         $<${optimised}:-U_FORTIFY_SOURCE>
-        $<${optimised}:-D_FORTIFY_SOURCE=2>
+        $<${optimised}:-D_FORTIFY_SOURCE=3>  # 2 sees no copy into allocated memory
     )
     # Sanitizers leave their own symbols undefined until the program is linked.
     set(no_undefined LINKER:--no-undefined)
 endif()
-target_link_options(zarn_hardening INTERFACE
+set(zarn_link_hardening
     LINKER:-z,relro
     LINKER:-z,now
     LINKER:-z,noexecstack

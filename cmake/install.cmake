@@ -1,28 +1,46 @@
 # Headers, library, CMake package and pkg-config file; all of it may be moved afterwards.
 include(CMakePackageConfigHelpers)
+include(GNUInstallDirs)
 
-install(TARGETS zarn EXPORT zarnTargets)
-install(DIRECTORY include/plinth2 include/zarn DESTINATION ${CMAKE_INSTALL_INCLUDEDIR})
+# A directory inside the prefix moves with it, also when it was given as an absolute one.
+foreach(kind LIBDIR INCLUDEDIR)
+    set(directory ${CMAKE_INSTALL_${kind}})
+    cmake_path(IS_PREFIX CMAKE_INSTALL_PREFIX "${directory}" NORMALIZE inside)
+    if(inside)
+        cmake_path(RELATIVE_PATH directory BASE_DIRECTORY "${CMAKE_INSTALL_PREFIX}")
+    endif()
+    string(TOLOWER ${kind} kind)
+    set(${kind} ${directory})
+endforeach()
 
-set(package_dir ${CMAKE_INSTALL_LIBDIR}/cmake/zarn)
-install(EXPORT zarnTargets NAMESPACE zarn:: DESTINATION ${package_dir})
-configure_package_config_file(cmake/zarnConfig.cmake.in zarnConfig.cmake
-    INSTALL_DESTINATION ${package_dir}
-    NO_SET_AND_CHECK_MACRO
-    NO_CHECK_REQUIRED_COMPONENTS_MACRO
+install(TARGETS zarn EXPORT zarnConfig
+    LIBRARY DESTINATION ${libdir} COMPONENT runtime NAMELINK_COMPONENT development
+    ARCHIVE DESTINATION ${libdir} COMPONENT development
+    INCLUDES DESTINATION ${includedir}
 )
+install(DIRECTORY include/plinth2 include/zarn DESTINATION ${includedir} COMPONENT development
+    FILES_MATCHING PATTERN *.h
+)
+
+# Nothing else has to be found first, so the list of targets is the whole package.
+set(package_dir ${libdir}/cmake/zarn)
+install(EXPORT zarnConfig NAMESPACE zarn:: DESTINATION ${package_dir} COMPONENT development)
 write_basic_package_version_file(zarnConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES
-    ${PROJECT_BINARY_DIR}/zarnConfig.cmake
-    ${PROJECT_BINARY_DIR}/zarnConfigVersion.cmake
-    DESTINATION ${package_dir}
+install(FILES ${PROJECT_BINARY_DIR}/zarnConfigVersion.cmake DESTINATION ${package_dir}
+    COMPONENT development
 )
 
-# pkg-config finds the prefix from the place of the file, so it needs the way back up.
-set(pkgconfig_dir ${CMAKE_INSTALL_LIBDIR}/pkgconfig)
+# pkg-config finds the prefix from the place of its file, so it needs the way back up. A directory
+# outside the prefix stays as it is: appending an absolute one replaces what was there.
+set(pkgconfig_dir ${CMAKE_INSTALL_PREFIX})
+cmake_path(APPEND pkgconfig_dir ${libdir} pkgconfig)
 cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
-    BASE_DIRECTORY ${CMAKE_INSTALL_PREFIX}/${pkgconfig_dir}
+    BASE_DIRECTORY ${pkgconfig_dir}
     OUTPUT_VARIABLE way_to_prefix
 )
+foreach(directory libdir includedir)
+    set(pc_${directory} "\${prefix}")
+    cmake_path(APPEND pc_${directory} ${${directory}})
+endforeach()
 configure_file(cmake/zarn.pc.in zarn.pc @ONLY)
-install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${pkgconfig_dir})
+install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${libdir}/pkgconfig COMPONENT development)

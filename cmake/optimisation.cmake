@@ -20,10 +20,11 @@ set_source_files_properties(
 )
 
 # The library is optimised as a whole: it is a fifth smaller so, and an argument costs some 7 % less.
-# Its objects are compiled the ordinary way too, so that test programs can link them as they are.
+# Its objects are compiled the ordinary way too, so that test programs can link them as they are. An
+# archive does without: only the very compiler that wrote them can read such objects.
 add_library(zarn_optimisation INTERFACE)
 set(zarn_link_optimisation)
-if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND BUILD_SHARED_LIBS)
     target_compile_options(zarn_optimisation INTERFACE
         $<$<CONFIG:${optimised_configs}>:-flto=auto>
         $<$<CONFIG:${optimised_configs}>:-ffat-lto-objects>

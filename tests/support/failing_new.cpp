@@ -5,7 +5,7 @@
 
 thread_local Memory memory;
 
-// To malloc, so that the sanitizers still see every block. The forms for arrays call these.
+// To malloc, so that the sanitizers still see every block.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
     if (memory.left > 0 && --memory.left == 0) {
         memory.hasStruck = true;
@@ -20,5 +20,16 @@ void* operator new(std::size_t size) {
     void* const block = operator new(size, std::nothrow);
     return block != nullptr ? block : throw std::bad_alloc();
 }
-void operator delete(void* block) noexcept { std::free(block); }
-void operator delete(void* block, std::size_t) noexcept { std::free(block); }
+void operator delete(void* block) noexcept {
+    memory.returned += block != nullptr ? 1 : 0;
+    std::free(block);
+}
+void operator delete(void* block, std::size_t) noexcept { operator delete(block); }
+
+// The sanitizers bring forms for arrays of their own, which do not call those above.
+void* operator new[](std::size_t size, const std::nothrow_t&) noexcept {
+    return operator new(size, std::nothrow);
+}
+void* operator new[](std::size_t size) { return operator new(size); }
+void operator delete[](void* block) noexcept { operator delete(block); }
+void operator delete[](void* block, std::size_t) noexcept { operator delete(block); }

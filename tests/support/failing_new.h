@@ -12,6 +12,9 @@ struct Memory {
     long left = 0;           // allocations up to the one that fails, 1 for the next; 0: none will
     bool isLasting = false;  // whether all that follow fail as well
     bool hasStruck = false;
+    std::size_t returned = 0;  // blocks that were given back
+
+    std::size_t liveBlocks() const { return blocks - returned; }
 };
 
 extern thread_local Memory memory;

@@ -1,0 +1,65 @@
+# For the scripts beside this one: a place to work in, and the tool that each of them builds.
+# shellcheck shell=bash
+set -euo pipefail
+
+here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
+work=$(mktemp -d)
+trap 'rm -rf "$work"' EXIT
+export CMAKE_GENERATOR=Ninja
+
+fail() {
+    echo "package: $*" >&2
+    exit 1
+}
+
+# quietly COMMAND...: shows what it printed only when it fails.
+quietly() {
+    "$@" >"$work/log" 2>&1 || fail "$* gave $?: $(cat "$work/log")"
+}
+
+# expect CODE OUTPUT COMMAND...: OUTPUT is all that the command prints, on either stream.
+expect() {
+    local code=$1 output=$2 actual status=0
+    shift 2
+    actual=$("$@" 2>&1) || status=$?
+    [[ $status == "$code" && $actual == "$output" ]] ||
+        fail "'${*#"$work"/}' gave $status and '$actual', expected $code and '$output'"
+}
+
+try_tool() {
+    expect 0 $'Hello, Anna, loud\nHello, Anna, loud\nNote: that was all' \
+        "$1" --name Anna --co=2 --tone lou
+    expect 0 $'Hello, world, normal\nNote: that was all' "$1"
+    expect 1 "Value '/etc' is not valid for option 'name' in argument '--name=/etc'" \
+        "$1" --name=/etc
+    expect 2 "Unknown option: --nmae" "$1" --nmae Anna
+}
+
+# found_by_cmake COMPILER PREFIX: builds and runs the tool on what is installed in PREFIX.
+found_by_cmake() {
+    local build=$work/by-cmake
+    rm -rf "$build"
+    quietly cmake -S "$here" -B "$build" -DCMAKE_CXX_COMPILER="$1" -DCMAKE_BUILD_TYPE=Release \
+        -DCMAKE_PREFIX_PATH="$2"
+    quietly cmake --build "$build"
+    try_tool "$build/consumer"
+}
+
+# found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.
+found_by_pkg_config() {
+    local compiler=$1 flags
+    use_pkg_config "$2"
+    shift 2
+    read -ra flags < <(pkg-config --cflags --libs zarn)
+    quietly "$compiler" -std=c++17 -Wall -Wextra -Werror "$@" "$here/consumer.cpp" \
+        -o "$work/by-pkg-config" "${flags[@]}" -Wl,-rpath,"$(pkg-config --variable=libdir zarn)"
+    try_tool "$work/by-pkg-config"
+}
+
+# use_pkg_config PREFIX: from now on pkg-config knows the zarn in PREFIX and nothing else.
+use_pkg_config() {
+    local file
+    file=$(find "$1" -name zarn.pc)
+    export PKG_CONFIG_LIBDIR=${file%/*}
+    [[ $(pkg-config --modversion zarn) == 3.3.* ]] || fail "pkg-config does not know the version"
+}

@@ -1,0 +1,20 @@
+#!/usr/bin/env bash
+# Usage: installed.sh BUILD_DIR COMPILER...
+# Installs BUILD_DIR, moves what was installed, and builds and runs a tool on it with each compiler:
+# through the CMake package, through pkg-config, and with the undefined behaviour sanitizer.
+# shellcheck source-path=SCRIPTDIR
+source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+
+build_dir=$1
+shift
+quietly cmake --install "$build_dir" --prefix "$work/first"
+mv "$work/first" "$work/moved"
+! grep -rIl -e "$work" -e "$(cd "$build_dir" && pwd)" "$work/moved" ||
+    fail "the files above name the place where they were built or installed"
+
+for compiler in "$@"; do
+    found_by_cmake "$compiler" "$work/moved"
+    found_by_pkg_config "$compiler" "$work/moved"
+    found_by_pkg_config "$compiler" "$work/moved" -fsanitize=undefined -fno-sanitize-recover=all
+    echo "$compiler: the package serves through CMake, pkg-config and with the sanitizer"
+done

@@ -1,0 +1,26 @@
+// A tool for the guide that says what it hears: each value as it was typed, and its number.
+
+#include <zarn/typed.h>
+
+#include <iostream>
+#include <string>
+
+int main(int argc, char** argv) {
+    zarn::Parser parser(zarn::flagUnknownIsError | zarn::flagPositionalWithoutDash |
+                        zarn::flagPositionalBehindTerminator);
+    // <part>
+    const zarn::OnValue echo(parser, [](const char* name, const zarn::Value& value) {
+        std::cout << name << " '" << value.text << "'";
+        if (const auto number = zarn::get<long long>(value)) {
+            std::cout << " = " << *number;
+        } else if (const auto real = zarn::get<double>(value)) {
+            std::cout << " = " << *real;
+        }
+        std::cout << '\n';
+    });
+    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
+    if (!parsed) {
+        std::cerr << parsed.text << '\n';
+    }
+    return parsed.code;
+}

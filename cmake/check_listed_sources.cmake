@@ -1,7 +1,8 @@
 # Fails when a .cpp file under src/ or tests/ belongs to no target: it would never be compiled, and
-# a test in it never run. The tool in tests/package/ has its own build.
+# a test in it never run. A public header that is not listed would not be installed. The tool in
+# tests/package/ has its own build.
 file(STRINGS ${LISTED} listed)
-file(GLOB_RECURSE found ${ROOT}/src/*.cpp ${ROOT}/tests/*.cpp)
+file(GLOB_RECURSE found ${ROOT}/src/*.cpp ${ROOT}/tests/*.cpp ${ROOT}/include/*.h)
 list(FILTER found EXCLUDE REGEX "/tests/package/")
 list(REMOVE_ITEM found ${listed})
 if(found)

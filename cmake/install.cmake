@@ -16,10 +16,7 @@ endforeach()
 install(TARGETS zarn EXPORT zarnConfig
     LIBRARY DESTINATION ${libdir} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${libdir} COMPONENT development
-    INCLUDES DESTINATION ${includedir}
-)
-install(DIRECTORY include/plinth2 include/zarn DESTINATION ${includedir} COMPONENT development
-    FILES_MATCHING PATTERN *.h
+    FILE_SET HEADERS DESTINATION ${includedir} COMPONENT development
 )
 
 # Nothing else has to be found first, so the list of targets is the whole package.

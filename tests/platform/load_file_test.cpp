@@ -9,7 +9,6 @@
 #include <cstring>
 #include <filesystem>
 #include <fstream>
-#include <thread>
 
 #include "platform/file_calls.h"
 
@@ -124,14 +123,6 @@ TEST_F(LoadFile, RefusesWhatIsNeitherFileNorPipe) {
         EXPECT_EQ(load(name), "failed") << name;
     }
     EXPECT_EQ(opened, 0) << "opening alone can have effects";
-}
-
-TEST_F(LoadFile, ReadsAFifoToItsEnd) {
-    ASSERT_EQ(::mkfifo((folder + "fifo").c_str(), 0600), 0);
-    const std::string text(200000, 'p');
-    std::thread writer([&] { std::ofstream(folder + "fifo") << text; });
-    EXPECT_EQ(load("fifo"), text);
-    writer.join();
 }
 
 TEST_F(LoadFile, GoesOnAfterInterruptionsAndShortReads) {

@@ -143,7 +143,9 @@ public:
     // Defaults first, then every argument in turn, then the files that "option-file" names, then
     // the rules on actions. Returns
     //   resultOk
-    //   resultVetoed                a handler answered false to a value
+    //   resultVetoed                a handler answered false to a value; or `result` holds a name,
+    //                               stored by another parser, that this one does not know: the
+    //                               error text is then as it was
     //   resultRuleBroken            an argument, a value or a combination of actions is wrong
     //   resultException             a standard exception inside; `result` null or not made by this
     //                               library, `argv` null with argc above 1

@@ -1,5 +1,7 @@
 #include "log/zarn_log.h"
 
+#include <mutex>
+
 #include "platform/console.h"
 
 namespace zarn_3_3::internal {
@@ -34,7 +36,12 @@ bool switchLog(std::string_view firstArgument) noexcept {
 void switchLogOff() noexcept { zarnLogEnabled.store(false, std::memory_order_relaxed); }
 
 // The state of the stream is not looked at: a log that cannot be written never changes a parse.
+//
+// One line at a time: parsers in several threads share the switch and both streams. A stream of the
+// client's own may parse again while it is written to, hence recursive.
 void writeTraceLine(std::initializer_list<std::string_view> pieces) {
+    static std::recursive_mutex writing;
+    const std::lock_guard<std::recursive_mutex> lock(writing);
     std::ostream& log = zarnLog();
     for (const std::string_view piece : pieces) {
         log << piece;

@@ -11,10 +11,11 @@
 
 namespace zarn_3_3::internal {
 
-// Keeping a text can itself run out of memory, and nothing may leave the wall: better no text.
+// Keeping a text can itself run out of memory, and nothing may leave the wall: better no text. A
+// client's exception may have none.
 inline void keepErrorText(std::string& lastError, const char* text) noexcept {
     try {
-        lastError = text;
+        lastError = text == nullptr ? "" : text;
     } catch (const std::exception&) {
         lastError.clear();
     }

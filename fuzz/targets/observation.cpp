@@ -98,9 +98,9 @@ std::string storedUnder(IParseResult& result,
         require(std::adjacent_find(stored.values.begin(), stored.values.end(), isNotBelow) ==
                     stored.values.end(),
                 "the numbers of values ascend");
-        if (!stored.occurrences.empty()) {
-            checkRange(result, name, stored);
-        }
+    }
+    if (!stored.occurrences.empty()) {
+        checkRange(result, name, stored);
     }
     std::string seen = name + ":";
     for (const int number : stored.occurrences) {

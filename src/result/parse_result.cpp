@@ -25,6 +25,17 @@ void makeRoom(std::vector<Element>& elements, std::size_t count) {
     }
 }
 
+// Whether the elements from `first` on follow the one before them, and each other, in the order of
+// their numbers.
+template <typename Element>
+bool isAscendingFrom(const std::vector<Element>& elements, std::size_t first) {
+    const std::size_t begin = first > 0 ? first - 1 : 0;
+    return std::is_sorted(
+        elements.begin() + static_cast<std::ptrdiff_t>(begin),
+        elements.end(),
+        [](const Element& a, const Element& b) { return numberOf(a) < numberOf(b); });
+}
+
 }  // namespace
 
 void ParseResult::destroy() { delete this; }
@@ -108,11 +119,8 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
                            entry.values.end());
         throw;
     }
-    entry.isAscending =
-        entry.isAscending &&
-        std::is_sorted(entry.positions.begin() + static_cast<std::ptrdiff_t>(
-                                                     positionsBefore > 0 ? positionsBefore - 1 : 0),
-                       entry.positions.end());
+    entry.isAscending = entry.isAscending && isAscendingFrom(entry.positions, positionsBefore) &&
+                        isAscendingFrom(entry.values, valuesBefore);
 }
 
 // The first occurrence of an option makes its entries anew, whatever another item with the same

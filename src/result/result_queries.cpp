@@ -10,10 +10,6 @@ using namespace internal;
 
 namespace {
 
-int numberOf(int position) { return position; }
-
-int numberOf(const StoredValue& value) { return value.position; }
-
 // The index of the first element, from `cursor` on, whose number is not below `from`.
 template <typename Element>
 std::size_t skipBelow(const std::vector<Element>& elements,

@@ -24,6 +24,9 @@ struct StoredValue : variant_t {
 
 static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));
 
+inline int numberOf(int position) { return position; }
+inline int numberOf(const StoredValue& value) { return value.position; }
+
 struct StoredOption {
     std::string_view name;       // kept by the result
     std::vector<int> positions;  // of occurrences; a switch has only these
@@ -32,8 +35,9 @@ struct StoredOption {
     variant_t defaultVariant;
     int defaultPosition = 0;
 
-    // Whether both lists are in the order of their numbers. They nearly always are; a handler that
-    // parses into the same result inside an event stores what comes later first.
+    // Whether both lists are in the order of their numbers. They nearly always are; but a handler
+    // that parses into the same result inside an event stores what comes later first, and an item
+    // with the same name twice stores the values of each occurrence twice.
     bool isAscending = true;
 
     // Not given, but with a default. One whose text is empty does not count.

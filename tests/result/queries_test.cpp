@@ -104,6 +104,14 @@ TEST(Store, FirstOccurrenceReplacesWhatAnotherItemLeftUnderASharedName) {
     EXPECT_EQ(tool.values("shared"), "b|c|d|d|e") << "twice under the name given twice";
 }
 
+TEST(Store, WalksInRangesOverWhatANameGivenTwiceHolds) {
+    Tool tool;
+    tool.option("twice").synonym("twice");
+    tool.parse({"--twice=a", "--twice=b,c,d", "--twice=e"});
+    EXPECT_EQ(tool.walk("twice"), "a@2 b@4 c@5 d@6 b@4 c@5 d@6 e@8 e@8");
+    EXPECT_EQ(tool.walk("twice", 6), "d@6 d@6 e@8 e@8");
+}
+
 // The line draws: default, occurrence, value, value, switch, argument.
 TEST(SequenceEnd, EndsTheParseAndKeepsWhatWasStored) {
     const int before = IArgumentParser::m_idx;

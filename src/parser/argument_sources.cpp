@@ -20,10 +20,7 @@ std::string_view argumentOf(std::string_view line) {
 
 }  // namespace
 
-CommandLineSource::CommandLineSource(int argc, const char* const* argv) : at(argv), end(argv) {
-    if (argc < 2) {
-        return;
-    }
+CommandLineSource::CommandLineSource(int argc, const char* const* argv) {
     if (argv == nullptr) {
         throw std::invalid_argument("The argument vector is null");
     }

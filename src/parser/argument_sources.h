@@ -15,14 +15,14 @@ namespace zarn_3_3::internal {
 // What main was given, without the name of the program. A null entry ends it.
 class CommandLineSource final : public ArgumentSource {
 public:
-    // Throws std::invalid_argument when `argv` is null although there are arguments.
+    // `argc` is at least 1. Throws std::invalid_argument when `argv` is null.
     CommandLineSource(int argc, const char* const* argv);
 
     bool next(std::string& argument) override;
 
 private:
-    const char* const* at;
-    const char* const* end;
+    const char* const* at = nullptr;
+    const char* const* end = nullptr;
 };
 
 // A vector, which is read and left as it is.

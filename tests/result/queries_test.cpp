@@ -73,6 +73,7 @@ TEST_F(Queries, TakeNullAsNotFound) {
     EXPECT_EQ(getLastValue(tool.result, nullptr, 0, INT_MAX).status, statusNotFound);
     EXPECT_EQ(getLastValue(nullptr, "level", 0, INT_MAX).status, statusNotFound);
     EXPECT_EQ(tool.result->getFirstArgument(nullptr), statusException);
+    EXPECT_EQ(tool.result->getNextArgument(nullptr), statusException);
 }
 
 TEST_F(Queries, TextsOutliveEverythingButTheResult) {
@@ -102,6 +103,15 @@ TEST(Store, FirstOccurrenceReplacesWhatAnotherItemLeftUnderASharedName) {
     EXPECT_STREQ(text, "a text too long to live inside a string") << "kept all the same";
     tool.parse({"--one=c", "--two=d", "--shared=e"});
     EXPECT_EQ(tool.values("shared"), "b|c|d|d|e") << "twice under the name given twice";
+}
+
+TEST(Store, EndsTheParseOfAParserThatDoesNotKnowItsNames) {
+    Tool other;
+    other.option("level");
+    other.parse({"--level=1"});
+    Tool tool;
+    EXPECT_EQ(tool->parseStream("", other.result), resultVetoed);
+    EXPECT_EQ(tool.error(), "");
 }
 
 TEST(Store, WalksInRangesOverWhatANameGivenTwiceHolds) {

@@ -77,6 +77,17 @@ def both(first, second):
     return lambda data, row: [first(data, row), second(data, row)]
 
 
+def client_rows():
+    rows = []
+    for header, zarn, seconds in (("zarn.h", "zarn", 0.7), ("typed.h", "zarn-typed", 1.2)):
+        label = f"a small client on {header}: "
+        check = at_most(seconds)
+        rows.append(Row(label + "compile seconds", "client", 1, "compile", zarn=zarn, check=check))
+        check = at_most(30000)
+        rows.append(Row(label + "stripped bytes", "client", 1, "size", zarn=zarn, check=check))
+    return rows
+
+
 def argument_rows():
     rows = []
     for kind, factor in (("texts", 1.6), ("integers", 1.1)):
@@ -184,8 +195,7 @@ def all_rows():
             check=against_peer("argp", 1.0),
         ),
         *library_rows(),
-        Row("a small client: compile seconds", "client", 1, "compile"),
-        Row("a small client: stripped bytes", "client", 1, "size"),
+        *client_rows(),
         Row("a small client's process: microseconds", "client", 1, "process", check=process),
         Row("library, code and read-only data: bytes", "library", 1, "text", check=at_most(150000)),
         Row("library, code alone: bytes", "library", 1, "code"),

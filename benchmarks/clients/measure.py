@@ -13,6 +13,7 @@ import time
 
 PEERS = {
     "zarn": ("zarn_client.cpp", None),
+    "zarn-typed": ("typed_client.cpp", None),
     "getopt_long": ("getopt_client.cpp", []),
     "argp": ("argp_client.cpp", []),
     "popt": ("popt_client.cpp", ["-lpopt"]),

@@ -3,6 +3,7 @@
 #include <fcntl.h>
 #include <unistd.h>
 
+#include <climits>
 #include <exception>
 #include <new>
 
@@ -167,6 +168,17 @@ void judge(const Outcome& found, const Reference& reference, const Scenario& sce
     expect(right.events.compare(0, found.events.size(), found.events) == 0, "heard: " + seen);
 }
 
+// The result of the failed operation takes other arguments, when the memory is back.
+void expectGoesOn(World& world) {
+    testing_support::Tool& tool = world.tool;
+    tool.parseText("-c\n--name-of-the-tool-in-full=given-behind-a-failure");
+    expect(tool.result->present("c", 0, INT_MAX), "a switch behind a failure");
+    const Value last = getLastValue(tool.result, "name-of-the-tool-in-full", 0, INT_MAX);
+    expectEqual(last.status == statusFound ? last.text : "nothing",
+                "given-behind-a-failure",
+                "a value behind a failure");
+}
+
 // The same operation in the same parser, with memory again.
 void repeat(World& world, const Scenario& scenario, const Reference& reference) {
     const Outcome again = perform(world, scenario, {Outage::once, 0});
@@ -195,6 +207,9 @@ void disturbAndRepeat(const Scenario& scenario,
     judge(found, reference, scenario);
     if (scenario.lack == Lack::help) {
         expectLastError(world, found, reference.first);
+    }
+    if (scenario.flags == usualFlags) {
+        expectGoesOn(world);
     }
     repeat(world, scenario, reference);
     memory.hasStruck = hasStruck;

@@ -177,16 +177,31 @@ void shareValues() {
     expectLastOwner(wide);
 }
 
+// Threads give up the same values in the same order: whoever is the last owner frees one, and
+// nobody else does.
 void dropAsLastOwner() {
-    constexpr int threads = 8;
-    constexpr int rounds = 500;
+    constexpr int threads = 2;
+    constexpr int rounds = 5000;
+    constexpr long values = 50;
     for (int round = 0; round < rounds; ++round) {
         // Made while this may be the only thread, and given up before the others are done.
-        std::vector<variant_t> owned(threads, variant_t("a text that the last one frees"));
-        inThreads(threads, [&owned](int i) {
-            const variant_t mine = std::move(owned[static_cast<std::size_t>(i)]);
-            expect(mine.get<std::string>().size() == 30, "text of the last owner");
+        std::vector<variant_t> shared;
+        for (long i = 0; i < values; ++i) {
+            shared.emplace_back("a text that the last one frees");
+        }
+        std::vector<std::vector<variant_t>> owned(threads, shared);
+        shared.clear();
+        std::atomic<long> freed{0};
+        inThreads(threads, [&owned, &freed](int i) {
+            std::vector<variant_t>& mine = owned[static_cast<std::size_t>(i)];
+            expect(mine.front().get<std::string>().size() == 30, "text of the last owner");
+            const std::size_t returned = memory.returned;
+            for (variant_t& value : mine) {
+                value.free_data();
+            }
+            freed += static_cast<long>(memory.returned - returned);
         });
+        expect(freed == values, "each value is freed once");
     }
 }
 

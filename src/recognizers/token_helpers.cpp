@@ -19,23 +19,20 @@ constexpr std::array dashes{
     TROV_2_18::utf32_to_utf8(U'\x2053'),  // swung dash
 };
 
-// With which all but the first begin: one byte tells most arguments from dashes.
+// All dashes begin with one of two bytes, which tell most arguments from them.
+constexpr char shortDash = dashes[0].view()[0];
 constexpr char longDashLead = dashes[1].view()[0];
 
-std::size_t longDashLength(std::string_view text) {
+std::size_t leadingDashLength(std::string_view text) {
+    if (text.empty() || (text[0] != shortDash && text[0] != longDashLead)) {
+        return 0;
+    }
     for (const auto& dash : dashes) {
         if (text.substr(0, dash.view().size()) == dash.view()) {
             return dash.view().size();
         }
     }
     return 0;
-}
-
-std::size_t leadingDashLength(std::string_view text) {
-    if (text.empty() || (text[0] != '-' && text[0] != longDashLead)) {
-        return 0;
-    }
-    return text[0] == '-' ? 1 : longDashLength(text);
 }
 
 // Two leading dashes at most are taken off, a third belongs to the name.

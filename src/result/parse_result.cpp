@@ -72,7 +72,6 @@ void ParseResult::applyDefault(const OptionList& items) {
 }
 
 void ParseResult::storeArgument(std::string_view argument) {
-    makeRoom(arguments, 1);
     const char* const kept = texts.keep(argument);
     IArgumentParser::drawIndex();  // the number is part of the order, though no query shows it
     arguments.push_back(kept);

@@ -1,16 +1,22 @@
 // Tools that were built against an older library call by slot, and know layouts: what moves breaks
 // them silently. This program is linked with the shared library, as a tool is.
 
+#include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <climits>
 #include <cstddef>
 #include <cstring>
+#include <set>
+#include <string>
 #include <type_traits>
 
 #include "zarn/zarn.h"
 
 namespace zarn_3_3 {
 namespace {
+
+using testing::HasSubstr;
 
 // Numbers and layouts that are compiled into tools. They never change within a version.
 static_assert(vtBool == 0 && vtS32 == 6 && vtU32 == 7 && vtS64 == 8 && vtU64 == 9);
@@ -63,6 +69,119 @@ TEST(Slots, NeverMove) {
     expectSlotsFrom(5, &R::getFirstArgument, &R::getNextArgument);
     expectSlotsFrom(0, &O::synonym, &O::allowValue, &O::allowDeprecatedValue, &O::defaultValue);
     expectSlotsFrom(4, &O::tokenize, &O::positional, &O::tag);
+}
+
+// Calls the operation at `slot` of the table of `object`, as compiled tools do. References travel
+// as pointers.
+template <typename Answer, typename... Arguments>
+Answer call(const void* object, std::size_t slot, Arguments... arguments) {
+    void* const* table = nullptr;
+    std::memcpy(&table, object, sizeof table);
+    using Operation = Answer (*)(const void*, Arguments...);
+    return reinterpret_cast<Operation>(table[slot])(object, arguments...);
+}
+
+class Counter final : public EventHandler {
+public:
+    bool onOptionParse(const char*) override { return ++options != 0; }
+    bool onValueParse(const char*, const Value& value) override { return value.position != 99; }
+
+    int options = 0;
+};
+
+constexpr auto noText = static_cast<const char*>(nullptr);
+
+void expectOptionTable(const IOption* item) {
+    const variant_t one(1);
+    const variant_t two(2);
+    EXPECT_EQ(call<const IOption*>(item, 0, "by-another-name"), item);
+    EXPECT_EQ(call<const IOption*>(item, 1, &one), item);
+    EXPECT_EQ(call<const IOption*>(item, 2, &two, &one), item);
+    EXPECT_EQ(call<const IOption*>(item, 3, &one), item);
+    EXPECT_EQ(call<const IOption*>(item, 4, ';'), item);
+    EXPECT_EQ(call<const IOption*>(item, 5), item);
+    EXPECT_EQ(call<const IOption*>(item, 6, "run"), item);
+}
+
+void expectResultTable(const IParseResult* result) {
+    EXPECT_TRUE(call<bool>(result, 1, "by-another-name", 0, INT_MAX));
+    const Value first = call<Value>(result, 2, "level", 0, INT_MAX);
+    EXPECT_EQ(first.status, statusFound);
+    EXPECT_STREQ(first.text, "1");
+    EXPECT_EQ(call<int>(result, 4), first.position - 1) << "the number of the occurrence";
+    EXPECT_EQ(call<Value>(result, 3, "level").status, statusFound);
+    EXPECT_EQ(call<Value>(result, 3, "level").status, statusNotFound);
+    const char* text = nullptr;
+    EXPECT_EQ(call<int>(result, 5, &text), statusFound);
+    EXPECT_STREQ(text, "first");
+    EXPECT_EQ(call<int>(result, 6, &text), statusFound);
+    EXPECT_STREQ(text, "second");
+}
+
+void expectTextTable(const void* parser) {
+    EXPECT_THAT(call<const char*>(parser, 11), HasSubstr("'speed' requires a value"));
+    EXPECT_THAT(call<const char*>(parser, 12, false), HasSubstr("Stops"));
+    EXPECT_THAT(call<const char*>(parser, 13, "speed", false), HasSubstr("How fast"));
+    EXPECT_THAT(call<const char*>(parser, 14, "run", false), HasSubstr("How fast"));
+    EXPECT_THAT(call<const char*>(parser, 15, false), HasSubstr("Reads a file"));
+}
+
+TEST(Slots, AreCalledByTheirNumbers) {
+    IParser* made = nullptr;
+    ASSERT_EQ(createParser(&made, 0), resultOk);
+    const void* const parser = made;
+    IParseResult* result = nullptr;
+    ASSERT_EQ(call<int>(parser, 4, &result), resultOk);
+
+    // The registry may move what was declared, so that an item is asked before the next one.
+    const auto* item = call<const IOption*>(parser, 5, "level", "How deep", vtS32, "g:General");
+    expectOptionTable(item);
+    call<const IOption*>(parser, 6, "run", "Runs", vtNull, "a:Actions");
+    call<const IOption*>(parser, 6, "stop", "Stops", vtNull, "a:Actions");
+    call<const IOption*>(parser, 7, "speed", "run", "How fast", vtS32, "g");
+    EXPECT_TRUE(call<bool>(parser, 8, "run", true, "a"));
+    EXPECT_TRUE(call<bool>(parser, 18, "Reads a file", "g"));
+    EXPECT_TRUE(call<bool>(parser, 8, "option-file", false, noText));
+    const std::set<std::string> both{"run", "stop"};
+    EXPECT_TRUE(call<bool>(parser, 19, &both));
+
+    Counter counter;
+    EXPECT_TRUE(call<bool>(parser, 16, static_cast<EventHandler*>(&counter)));
+    const char* const line[] = {"tool", "--run", "--stop", "--level=1;1", "--", "first", "second"};
+    EXPECT_EQ(call<int>(parser, 9, 7, line, result), resultOk);
+    EXPECT_EQ(counter.options, 3);
+    Value value;
+    EXPECT_TRUE(call<bool>(parser, 0, "level"));
+    EXPECT_TRUE(call<bool>(parser, 1, "level", &value));
+    EXPECT_TRUE(call<bool>(parser, 2, "level"));
+    value.position = 99;
+    EXPECT_FALSE(call<bool>(parser, 1, "level", &value)) << "the handler is asked";
+    EXPECT_EQ(counter.options, 4);
+    EXPECT_TRUE(call<bool>(parser, 17, static_cast<EventHandler*>(&counter)));
+    expectResultTable(result);
+
+    EXPECT_EQ(call<int>(parser, 10, "--speed", result), resultRuleBroken);
+    expectTextTable(parser);
+    call<void>(parser, 3);
+    call<void>(result, 0);
+}
+
+TEST(Slots, EndInDestructors) {
+    IParser* parser = nullptr;
+    ASSERT_EQ(createParser(&parser, 0), resultOk);
+    IParseResult* result = nullptr;
+    ASSERT_EQ(parser->createResult(&result), resultOk);
+    call<void>(result, 8);  // the leak checker sees whether they free what they destroy
+    call<void>(parser, 21);
+}
+
+TEST(Handler, AnswersTrueUnlessToldOtherwise) {
+    struct Silent final : EventHandler {
+    } handler;
+    const Value value;
+    EXPECT_TRUE(call<bool>(&handler, 0, "name"));
+    EXPECT_TRUE(call<bool>(&handler, 1, "name", &value));
+    EXPECT_TRUE(call<bool>(&handler, 2, "argument"));
 }
 
 TEST(Misuse, EndsDebugBuildsAlone) {

@@ -77,6 +77,9 @@ TEST(PhaseOneAndParseVector, LeaveWhatWasNotParsed) {
             EXPECT_EQ(args, row.left);
             EXPECT_EQ((isPhase ? error : tool.error()).empty(), code <= resultOk);
             EXPECT_EQ(tool.values("level") + ";" + tool.values("file"), row.stored);
+            const bool keepsPlain = !isPhase && row.left == Words{"--", "a"};
+            const char* plain = nullptr;
+            EXPECT_EQ(tool.result->getFirstArgument(&plain) == statusFound, keepsPlain);
         }
     }
 }
@@ -91,6 +94,9 @@ TEST(Phases, NeedNoMoreThanTheyUse) {
     EXPECT_EQ(one(tool.parser, "+", args, nullptr, error), resultOk);
     EXPECT_EQ(one(tool.parser, "--", args, nullptr, error), resultRuleBroken);
     EXPECT_EQ(error, "Unknown option: +");
+    args = {"--run"};
+    EXPECT_THROW(one(tool.parser, "--", args, nullptr, error), std::invalid_argument);
+    args = {"+", "--run"};
     tool.option("level", vtS32).defaultValue(1);
     EXPECT_EQ(tool.parse({}), resultOk) << "comes not so far";
     EXPECT_EQ(two(tool.parser, "+", args, tool.result, error), resultRuleBroken);

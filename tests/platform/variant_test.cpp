@@ -9,6 +9,7 @@
 #include <thread>
 #include <vector>
 
+#include "platform/compare.h"
 #include "support/assertion_double.h"
 
 namespace plinth2 {
@@ -98,6 +99,32 @@ TEST(Variant, SharesOwnedDataAmongItsCopies) {
     EXPECT_THROW(variant_t::blob("", std::numeric_limits<std::size_t>::max()), std::bad_alloc);
 }
 
+struct Header {
+    std::uint64_t size;
+    std::uint32_t owners;
+};
+
+Header headerOf(const variant_t& value) {
+    const char* data = nullptr;
+    std::memcpy(&data, &value, sizeof data);
+    Header header{};
+    std::memcpy(&header, data - sizeof header, sizeof header);
+    return header;
+}
+
+// The two words in front of the data are a layout that other builds know.
+TEST(Variant, KeepsSharedDataBehindItsSizeAndTheCountOfOwners) {
+    EXPECT_EQ(headerOf("text").size, 5U);
+    EXPECT_EQ(headerOf(nullText).size, 0U);
+    EXPECT_EQ(headerOf(wide(L"ab")).size, 3 * sizeof(wchar_t));
+    EXPECT_EQ(headerOf(blob("abc")).size, 3U);
+    EXPECT_EQ(headerOf(noBytes).size, 0U);
+    const variant_t value("text");
+    EXPECT_EQ(headerOf(value).owners, 1U);
+    const variant_t copy = value;
+    EXPECT_EQ(headerOf(value).owners, 2U);
+}
+
 TEST(Variant, MayBeCopiedAndDroppedOnSeveralThreads) {
     const variant_t value("shared");
     std::vector<std::thread> threads(4);
@@ -110,6 +137,12 @@ TEST(Variant, MayBeCopiedAndDroppedOnSeveralThreads) {
     }
     std::for_each(threads.begin(), threads.end(), [](std::thread& thread) { thread.join(); });
     EXPECT_EQ(value.get<std::string>(), "shared");
+}
+
+TEST(Variant, OrdersObjectsByTheirAddresses) {
+    const char objects[2] = {};
+    EXPECT_LT(notype_ptr_compare(objects, objects + 1), 0);
+    EXPECT_GT(notype_ptr_compare(objects + 1, objects), 0);
 }
 
 TEST(Variant, ReadsNumbersAsTheyStand) {
@@ -136,6 +169,9 @@ TEST(MisusedVariant, IsReportedAndReadsAsSomethingHarmless) {
     expectMisread<unsigned long>(nothing, "u64_t", 0);
     expectMisread<double>(nothing, "double", 0.0);
     expectMisread<std::string>(wide(L"a"), "const char*", "");
+    variant_t freed(5);
+    freed.free_data();
+    expectMisread<int>(freed, "s32_t", 0);
 
     const variant_t unknown = retyped(1L, 19);
     EXPECT_FALSE(unknown == unknown);

@@ -51,6 +51,7 @@ TEST(GetDashLength, KnowsSixDashes) {
         EXPECT_EQ(getDashLength(std::string("x\xE2\x80") + last + "y", 1), isDash ? 3U : 0U);
     }
     EXPECT_EQ(getDashLength("\xE2\x81\x93", 0), 3U);
+    EXPECT_EQ(getDashLength("-", 0), 1U);
     EXPECT_THROW(getDashLength("a", 2), std::out_of_range);
 }
 

@@ -1,0 +1,31 @@
+#include "platform/utf.h"
+
+#include <gtest/gtest.h>
+
+namespace TROV_2_18 {
+namespace {
+
+struct Row {
+    char32_t codePoint;
+    const char* text;
+};
+
+// Around the places where the length changes.
+const Row rows[] = {
+    {0x2D,   "-"           },
+    {0x7F,   "\x7F"        },
+    {0x80,   "\xC2\x80"    },
+    {0x7FF,  "\xDF\xBF"    },
+    {0x800,  "\xE0\xA0\x80"},
+    {0x2053, "\xE2\x81\x93"},
+    {0xFFFF, "\xEF\xBF\xBF"},
+};
+
+TEST(Utf8, EncodesCodePointsOfEachLength) {
+    for (const Row& row : rows) {
+        EXPECT_EQ(utf32_to_utf8(row.codePoint).view(), row.text);
+    }
+}
+
+}  // namespace
+}  // namespace TROV_2_18

@@ -92,7 +92,7 @@ void releaseData(const void* data) noexcept {
 
 bool isNumber(das_variant_type_t type) noexcept { return type <= vtDouble; }
 bool isFloating(das_variant_type_t type) noexcept { return type == 10 || type == vtDouble; }
-bool isUnsigned(das_variant_type_t type) noexcept { return type <= vtU64 && type % 2 != 0; }
+bool isUnsigned(das_variant_type_t integer) noexcept { return integer % 2 != 0; }
 bool isNarrowText(das_variant_type_t type) noexcept {
     return type == vtString || type == vtStringRef;
 }

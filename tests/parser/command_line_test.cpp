@@ -182,6 +182,41 @@ TEST(ArgumentVector, EndsAtItsCountOrAtANullEntry) {
     }
 }
 
+TEST(Declaration, IsRefusedForTooManyNamesAndForTakenOnes) {
+    const std::pair<const char*, bool> rows[] = {
+        {"new,b,cd",   true },
+        {"new,b,cde",  false},
+        {"new,b,c,d",  false},
+        {"new,level",  false},
+        {"new,levels", true },
+        {"new,new",    true },
+    };
+    for (const auto& [names, isDeclared] : rows) {
+        Tool tool(flagUnknownIsError);
+        tool.option("level", vtS32);
+        tool->option(names, "", vtS32, "");
+        EXPECT_EQ(tool->isOptionDeclared("new", false, nullptr), isDeclared) << names;
+        EXPECT_EQ(tool.parse({"--level=1"}), resultOk) << names;
+    }
+}
+
+TEST(NullTexts, AreEmptyOrAddNothing) {
+    Tool tool(flagUnknownIsError);
+    tool.option("level", vtS32).synonym(nullptr).tag(nullptr);
+    tool->modifier("speed", nullptr, nullptr, vtS32, nullptr);
+    tool->option(nullptr, nullptr, vtString, nullptr).positional();
+    EXPECT_FALSE(tool->isOptionDeclared(nullptr, false, nullptr));
+    EXPECT_EQ(tool->parseStream(nullptr, tool.result), resultOk);
+    EXPECT_EQ(tool.parse({"--level=1", "--speed=2"}), resultOk) << "belongs to no action";
+    EXPECT_EQ(tool.stored(), "level=1");
+    Tool same(flagUnknownIsError);
+    same.option("level", vtS32);
+    same->modifier("speed", "", "", vtS32, "");
+    same->option("", "", vtString, "");
+    EXPECT_STREQ(tool->getDescription(false), same->getDescription(false));
+    EXPECT_EQ(tool.parse({"file"}), resultException) << "without a name";
+}
+
 // Like a client's own: it is refused before any operation is called.
 class ForeignResult final : public IParseResult {
 public:

@@ -49,6 +49,15 @@ TEST_F(Handlers, FirstToRefuseAValueIsTheLastAsked) {
     EXPECT_EQ(tool.walk("level"), "4@5") << "the refused value had its number";
 }
 
+TEST_F(Handlers, AreAllAskedAboutAnUnknownArgument) {
+    for (const char* const taker : {"1 unknown -q", "2 unknown -q", ""}) {
+        moment = taker;
+        heard.clear();
+        EXPECT_EQ(tool.parse({"-q"}), *taker == '\0' ? resultRuleBroken : resultOk) << taker;
+        EXPECT_EQ(heard, "1 unknown -q; 2 unknown -q");
+    }
+}
+
 TEST_F(Handlers, MayComeAndGoInsideAnEvent) {
     const auto changes = testing_support::rowsOf(
         R"(1 option level  | 1 | 1 option level; 2 option level; 2 value level=5

@@ -85,6 +85,18 @@ TEST_F(OptionFiles, AreReadOnlyWhenTheToolSaysSo) {
     EXPECT_EQ(other.parse({naming("missing")}), resultOk);
 }
 
+TEST_F(OptionFiles, MayBeNamedByADefaultOfTheTool) {
+    Tool other(flagUnknownIsError);
+    other.option("option-file").defaultValue(folder + "default");
+    declare(other);
+    EXPECT_EQ(other.parse({"--level=0"}), resultOptionFileUnreadable);
+    write("default", "--level=1\n" + naming("next"));
+    write("next", "--level=2");
+    other.startNewResult();
+    EXPECT_EQ(other.parse({"--level=0"}), resultOk) << other.error();
+    EXPECT_EQ(other.values("level"), "0|1|2");
+}
+
 TEST_F(OptionFiles, MayNotNameThemselvesAgain) {
     const std::string cycle = ": the files name each other in a cycle";
     write("one", naming("two"));

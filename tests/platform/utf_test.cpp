@@ -2,16 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <utility>
+
 namespace TROV_2_18 {
 namespace {
 
-struct Row {
-    char32_t codePoint;
-    const char* text;
-};
-
 // Around the places where the length changes.
-const Row rows[] = {
+const std::pair<char32_t, const char*> rows[] = {
     {0x2D,   "-"           },
     {0x7F,   "\x7F"        },
     {0x80,   "\xC2\x80"    },
@@ -22,8 +19,8 @@ const Row rows[] = {
 };
 
 TEST(Utf8, EncodesCodePointsOfEachLength) {
-    for (const Row& row : rows) {
-        EXPECT_EQ(utf32_to_utf8(row.codePoint).view(), row.text);
+    for (const auto& [codePoint, text] : rows) {
+        EXPECT_EQ(utf32_to_utf8(codePoint).view(), text);
     }
 }
 

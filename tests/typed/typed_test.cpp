@@ -111,6 +111,12 @@ TEST_F(Typed, OutcomeTellsWhyAParseFailed) {
     EXPECT_EQ(line.code, resultRuleBroken);
     EXPECT_EQ(line.text, "Unknown option: --nowhere");
     EXPECT_THAT(values<int>(line.result, "level"), ElementsAre(1)) << "what came before is kept";
+    line = parser.parseStream("--level=3\n--level=4", std::move(line.result));
+    EXPECT_TRUE(line && line.text.empty());
+    EXPECT_THAT(values<int>(line.result, "level"), ElementsAre(1, 3, 4));
+    line = parser.parseStream("--level=5\n--nowhere");
+    EXPECT_EQ(line.text, "Unknown option: --nowhere");
+    EXPECT_THAT(values<int>(line.result, "level"), ElementsAre(5));
     line = parse(parser, {});
     EXPECT_TRUE(line && line.text.empty());
 }

@@ -6,6 +6,7 @@
 #include <initializer_list>
 #include <new>
 #include <string>
+#include <utility>
 
 #include "zarn/parser.h"
 #include "zarn/result.h"
@@ -83,13 +84,24 @@ public:
     // Throws std::bad_alloc when there is no memory for the outcome, and what a handler throws that
     // does not derive from std::exception.
     ParseOutcome parse(int argc, const char* const* argv) {
-        ParseOutcome outcome{resultOk, {}, Result(*get())};
-        outcome.code = get()->parseArgsVector(argc, argv, outcome.result.get());
-        if (!outcome) {
-            outcome.text = get()->getErrorDesc();
-        }
-        return outcome;
+        Result into(*get());
+        const int code = get()->parseArgsVector(argc, argv, into.get());
+        return conclude(code, std::move(into));
     }
+
+    // Parses a text of one argument a line; see IParser::parseStream. Outcome and exceptions are
+    // those of parse; an exception takes `into` with it.
+    //
+    // text  null for an empty text
+    // into  what is found is added to what it holds; without one, a new result. It has to come
+    //       from this parser
+    //
+    //     outcome = parser.parseStream(std::getenv("TOOL_OPTIONS"), std::move(outcome.result));
+    ParseOutcome parseStream(const char* text, Result into) {
+        const int code = get()->parseStream(text, into.get());
+        return conclude(code, std::move(into));
+    }
+    ParseOutcome parseStream(const char* text) { return parseStream(text, Result(*get())); }
 
 private:
     static IParser* make(int flags) {
@@ -98,6 +110,10 @@ private:
             throw std::bad_alloc();
         }
         return made;
+    }
+
+    ParseOutcome conclude(int code, Result filled) {
+        return {code, code == resultOk ? "" : get()->getErrorDesc(), std::move(filled)};
     }
 };
 

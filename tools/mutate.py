@@ -9,6 +9,7 @@ reason. The same seed gives the same sample.
 
 import argparse
 import concurrent.futures
+import os
 import pathlib
 import queue
 import random
@@ -113,6 +114,7 @@ class Workshop:
         try:
             return subprocess.run(
                 ["prlimit", "--as=8000000000", *command], cwd=self.build, timeout=seconds,
+                env={**os.environ, "MALLOC_PERTURB_": "85"},  # as the tests have it
                 stdin=subprocess.DEVNULL, stdout=subprocess.DEVNULL,
                 stderr=subprocess.DEVNULL).returncode == 0
         except subprocess.TimeoutExpired:

@@ -39,15 +39,17 @@ void compareDashes(const std::string& text) {
 
 void compareCut(const std::string& argument) {
     const std::locale global;
+    const auto& classes = std::use_facet<std::ctype<char>>(global);
+    const auto isSpace = [&classes](char c) { return classes.is(std::ctype_base::space, c); };
     std::size_t at = plainDashLength(argument, 0);
     at += plainDashLength(argument, at);
     std::string name;
-    while (at < argument.size() && argument[at] != '=' && !std::isspace(argument[at], global)) {
+    while (at < argument.size() && argument[at] != '=' && !isSpace(argument[at])) {
         name += argument[at++];
     }
     const bool isAttached = at < argument.size();
     if (isAttached && argument[at++] != '=') {
-        while (at < argument.size() && std::isspace(argument[at], global)) {
+        while (at < argument.size() && isSpace(argument[at])) {
             ++at;
         }
     }

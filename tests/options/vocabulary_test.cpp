@@ -5,8 +5,10 @@
 #include <algorithm>
 #include <iostream>
 #include <random>
+#include <set>
 
 #include "options/registered_option_storage.h"
+#include "options/text_hash.h"
 #include "support/assertion_double.h"
 #include "support/captured_stream.h"
 
@@ -76,6 +78,22 @@ void expectSlowAnswers(const RegisteredOptionStorage& registry, const std::strin
     EXPECT_EQ(code == resultSuccess ? found : size, first) << text;
     EXPECT_EQ(registry.isDeclared(text, true, nullptr), isDeclared[kindAction]) << text;
     EXPECT_EQ(registry.isDeclared(text, false, nullptr), isDeclared[kindOption]) << text;
+}
+
+// Equal hashes would change no answer, and make every look-up walk.
+TEST(TextHash, TellsTextsApartThatDifferInOneByte) {
+    for (std::size_t size = 1; size <= 20; ++size) {
+        const std::string text(size, 'x');
+        std::set<std::uint32_t> hashes{internal::TextHash::of(text)};
+        for (std::size_t at = 0; at < size; ++at) {
+            for (const char other : {'a', 'X', '\xFF'}) {
+                std::string changed = text;
+                changed[at] = other;
+                hashes.insert(internal::TextHash::of(changed));
+            }
+        }
+        EXPECT_EQ(hashes.size(), 1 + 3 * size) << size;
+    }
 }
 
 TEST(Registry, FindsWhatALinearSearchFinds) {

@@ -10,6 +10,7 @@ namespace {
 // Around the places where the length changes.
 const std::pair<char32_t, const char*> rows[] = {
     {0x2D,   "-"           },
+    {0x40,   "@"           },
     {0x7F,   "\x7F"        },
     {0x80,   "\xC2\x80"    },
     {0x7FF,  "\xDF\xBF"    },

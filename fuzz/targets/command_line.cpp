@@ -17,6 +17,7 @@
 #include "quiet_console.h"
 #include "recognizers/argument_parser.h"
 #include "support/assertion_double.h"
+#include "tool.h"
 #include "vocabulary.h"
 
 namespace fuzzing {
@@ -33,29 +34,6 @@ struct Outcome {
     std::string seen;
     bool canBeText = false;
 };
-
-std::vector<std::string> declare(Bytes& bytes, IParser& parser) {
-    std::vector<std::string> names = declareVocabulary(bytes, parser);
-    if (bytes.flag()) {
-        parser.addOptionFileOption("Arguments from a file", "main");
-        names.emplace_back("option-file");
-    }
-    for (unsigned left = bytes.below(3); left > 0; --left) {
-        std::vector<std::string> group;
-        appendNames(tagsFrom(bytes), group);
-        parser.allowSimultaneousActions({group.begin(), group.end()});
-    }
-    return names;
-}
-
-std::vector<std::string> filesFrom(Bytes& bytes) {
-    std::vector<std::string> contents;
-    for (unsigned left = bytes.below(4); left > 0; --left) {
-        contents.push_back(linesOf(argumentsFrom(bytes)));
-        contents.back() += bytes.text();
-    }
-    return contents;
-}
 
 int parse(Way way,
           IParser& parser,
@@ -92,7 +70,7 @@ Outcome act(Bytes bytes, Way way) {
     }
 
     Outcome outcome;
-    const std::vector<std::string> names = declare(bytes, *parser);
+    const std::vector<std::string> names = declareTool(bytes, *parser);
     setFiles(filesFrom(bytes));
     const std::vector<std::string> arguments = argumentsFrom(bytes);
     const int code = parse(way, *parser, arguments, result);

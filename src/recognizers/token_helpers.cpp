@@ -9,9 +9,10 @@
 namespace zarn_3_3 {
 namespace {
 
-// Word processors turn "--" into one of the longer dashes; a pasted command line must still work.
-constexpr std::array dashes{
-    TROV_2_18::utf32_to_utf8(U'\x002D'),  // hyphen-minus
+constexpr char hyphen = TROV_2_18::utf32_to_utf8(U'\x002D').view()[0];
+
+// Word processors turn "--" into one of these; a pasted command line must still work.
+constexpr std::array longDashes{
     TROV_2_18::utf32_to_utf8(U'\x2012'),  // figure dash
     TROV_2_18::utf32_to_utf8(U'\x2013'),  // en dash
     TROV_2_18::utf32_to_utf8(U'\x2014'),  // em dash
@@ -19,20 +20,26 @@ constexpr std::array dashes{
     TROV_2_18::utf32_to_utf8(U'\x2053'),  // swung dash
 };
 
-// All dashes begin with one of two bytes, which tell most arguments from them.
-constexpr char shortDash = dashes[0].view()[0];
-constexpr char longDashLead = dashes[1].view()[0];
+// With which all of them begin: one byte tells most arguments from dashes.
+constexpr char longDashLead = longDashes[0].view()[0];
 
-std::size_t leadingDashLength(std::string_view text) {
-    if (text.empty() || (text[0] != shortDash && text[0] != longDashLead)) {
-        return 0;
-    }
-    for (const auto& dash : dashes) {
+std::size_t longDashLength(std::string_view text) {
+    for (const auto& dash : longDashes) {
         if (text.substr(0, dash.view().size()) == dash.view()) {
             return dash.view().size();
         }
     }
     return 0;
+}
+
+std::size_t leadingDashLength(std::string_view text) {
+    if (text.empty()) {
+        return 0;
+    }
+    if (text[0] == hyphen) {
+        return 1;
+    }
+    return text[0] == longDashLead ? longDashLength(text) : 0;
 }
 
 // Two leading dashes at most are taken off, a third belongs to the name.

@@ -6,11 +6,11 @@
 
 #include <climits>
 #include <cstddef>
-#include <cstring>
 #include <set>
 #include <string>
 #include <type_traits>
 
+#include "support/raw_table.h"
 #include "zarn/zarn.h"
 
 namespace zarn_3_3 {
@@ -34,22 +34,28 @@ static_assert(offsetof(Value, position) == 12 && offsetof(Value, value) == 16);
 static_assert(sizeof(WordWrappedText) == 32 && !std::is_polymorphic_v<WordWrappedText>);
 static_assert(sizeof(EventHandler) == sizeof(void*) && sizeof(IParser) == sizeof(void*));
 
-// Calls the operation at `slot` of the table of `object`, as compiled tools do. References travel
-// as pointers.
+// References travel as pointers.
 template <typename Answer, typename... Arguments>
 Answer call(const void* object, std::size_t slot, Arguments... arguments) {
-    void* const* table = nullptr;
-    std::memcpy(&table, object, sizeof table);
-    using Operation = Answer (*)(const void*, Arguments...);
-    return reinterpret_cast<Operation>(table[slot])(object, arguments...);
+    using Operation = Answer(const void*, Arguments...);
+    return testing_support::operationAt<Operation>(object, slot)(object, arguments...);
 }
 
-class Counter final : public EventHandler {
+class Listener final : public EventHandler {
 public:
-    bool onOptionParse(const char*) override { return ++options != 0; }
-    bool onValueParse(const char*, const Value& value) override { return value.position != 99; }
+    bool onOptionParse(const char*) override { return hear('o', false); }
+    bool onValueParse(const char*, const Value& value) override {
+        return hear('v', value.position != 99);
+    }
+    bool onUknownArgument(const char*) override { return hear('u', true); }
 
-    int options = 0;
+    std::string heard;
+
+private:
+    bool hear(char event, bool answer) {
+        heard += event;
+        return answer;
+    }
 };
 
 constexpr auto noText = static_cast<const char*>(nullptr);
@@ -57,10 +63,11 @@ constexpr auto noText = static_cast<const char*>(nullptr);
 void expectOptionTable(const IOption* item) {
     const variant_t one(1);
     const variant_t two(2);
+    const variant_t byDefault(7);
     EXPECT_EQ(call<const IOption*>(item, 0, "by-another-name"), item);
     EXPECT_EQ(call<const IOption*>(item, 1, &one), item);
     EXPECT_EQ(call<const IOption*>(item, 2, &two, &one), item);
-    EXPECT_EQ(call<const IOption*>(item, 3, &one), item);
+    EXPECT_EQ(call<const IOption*>(item, 3, &byDefault), item);
     EXPECT_EQ(call<const IOption*>(item, 4, ';'), item);
     EXPECT_EQ(call<const IOption*>(item, 5), item);
     EXPECT_EQ(call<const IOption*>(item, 6, "run"), item);
@@ -111,18 +118,18 @@ TEST(Slots, AreCalledByTheirNumbers) {
     Value value;
     EXPECT_TRUE(call<bool>(parser, 0, "level")) << "nobody listens";
     EXPECT_TRUE(call<bool>(parser, 1, "level", &value));
-    Counter counter;
-    EXPECT_TRUE(call<bool>(parser, 16, static_cast<EventHandler*>(&counter)));
+    Listener listener;
+    EXPECT_TRUE(call<bool>(parser, 16, static_cast<EventHandler*>(&listener)));
     const char* const line[] = {"tool", "--run", "--stop", "--level=1;1", "--", "first", "second"};
     EXPECT_EQ(call<int>(parser, 9, 7, line, result), resultOk);
-    EXPECT_EQ(counter.options, 3);
-    EXPECT_TRUE(call<bool>(parser, 0, "level"));
+    EXPECT_EQ(listener.heard, "ooovv");
+    EXPECT_TRUE(call<bool>(parser, 0, "level")) << "the answer is ignored";
     EXPECT_TRUE(call<bool>(parser, 1, "level", &value));
     EXPECT_TRUE(call<bool>(parser, 2, "level"));
     value.position = 99;
     EXPECT_FALSE(call<bool>(parser, 1, "level", &value)) << "the handler is asked";
-    EXPECT_EQ(counter.options, 4);
-    EXPECT_TRUE(call<bool>(parser, 17, static_cast<EventHandler*>(&counter)));
+    EXPECT_EQ(listener.heard, "ooovvovuv");
+    EXPECT_TRUE(call<bool>(parser, 17, static_cast<EventHandler*>(&listener)));
     expectResultTable(result);
 
     EXPECT_EQ(call<int>(parser, 10, "--speed", result), resultRuleBroken);
@@ -140,13 +147,18 @@ TEST(Slots, EndInDestructors) {
     call<void>(parser, 21);
 }
 
-TEST(Handler, AnswersTrueUnlessToldOtherwise) {
+TEST(Slots, OfHandlersAreCalledByTheirNumbers) {
     struct Silent final : EventHandler {
-    } handler;
+    } silent;
+    Listener listener;
     const Value value;
-    EXPECT_TRUE(call<bool>(&handler, 0, "name"));
-    EXPECT_TRUE(call<bool>(&handler, 1, "name", &value));
-    EXPECT_TRUE(call<bool>(&handler, 2, "argument"));
+    for (const EventHandler* const handler :
+         {static_cast<const EventHandler*>(&silent), static_cast<const EventHandler*>(&listener)}) {
+        EXPECT_EQ(call<bool>(handler, 0, "name"), handler == &silent);
+        EXPECT_TRUE(call<bool>(handler, 1, "name", &value));
+        EXPECT_TRUE(call<bool>(handler, 2, "argument"));
+    }
+    EXPECT_EQ(listener.heard, "ovu");
 }
 
 TEST(Misuse, EndsDebugBuildsAlone) {

@@ -3,26 +3,20 @@
 
 #include <gtest/gtest.h>
 
-#include <cstring>
 #include <stdexcept>
 
+#include "support/raw_table.h"
 #include "support/tool.h"
 
 namespace zarn_3_3 {
 namespace {
 
+using testing_support::operationAt;
 using testing_support::Tool;
 using testing_support::Words;
 
 using ParseVector = int(void*, Words&, IParseResult*);                              // slot 22
 using Phase = int(void*, const std::string&, Words&, IParseResult*, std::string&);  // 23 and 24
-
-template <typename Function>
-Function* operationAt(const void* object, std::size_t slot) {
-    void* const* table = nullptr;
-    std::memcpy(&table, object, sizeof table);
-    return reinterpret_cast<Function*>(table[slot]);
-}
 
 struct Row {
     int flags;

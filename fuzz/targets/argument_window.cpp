@@ -11,8 +11,8 @@
 #include "listener.h"
 #include "observation.h"
 #include "options/registered_option_storage.h"
-#include "parser/argument_sources.h"
 #include "parser/parse_driver.h"
+#include "recognizers/argument_source.h"
 #include "quiet_console.h"
 #include "recognizers/argument_parser.h"
 #include "result/parse_result.h"
@@ -73,8 +73,7 @@ std::string erasingOneVector(const Input& input) {
     const Arguments names = declareVocabulary(bytes, registry);
     Listener listener(input.deed, input.eventsBefore);
     ParseResult result;
-    const Arguments none;
-    internal::VectorSource nothing(none);
+    internal::ArgumentSource nothing(nullptr, 0, internal::Texts::passing);
     const auto parse = [&](Arguments& arguments, std::string& error) {
         internal::ParseDriver driver(registry, listener, true, input.flags, &result, error);
         return driver.parseOptions("--", arguments, nothing);

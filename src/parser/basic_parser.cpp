@@ -3,12 +3,14 @@
 #include <cstddef>
 #include <memory>
 #include <stdexcept>
+#include <string_view>
 
 #include "parser/action_rules.h"
-#include "parser/argument_sources.h"
+#include "parser/argument_texts.h"
 #include "parser/guarded.h"
 #include "parser/option_file_walk.h"
 #include "parser/parse_driver.h"
+#include "recognizers/argument_source.h"
 #include "result/parse_result.h"
 
 namespace zarn_3_3 {
@@ -36,7 +38,7 @@ ParseResult& ownResult(IParseResult* result) {
 class TakenArguments {
 public:
     TakenArguments(std::vector<std::string>& all,
-                   const VectorSource& reader,
+                   const ArgumentSource& reader,
                    const std::vector<std::string>& lookahead)
         : arguments(all), source(reader), notYetTaken(lookahead) {}
     TakenArguments(const TakenArguments&) = delete;
@@ -48,7 +50,7 @@ public:
 
 private:
     std::vector<std::string>& arguments;
-    const VectorSource& source;
+    const ArgumentSource& source;
     const std::vector<std::string>& notYetTaken;
 };
 
@@ -150,16 +152,18 @@ int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult
         if (argc < 2) {
             return static_cast<int>(resultOk);
         }
-        CommandLineSource source(argc, argv);
-        return parseSource(source, filled);
+        const auto arguments = copiedArguments(argc, argv, filled.keeper());
+        return parseArguments({arguments, Texts::kept}, filled);
     });
 }
 
 int BasicParser::parseStream(const char* text, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
-        TextSource source(text == nullptr ? "" : text);
-        return parseSource(source, filled);
+        const std::string copy(text == nullptr ? "" : text);  // a handler may free it
+        std::vector<std::string_view> arguments;
+        parseStreamToArgs(copy, arguments);
+        return parseArguments({arguments, Texts::passing}, filled);
     });
 }
 
@@ -212,7 +216,8 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
         return code;
     }
     ParseDriver driver = driverFor(&filled, lastError);
-    VectorSource source(args);
+    const std::vector<std::string_view> arguments(args.begin(), args.end());
+    ArgumentSource source(arguments, Texts::passing);
     std::vector<std::string> front;
     return parseBehindOptions(driver, front, source, filled);
 }
@@ -222,7 +227,8 @@ int BasicParser::parse_phase_one(const std::string& terminator,
                                  IParseResult* result,
                                  std::string& error) {
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
-    VectorSource source(args);
+    const std::vector<std::string_view> arguments(args.begin(), args.end());
+    ArgumentSource source(arguments, Texts::passing);
     std::vector<std::string> front;
     const TakenArguments taken(args, source, front);
     return driverFor(filled, error).parseOptions(terminator, front, source);
@@ -235,11 +241,11 @@ int BasicParser::parse_phase_two(const std::string& /*terminator*/,
     return checkActionRules(registry, allowedActionSets, ownResult(result), error);
 }
 
-int BasicParser::parseSource(ArgumentSource& source, ParseResult& result) {
+int BasicParser::parseArguments(ArgumentSource source, ParseResult& result) {
     ParseDriver driver = driverFor(&result, lastError);
-    std::vector<std::string> args;
-    const int code = driver.parseOptions(endOfOptions, args, source);
-    return code != resultOk ? code : parseBehindOptions(driver, args, source, result);
+    std::vector<std::string> front;
+    const int code = driver.parseOptions(endOfOptions, front, source);
+    return code != resultOk ? code : parseBehindOptions(driver, front, source, result);
 }
 
 // What follows when the options of a command line are parsed: plain arguments, files, rules.
@@ -247,7 +253,7 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
                                     std::vector<std::string>& args,
                                     ArgumentSource& source,
                                     ParseResult& result) {
-    int code = driver.keepPlainArguments(endOfOptions, args, source);
+    int code = driver.collectNonparsingArguments(endOfOptions, args, source);
     if (code == resultOk && optionFileDeclared) {
         code = OptionFileWalk(driver, result, lastError).run();
     }

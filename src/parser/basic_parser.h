@@ -85,7 +85,7 @@ protected:
                                 std::string& error);
 
 private:
-    int parseSource(internal::ArgumentSource& source, ParseResult& result);
+    int parseArguments(internal::ArgumentSource source, ParseResult& result);
     int parseBehindOptions(internal::ParseDriver& driver,
                            std::vector<std::string>& args,
                            internal::ArgumentSource& source,

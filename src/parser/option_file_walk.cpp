@@ -1,8 +1,9 @@
 #include "parser/option_file_walk.h"
 
-#include "parser/argument_sources.h"
+#include "parser/argument_texts.h"
 #include "parser/messages.h"
 #include "parser/parse_driver.h"
+#include "recognizers/argument_source.h"
 #include "result/parse_result.h"
 #include "zarn/parser.h"
 
@@ -64,10 +65,12 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
 }
 
 int OptionFileWalk::parse(const std::string& content) {
-    TextSource source(content);
-    std::vector<std::string> args;
-    const int code = driver.parseOptions(endOfOptions, args, source);
-    return code != resultOk ? code : driver.keepPlainArguments(endOfOptions, args, source);
+    std::vector<std::string_view> arguments;
+    parseStreamToArgs(content, arguments);
+    ArgumentSource source(arguments, Texts::passing);
+    std::vector<std::string> front;
+    const int code = driver.parseOptions(endOfOptions, front, source);
+    return code != resultOk ? code : driver.collectNonparsingArguments(endOfOptions, front, source);
 }
 
 int OptionFileWalk::refuse(const std::string& message) {

@@ -1,13 +1,12 @@
 #include "parser/parse_driver.h"
 
 #include <cstddef>
-#include <utility>
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
-#include "parser/argument_sources.h"
 #include "parser/messages.h"
 #include "recognizers/abbreviation_parser.h"
+#include "recognizers/argument_source.h"
 #include "recognizers/positional_options_parser.h"
 #include "result/parse_result.h"
 #include "zarn/event_handler.h"
@@ -91,23 +90,21 @@ int ParseDriver::passOver(std::vector<std::string>& args, ArgumentSource& source
     return resultOk;
 }
 
-int ParseDriver::keepPlainArguments(const std::string& terminator,
-                                    std::vector<std::string>& args,
-                                    ArgumentSource& source) {
+int ParseDriver::collectNonparsingArguments(const std::string& terminator,
+                                            std::vector<std::string>& args,
+                                            ArgumentSource& source) {
     source.fillUp(args);
     if (args.empty() || args[0] != terminator) {
         return resultOk;
     }
-    source.removeFront(args);
-    while (!args.empty()) {
-        std::string argument = args[0];
-        source.removeFront(args);
-        result->storeArgument(argument);
-        trace(logPrefix, "stored argument: '", argument, "'");
+    for (source.removeFront(args); !args.empty(); source.removeFront(args)) {
+        const char* const kept = source.placeOf(args[0], args);
+        result->storeArgument(args[0], kept);
+        trace(logPrefix, "stored argument: '", args[0], "'");
         if ((flags & flagPositionalBehindTerminator) == 0) {
             continue;
         }
-        const int code = offerToPositional(std::move(argument));
+        const int code = offerToPositional(args[0], kept);
         if (code != resultOk) {
             return code;
         }
@@ -116,11 +113,13 @@ int ParseDriver::keepPlainArguments(const std::string& terminator,
 }
 
 // One argument at a time, which behind the terminator may begin with a dash.
-int ParseDriver::offerToPositional(std::string argument) {
-    const std::vector<std::string> none;
-    VectorSource nothingElse(none);
-    PositionalOptionsParser positional(listener, flags & ~flagPositionalWithoutDash, nothingElse);
-    std::vector<std::string> args{std::move(argument)};
+int ParseDriver::offerToPositional(std::string_view argument, const char* kept) {
+    const std::string_view text =
+        kept == nullptr ? argument : std::string_view(kept, argument.size());
+    ArgumentSource source(&text, 1, kept == nullptr ? Texts::passing : Texts::kept);
+    std::vector<std::string> args;
+    source.fillUp(args);
+    PositionalOptionsParser positional(listener, flags & ~flagPositionalWithoutDash, source);
     const int recognized = positional.recognize(args, registry, error);
     trace(logPrefix, "recognize result: ", std::to_string(recognized), ", message: ", error);
     if (recognized != 0) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace zarn_3_3 {
@@ -43,9 +44,9 @@ public:
 
     // Keeps what stands behind the terminator as plain arguments; with
     // flagPositionalBehindTerminator they go to the positional item too.
-    int keepPlainArguments(const std::string& terminator,
-                           std::vector<std::string>& args,
-                           ArgumentSource& source);
+    int collectNonparsingArguments(const std::string& terminator,
+                                   std::vector<std::string>& args,
+                                   ArgumentSource& source);
 
 private:
     using Recognizers = std::array<IArgumentParser*, 2>;
@@ -53,7 +54,7 @@ private:
     IArgumentParser* chooseRecognizer(const Recognizers& recognizers,
                                       std::vector<std::string>& args);
     int passOver(std::vector<std::string>& args, ArgumentSource& source);
-    int offerToPositional(std::string argument);
+    int offerToPositional(std::string_view argument, const char* kept);
 
     RegisteredOptionStorage& registry;
     EventHandler& parser;

@@ -52,7 +52,7 @@ struct IArgumentParser::Binding {
     std::string_view value;
     const std::string& option;  // the primary name
     const OptionDescription& description;
-    const std::string& argument;
+    const std::vector<std::string>& args;
     OptionData& data;
     std::string& error;
 };
@@ -65,7 +65,7 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
     data->positions.assign(1, drawIndex());
     data->values.clear();
     if (!value.empty()) {
-        const Binding binding{value, option.primaryName(), option, args[0], *data, error};
+        const Binding binding{value, option.primaryName(), option, args, *data, error};
         trace(name, ": adding values to result container:");
         const int code = bindPieces(binding, option.tokenizer);
         if (code != resultOk) {
@@ -115,20 +115,22 @@ int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
     OptionValue& bound = binding.data.values.emplace_back();
     bound.text = piece;
     if (!binding.description.validate(bound.text, bound.value, binding.error, textLocale())) {
-        binding.error = messages::invalidValue(binding.argument, binding.error);
+        binding.error = messages::invalidValue(binding.args[0], binding.error);
         return refuse(binding.error);
     }
+    bound.keptText = source.placeOf(bound.text, binding.args);
     bound.position = drawIndex();
     return handler == nullptr ? resultOk : announce(binding, bound);
 }
 
 int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
-    const std::string text(value.text);  // with a terminator
-    const Value announced(text.c_str(), value.value, value.position);
+    const char* const kept = plinth2::get_variant_value(value.value, value.keptText);
+    const std::string copy(kept == nullptr ? value.text : "");  // with a terminator
+    const Value announced(kept == nullptr ? copy.c_str() : kept, value.value, value.position);
     if (handler->onValueParse(binding.option.c_str(), announced)) {
         return resultOk;
     }
-    binding.error = messages::vetoedValue(binding.value, binding.option, binding.argument);
+    binding.error = messages::vetoedValue(binding.value, binding.option, binding.args[0]);
     trace(name, binding.error, messages::handlerVetoed);  // kept: nothing behind the name
     return resultVetoed;
 }

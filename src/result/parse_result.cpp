@@ -71,8 +71,10 @@ void ParseResult::applyDefault(const OptionList& items) {
     }
 }
 
-void ParseResult::storeArgument(std::string_view argument) {
-    const char* const kept = texts.keep(argument);
+void ParseResult::storeArgument(std::string_view argument, const char* kept) {
+    if (kept == nullptr) {
+        kept = texts.keep(argument);
+    }
     IArgumentParser::drawIndex();  // the number is part of the order, though no query shows it
     arguments.push_back(kept);
 }
@@ -136,7 +138,7 @@ void ParseResult::replace(std::string_view name, const OptionData& data) {
 
 // A value that holds the text itself lends it: most texts are then kept once.
 const char* ParseResult::textOf(const OptionValue& value) {
-    const char* const held = plinth2::get_variant_value(value.value, nullptr);
+    const char* const held = plinth2::get_variant_value(value.value, value.keptText);
     return held != nullptr ? held : texts.keep(value.text);
 }
 

@@ -38,6 +38,7 @@ cmake_path(RELATIVE_PATH CMAKE_INSTALL_PREFIX
 foreach(directory libdir includedir)
     set(pc_${directory} "\${prefix}")
     cmake_path(APPEND pc_${directory} ${${directory}})
+    string(REPLACE " " "\\ " pc_${directory} "${pc_${directory}}")
 endforeach()
 configure_file(cmake/zarn.pc.in zarn.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${libdir}/pkgconfig COMPONENT development)

@@ -85,8 +85,9 @@ def write_sources(blocks, folder):
 
 
 def compile_tools(tools, folder, compiler, environment):
-    flags = subprocess.run(["pkg-config", "--cflags", "--libs", "zarn"], env=environment,
-                           capture_output=True, text=True, check=True).stdout.split()
+    flags = subprocess.run(["pkg-config", "--cflags", "--libs", "zarn"], cwd=folder,
+                           env=environment, capture_output=True, text=True,
+                           check=True).stdout.split()
     for name in tools:
         command = [compiler, "-std=c++17", *WARNINGS, f"{name}.cpp", "-o", f"bin/{name}", *flags]
         done = subprocess.run(command, cwd=folder, stdout=subprocess.PIPE,
@@ -185,7 +186,8 @@ def make_environment(build, work):
         "CMAKE_GENERATOR": "Ninja",
         "PATH": f"{work}/page/bin:{build}/examples:{os.environ['PATH']}",
         "LD_LIBRARY_PATH": str(libraries),
-        "PKG_CONFIG_PATH": str(libraries / "pkgconfig"),
+        # As seen from the page: in a shell, blanks in flags would cut them in two.
+        "PKG_CONFIG_PATH": os.path.relpath(libraries / "pkgconfig", work / "page"),
         "CMAKE_PREFIX_PATH": str(work / "zarn"),
     }
 

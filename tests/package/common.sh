@@ -47,13 +47,23 @@ found_by_cmake() {
 
 # found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.
 found_by_pkg_config() {
-    local compiler=$1 flags
+    local compiler=$1
     use_pkg_config "$2"
     shift 2
-    read -ra flags < <(pkg-config --cflags --libs zarn)
+    flags_of_package --cflags --libs
     quietly "$compiler" -std=c++17 -Wall -Wextra -Werror "$@" "$here/consumer.cpp" \
-        -o "$work/by-pkg-config" "${flags[@]}" -Wl,-rpath,"$(pkg-config --variable=libdir zarn)"
+        -o "$work/by-pkg-config" "${flags[@]}" -Wl,-rpath,"$(libdir_of_package)"
     try_tool "$work/by-pkg-config"
+}
+
+# flags_of_package OPTION...: what pkg-config answers, in `flags`.
+flags_of_package() {
+    # shellcheck disable=SC2162 # backslashes stand before blanks in paths
+    read -a flags < <(pkg-config "$@" zarn)
+}
+
+libdir_of_package() {
+    pkg-config --variable=libdir zarn | sed 's/\\ / /g'
 }
 
 # use_pkg_config PREFIX: from now on pkg-config knows the zarn in PREFIX and nothing else.

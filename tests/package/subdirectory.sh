@@ -19,8 +19,7 @@ installed_into() {
 
 # A library that has zarn inside keeps it to itself; a linker for C links it as well.
 is_a_good_part() {
-    local flags
-    read -ra flags < <(pkg-config --static --cflags --libs zarn)
+    flags_of_package --static --cflags --libs
     quietly "$compiler" -std=c++17 -fPIC -fvisibility=hidden "${flags[@]}" \
         -c "$here/consumer.cpp" -o "$work/consumer.o"
     quietly cc -shared "$work/consumer.o" -o "$work/host.so" "${flags[@]}" -Wl,--no-undefined

@@ -1,16 +1,8 @@
 #include "options/name_index.h"
 
-#include <algorithm>
 #include <string>
 
 namespace zarn_3_3::internal {
-namespace {
-
-constexpr std::uint32_t noItem = 0xffffffff;
-
-std::size_t indexOf(std::uint32_t item) { return item == noItem ? NameIndex::none : item; }
-
-}  // namespace
 
 void NameIndex::catchUp(const OptionList& options) {
     for (;;) {
@@ -31,7 +23,11 @@ void NameIndex::catchUp(const OptionList& options) {
 
 void NameIndex::add(const OptionDescription& item, std::uint32_t itemIndex, std::string_view name) {
     Entry& entry = findOrAdd(name, itemIndex);
-    entry.namedItem = std::min(entry.namedItem, itemIndex);
+    if (entry.namedItem == noItem) {
+        entry.namedItem = itemIndex;
+    } else if (entry.namedItem != itemIndex) {
+        furtherItems[texts.find(name)].push_back(itemIndex);
+    }
     if (item.type == vtBool) {
         findOrAdd(std::string(noPrefix).append(name), itemIndex);
     }
@@ -44,11 +40,6 @@ NameIndex::Entry& NameIndex::findOrAdd(std::string_view form, std::uint32_t item
         entries.push_back({itemIndex, noItem});
     }
     return entries[number];
-}
-
-std::size_t NameIndex::firstNamed(std::string_view name) const {
-    const std::uint32_t number = texts.find(name);
-    return number == KeptTexts::none ? none : indexOf(entries[number].namedItem);
 }
 
 std::size_t NameIndex::first(std::string_view nameOrNoForm) const {

@@ -3,8 +3,10 @@
 #ifndef ZARN_OPTIONS_NAME_INDEX_H
 #define ZARN_OPTIONS_NAME_INDEX_H
 
+#include <algorithm>
 #include <cstddef>
 #include <cstdint>
+#include <map>
 #include <string_view>
 #include <vector>
 
@@ -32,8 +34,20 @@ public:
     // Takes in the names that were declared since. Throws std::bad_alloc; what was taken in stays.
     void catchUp(const OptionList& options);
 
-    // The first item that has this name.
-    std::size_t firstNamed(std::string_view name) const;
+    // Whether isWanted(item) holds for one of the items that have this name. `item` is an index.
+    template <typename IsWanted>
+    bool isAnyNamed(std::string_view name, IsWanted isWanted) const {
+        const std::uint32_t number = texts.find(name);
+        if (number == KeptTexts::none || entries[number].namedItem == noItem) {
+            return false;
+        }
+        if (isWanted(entries[number].namedItem)) {
+            return true;
+        }
+        const auto further = furtherItems.find(number);
+        return further != furtherItems.end() &&
+               std::any_of(further->second.begin(), further->second.end(), isWanted);
+    }
 
     // The first item that has this name, or is a boolean of which it is the "no-" form.
     std::size_t first(std::string_view nameOrNoForm) const;
@@ -50,6 +64,8 @@ private:
         std::uint32_t namedItem;
     };
 
+    static constexpr std::uint32_t noItem = 0xffffffff;
+
     void add(const OptionDescription& item, std::uint32_t itemIndex, std::string_view name);
     Entry& findOrAdd(std::string_view form, std::uint32_t itemIndex);
 
@@ -57,6 +73,9 @@ private:
     std::size_t namesTaken = 0;  // of that last item
     KeptTexts texts;
     std::vector<Entry> entries;  // by the number of the text
+
+    // Behind the first item with a name. Only synonyms give one to several.
+    std::map<std::uint32_t, std::vector<std::uint32_t>> furtherItems;
 };
 
 }  // namespace zarn_3_3::internal

@@ -3,6 +3,7 @@
 #ifndef ZARN_OPTIONS_PREFIX_INDEX_H
 #define ZARN_OPTIONS_PREFIX_INDEX_H
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <map>
@@ -15,11 +16,12 @@
 namespace zarn_3_3::internal {
 
 // A hash table for each length of text that was ever asked for, so that an abbreviation costs about
-// as much as a whole name. Nothing is built before the first look-up.
+// as much as a whole name. Nothing is built before the first look-up, and a table holds the texts
+// that are so long and no others: all tables together are no larger than all texts.
 class PrefixIndex {
 public:
     struct Found {
-        std::uint32_t first = KeptTexts::none;  // of the texts that begin so
+        std::uint32_t first = KeptTexts::none;  // a text that begins so
         bool isOnly = false;                    // whether no other one does
     };
 
@@ -28,21 +30,34 @@ public:
     Found find(std::string_view beginning, const KeptTexts& texts);
 
 private:
-    // The texts by their beginnings of one length.
-    struct Length {
-        std::size_t taken = 0;       // that many texts are in
-        TextTable firsts;            // the first text with each beginning
-        std::vector<bool> isShared;  // whether others begin like this first one
+    struct Beginning {
+        std::uint32_t first;  // the text that had it first
+        bool isShared;        // whether others begin like this one
     };
 
-    static void catchUp(Length& length, std::size_t size, const KeptTexts& texts);
-    static std::uint32_t findFirst(const Length& length,
-                                   std::uint32_t hash,
-                                   std::string_view beginning,
-                                   const KeptTexts& texts);
+    // The texts by their beginnings of one length.
+    struct Length {
+        std::size_t taken = 0;  // that many texts are in, or are shorter
+        std::vector<Beginning> beginnings;
+        TextTable table;  // beginning to its number there
+    };
 
-    std::size_t measured = 0;  // that many texts
-    std::size_t longest = 0;   // of them
+    // Few names are longer, so a table for those goes through them alone.
+    static constexpr std::size_t ordinary = 64;
+
+    void measure(const KeptTexts& texts);
+    void makeRoom(Length& length, std::size_t size) const;
+    void catchUp(Length& length, std::size_t size, const KeptTexts& texts) const;
+    static void add(Length& length, std::size_t size, std::uint32_t number, const KeptTexts& texts);
+    static std::uint32_t findIn(const Length& length,
+                                std::uint32_t hash,
+                                std::string_view beginning,
+                                const KeptTexts& texts);
+
+    std::size_t measured = 0;                            // that many texts
+    std::array<std::size_t, ordinary + 1> ofSize{};      // how many there are, the long ones last
+    std::multimap<std::size_t, std::uint32_t> longOnes;  // from size to text
+    std::size_t longest = 0;                             // of all texts
     std::map<std::size_t, Length> lengths;
 };
 

@@ -114,16 +114,11 @@ IOption& RegisteredOptionStorage::refused() noexcept {
 bool RegisteredOptionStorage::isDeclared(std::string_view name,
                                          bool isAction,
                                          const char* section) const {
-    const auto isWanted = [&](const OptionDescription& item) {
+    return names().isAnyNamed(name, [&](std::size_t number) {
+        const OptionDescription& item = options[number];
         return (item.kind == kindAction) == isAction &&
-               (section == nullptr || sectionKey(item) == section) &&
-               std::find(item.names.begin(), item.names.end(), name) != item.names.end();
-    };
-    // Nearly always the first item with the name is the only one; synonyms can give it to more.
-    const std::size_t first = names().firstNamed(name);
-    return first != NameIndex::none &&
-           std::any_of(
-               options.begin() + static_cast<std::ptrdiff_t>(first), options.end(), isWanted);
+               (section == nullptr || sectionKey(item) == section);
+    });
 }
 
 std::size_t RegisteredOptionStorage::firstPositional() const {

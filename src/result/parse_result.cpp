@@ -60,7 +60,7 @@ void ParseResult::applyDefault(const OptionList& items) {
         if (item.type == vtNull || !item.hasDefault) {
             continue;
         }
-        const char* const text = texts.keep(item.getDefaultValueAsText());
+        const char* const text = keptDefault(item);
         for (const std::string& name : item.names) {
             const int position = IArgumentParser::drawIndex();
             StoredOption& entry = findOrAdd(name);
@@ -69,6 +69,13 @@ void ParseResult::applyDefault(const OptionList& items) {
             entry.defaultPosition = position;
         }
     }
+}
+
+// The text of the default, which a parse into the same result before may have kept.
+const char* ParseResult::keptDefault(const OptionDescription& item) {
+    const std::string text = item.getDefaultValueAsText();
+    const StoredOption* const entry = find(item.primaryName());
+    return entry != nullptr && text == entry->defaultText ? entry->defaultText : texts.keep(text);
 }
 
 void ParseResult::storeArgument(std::string_view argument, const char* kept) {

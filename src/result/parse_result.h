@@ -72,6 +72,7 @@ private:
     void append(internal::StoredOption& entry, const OptionData& data);
     void replace(std::string_view name, const OptionData& data);
     const char* textOf(const OptionValue& value);
+    const char* keptDefault(const OptionDescription& item);
 
     const internal::StoredOption* selected() const;
     Value select(const char* name, int from, int to, Wanted wanted);

@@ -48,14 +48,14 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return result;
 }
 
-int openForReading(const char* path) noexcept {
+int openForReading(const char* path) {
     const int descriptor =
         fails(Call::interruptible) ? -1 : ::open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
     fileCalls.openFiles += descriptor != -1 ? 1 : 0;
     return descriptor;
 }
 
-ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
+ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
     return fails(Call::interruptible)
                ? -1
                : ::read(descriptor, buffer, std::min(size, fileCalls.longestRead));

@@ -12,9 +12,10 @@
 #include "observation.h"
 #include "options/registered_option_storage.h"
 #include "parser/parse_driver.h"
-#include "recognizers/argument_source.h"
 #include "quiet_console.h"
 #include "recognizers/argument_parser.h"
+#include "recognizers/argument_source.h"
+#include "recognizers/handler_set.h"
 #include "result/parse_result.h"
 #include "support/assertion_double.h"
 #include "vocabulary.h"
@@ -72,10 +73,12 @@ std::string erasingOneVector(const Input& input) {
     Bytes bytes = input.vocabulary;
     const Arguments names = declareVocabulary(bytes, registry);
     Listener listener(input.deed, input.eventsBefore);
+    internal::HandlerSet listeners;
+    listeners.add(&listener);
     ParseResult result;
     internal::ArgumentSource nothing(nullptr, 0, internal::Texts::passing);
     const auto parse = [&](Arguments& arguments, std::string& error) {
-        internal::ParseDriver driver(registry, listener, true, input.flags, &result, error);
+        internal::ParseDriver driver(registry, listener, listeners, input.flags, &result, error);
         return driver.parseOptions("--", arguments, nothing);
     };
     const std::string outcome = outcomeOf(input.arguments, listener, parse);

@@ -67,14 +67,14 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return 0;
 }
 
-int openForReading(const char* path) noexcept {
+int openForReading(const char* path) {
     const int index = indexOf(path);
     fileAt(index).position = 0;
     return index;
 }
 
 // In short pieces, as the operating system may.
-ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
+ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
     constexpr std::size_t longestRead = 7;
     File& file = fileAt(descriptor);
     const std::size_t count = std::min({size, longestRead, file.content.size() - file.position});

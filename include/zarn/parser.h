@@ -136,9 +136,10 @@ public:
     //
     // argc, argv  as main has them. argv[0] is never read, a null entry ends the line; with argc
     //             below 2 there is nothing to parse and only the defaults are recorded. The texts
-    //             are needed during the call only.
+    //             are copied first: handlers may change and free them.
     // result      made by createResult of any parser. What it holds already stays, and what is
-    //             found is added.
+    //             found is added. Option files that it names, from an earlier parse too, are read
+    //             again: their values are then there twice.
     //
     // Defaults first, then every argument in turn, then the files that "option-file" names, then
     // the rules on actions. Returns
@@ -156,8 +157,9 @@ public:
     // front of an argument are dropped, those behind it belong to it; lines that are empty or begin
     // with ';' or '#' are skipped. There is no quoting. Null reads as the empty text.
     //
-    // Defaults are not recorded; the rules on actions are checked, also for an empty text. Returns
-    // what parseArgsVector returns.
+    // The text is copied first: handlers may change and free it. Defaults are not recorded; the
+    // rules on actions are checked, also for an empty text. Option files that `result` names, from
+    // an earlier parse too, are read behind the text. Returns what parseArgsVector returns.
     virtual int parseStream(const char* text, IParseResult* result) = 0;
 
     // The text of the last failure; an empty text when nothing has failed yet. Success does not
@@ -166,8 +168,9 @@ public:
     virtual const char* getErrorDesc() = 0;
 
     // Help texts. With `hidden` false they show everything but the section "zarn_hidden", with true
-    // that section alone. Lines end with a line feed and have at most 79 bytes, but for long
-    // columns of names and values. When memory runs out: an empty text, or one that ends in
+    // that section alone. Lines end with a line feed and have at most 79 bytes, with three
+    // exceptions: long columns of names and values, titles of sections, which have up to 80 bytes,
+    // and lists of actions, which are not wrapped. When memory runs out: an empty text, or one that ends in
     // "Unknown error handled.", which is the last error then.
     //
     // The actions with their descriptions; for a vocabulary without actions, all its options.

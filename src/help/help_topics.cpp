@@ -43,9 +43,9 @@ std::string actionList(const std::map<std::string_view, std::string_view>& actio
 
 const char* HelpTopics::vocabulary(bool hidden) const {
     std::map<std::string_view, std::string_view> actions;  // from name to description
-    for (const OptionDescription& item : registry.items()) {
-        if (item.kind == kindAction && HelpRenderer::isVisible(registry.sectionKey(item), hidden)) {
-            actions[item.primaryName()] = item.description;
+    for (const OptionDescription* const item : getGlobalActions()) {
+        if (HelpRenderer::isVisible(registry.sectionKey(*item), hidden)) {
+            actions[item->primaryName()] = item->description;
         }
     }
     if (actions.empty()) {
@@ -85,6 +85,10 @@ const char* HelpTopics::globalModifiers(bool hidden) const {
 
 const char* HelpTopics::unknownTopic(const std::string& name, bool hidden) const {
     return garbage.keep(messages::noSuchTopic(name) + vocabulary(hidden));
+}
+
+std::vector<const OptionDescription*> HelpTopics::getGlobalActions() const {
+    return select(registry, [](const OptionDescription& item) { return item.kind == kindAction; });
 }
 
 std::vector<const OptionDescription*> HelpTopics::getGlobalModifiers() const {

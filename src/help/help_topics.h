@@ -30,6 +30,7 @@ public:
 
 private:
     const char* unknownTopic(const std::string& name, bool hidden) const;
+    std::vector<const OptionDescription*> getGlobalActions() const;
     std::vector<const OptionDescription*> getGlobalModifiers() const;
 
     const RegisteredOptionStorage& registry;

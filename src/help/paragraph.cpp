@@ -28,7 +28,7 @@ std::size_t chunkLength(std::string_view text, std::size_t limit) {
         return line.size();
     }
     if (limit == 0) {
-        // Tools see this text through their last error.
+        // Width 1 alone comes to this: neither the help nor WordWrappedText asks for it.
         throw std::out_of_range(
             "basic_string::at: __n (which is 18446744073709551615) >= this->size() (which is 0)");
     }

@@ -1,5 +1,6 @@
 #include "log/zarn_log.h"
 
+#include <exception>
 #include <mutex>
 
 #include "platform/console.h"
@@ -23,8 +24,7 @@ std::ostream& ZarnLog::discardingStream() {
 
 std::ostream& zarnLog() {
     static ZarnLog log;
-    return zarnLogEnabled.load(std::memory_order_relaxed) ? TROV_2_18::strings::pl2::ucout
-                                                          : log.discardingStream();
+    return isLogOn() ? TROV_2_18::strings::pl2::ucout : log.discardingStream();
 }
 
 bool switchLog(std::string_view firstArgument) noexcept {
@@ -35,18 +35,22 @@ bool switchLog(std::string_view firstArgument) noexcept {
 
 void switchLogOff() noexcept { zarnLogEnabled.store(false, std::memory_order_relaxed); }
 
-// The state of the stream is not looked at: a log that cannot be written never changes a parse.
+// A log that cannot be written never changes a parse: the state of the stream is not looked at, and
+// what it throws, when a client asked for that, goes no further.
 //
 // One line at a time: parsers in several threads share the switch and both streams. A stream of the
 // client's own may parse again while it is written to, hence recursive.
-void writeTraceLine(std::initializer_list<std::string_view> pieces) {
+void writeTraceLine(std::initializer_list<TracePiece> pieces) {
     static std::recursive_mutex writing;
     const std::lock_guard<std::recursive_mutex> lock(writing);
     std::ostream& log = zarnLog();
-    for (const std::string_view piece : pieces) {
-        log << piece;
+    try {
+        for (const TracePiece& piece : pieces) {
+            piece.number ? log << *piece.number : log << piece.text;
+        }
+        log << std::endl;
+    } catch (const std::exception&) {
     }
-    log << std::endl;
 }
 
 }  // namespace zarn_3_3::internal

@@ -6,8 +6,10 @@
 #include <atomic>
 #include <initializer_list>
 #include <memory>
+#include <optional>
 #include <ostream>
 #include <streambuf>
+#include <string>
 #include <string_view>
 
 #include "zarn/export.h"
@@ -46,18 +48,31 @@ std::ostream& zarnLog();
 bool switchLog(std::string_view firstArgument) noexcept;
 void switchLogOff() noexcept;
 
-void writeTraceLine(std::initializer_list<std::string_view> pieces);
+inline bool isLogOn() noexcept { return zarnLogEnabled.load(std::memory_order_relaxed); }
+
+// A text, or a number, which is written as the flags of the stream say.
+struct TracePiece {
+    TracePiece(std::string_view ofLine) : text(ofLine) {}
+    TracePiece(const std::string& ofLine) : text(ofLine) {}
+    TracePiece(const char* ofLine) : text(ofLine) {}
+    TracePiece(int ofLine) : number(ofLine) {}
+
+    std::string_view text;
+    std::optional<int> number;
+};
+
+void writeTraceLine(std::initializer_list<TracePiece> pieces);
 
 template <typename... Pieces>
 [[gnu::cold, gnu::noinline]] void writeTrace(const Pieces&... pieces) {
-    writeTraceLine({std::string_view(pieces)...});
+    writeTraceLine({TracePiece(pieces)...});
 }
 
 // Writes one line made of `pieces`. This is where the switch is tested, before anything is
 // formatted, so that a step with the log off pays for one test; the rest is kept out of its way.
 template <typename... Pieces>
 [[gnu::always_inline]] inline void trace(const Pieces&... pieces) {
-    if (zarnLogEnabled.load(std::memory_order_relaxed)) {
+    if (isLogOn()) {
         writeTrace(pieces...);
     }
 }

@@ -66,6 +66,17 @@ IOption& OptionDescription::tag(const char* tagList) {
     return *this;
 }
 
+OptionDescription OptionDescription::forBinding() const {
+    OptionDescription copy;
+    copy.names = names;
+    copy.kind = kind;
+    copy.tokenizer = tokenizer;
+    copy.type = type;
+    copy.allowedValues = allowedValues;
+    copy.deprecatedValues = deprecatedValues;
+    return copy;
+}
+
 bool OptionDescription::operator<(const OptionDescription& other) const {
     return primaryName() < other.primaryName();
 }

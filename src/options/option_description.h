@@ -24,7 +24,6 @@ enum ItemKind : int {
 };
 
 // The item behind an IOption, read directly by everything that works with the vocabulary.
-//
 class OptionDescription final : public IOption {
 public:
     result_t result = resultSuccess;
@@ -49,6 +48,9 @@ public:
     IOption& tokenize(char separator) override;
     IOption& positional() override;
     IOption& tag(const char* tagList) override;
+
+    // A copy of what binding an occurrence takes: without tags, help and default.
+    OptionDescription forBinding() const;
 
     // By primary name, byte-wise: the order of the help.
     bool operator<(const OptionDescription& other) const;

@@ -1,6 +1,7 @@
 // How a value is checked against the type and the allowed values of its item.
 
 #include <algorithm>
+#include <exception>
 #include <ostream>
 #include <string>
 #include <string_view>
@@ -52,6 +53,15 @@ Abbreviated findAbbreviated(const OptionDescription& option, std::string_view te
     return found;
 }
 
+// A warning that cannot be written never changes a parse, whatever exceptions a client asked the
+// stream for. The line is one piece, so that it stays whole.
+void warn(const std::string& line) {
+    try {
+        TROV_2_18::strings::pl2::ucerr << line << std::flush;
+    } catch (const std::exception&) {
+    }
+}
+
 void warnIfDeprecated(const OptionDescription& option, std::string_view text) {
     if (option.deprecatedValues.empty()) {
         return;
@@ -61,10 +71,7 @@ void warnIfDeprecated(const OptionDescription& option, std::string_view text) {
         return;
     }
     const char* replacement = plinth2::get_variant_value(deprecated->second, "");
-    // One piece, so that the line stays whole.
-    TROV_2_18::strings::pl2::ucerr
-        << messages::valueIsDeprecated(option.primaryName(), text, replacement) + "\n"
-        << std::flush;
+    warn(messages::valueIsDeprecated(option.primaryName(), text, replacement) + "\n");
 }
 
 }  // namespace

@@ -91,12 +91,15 @@ private:
         if (actions.insert(action.primaryName()).second) {
             narrowGroups(action.primaryName(), isFirst);
         }
-        if (&action != firstAction && commonGroups.empty()) {
+        if (&action != firstAction && !assertActionsCanBeUsedSimultaneously()) {
             return refuse(
                 messages::actionsExclude(action.primaryName(), firstAction->primaryName()));
         }
         return resultOk;
     }
+
+    // Whether a group holds all the actions that were given so far.
+    bool assertActionsCanBeUsedSimultaneously() const { return !commonGroups.empty(); }
 
     void narrowGroups(const std::string& action, bool isFirst) {
         const std::vector<std::size_t>& holding = groups.holding(action);

@@ -71,40 +71,45 @@ BasicParser::BasicParser(int creationFlags) : flags(creationFlags) {
     }
 }
 
-// The texts that handlers hear are kept, so that they may store the pointers.
+// Calls tell(handler, text) until it answers false. The text is kept, so that handlers may store
+// the pointer.
+template <typename Tell>
+void BasicParser::passOn(EventKind kind, const char* text, const Value* value, Tell tell) {
+    if (handlers.isEmpty()) {
+        return;
+    }
+    const char* const kept = garbage.init(text);
+    passing.passOnce({kind, kept, value, ParseDriver::innermostParse()}, [&] {
+        handlers.visitWhile([&](EventHandler& handler) { return tell(handler, kept); });
+    });
+}
 
 bool BasicParser::onOptionParse(const char* name) {
-    if (!handlers.isEmpty()) {
-        const char* const kept = garbage.init(name);
-        handlers.visitWhile([&](EventHandler& handler) {
-            handler.onOptionParse(kept);
-            return true;
-        });
-    }
+    passOn(EventKind::option, name, nullptr, [](EventHandler& handler, const char* kept) {
+        handler.onOptionParse(kept);
+        return true;
+    });
     return true;
 }
 
 bool BasicParser::onValueParse(const char* name, const Value& value) {
     bool isValid = true;
-    if (!handlers.isEmpty()) {
-        const char* const kept = garbage.init(name);
-        handlers.visitWhile([&](EventHandler& handler) {
-            isValid = handler.onValueParse(kept, value);
-            return isValid;
-        });
-    }
+    passOn(EventKind::value, name, &value, [&](EventHandler& handler, const char* kept) {
+        isValid = handler.onValueParse(kept, value);
+        return isValid;
+    });
     return isValid;
 }
 
 bool BasicParser::onUknownArgument(const char* argument) {
     bool isUnhandled = true;
-    if (!handlers.isEmpty()) {
-        const char* const kept = garbage.init(argument);
-        handlers.visitWhile([&](EventHandler& handler) {
-            isUnhandled = handler.onUknownArgument(kept) && isUnhandled;
-            return true;
-        });
-    }
+    passOn(EventKind::unknownArgument,
+           argument,
+           nullptr,
+           [&](EventHandler& handler, const char* kept) {
+               isUnhandled = handler.onUknownArgument(kept) && isUnhandled;
+               return true;
+           });
     return isUnhandled;
 }
 
@@ -264,7 +269,7 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
 }
 
 ParseDriver BasicParser::driverFor(ParseResult* result, std::string& error) {
-    return {registry, *this, !handlers.isEmpty(), flags, result, error};
+    return {registry, *this, handlers, flags, result, error};
 }
 
 }  // namespace zarn_3_3

@@ -11,7 +11,8 @@
 #include "options/garbage.h"
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
-#include "parser/handler_set.h"
+#include "parser/passing_events.h"
+#include "recognizers/handler_set.h"
 #include "zarn/parser.h"
 
 namespace zarn_3_3 {
@@ -85,6 +86,9 @@ protected:
                                 std::string& error);
 
 private:
+    template <typename Tell>
+    void passOn(internal::EventKind kind, const char* text, const Value* value, Tell tell);
+
     int parseArguments(internal::ArgumentSource source, ParseResult& result);
     int parseBehindOptions(internal::ParseDriver& driver,
                            std::vector<std::string>& args,
@@ -98,6 +102,7 @@ private:
     std::string lastError;
     int flags;
     internal::HandlerSet handlers;
+    internal::PassingEvents passing;
     bool optionFileDeclared = false;
     internal::ActionGroups allowedActionSets;
 };

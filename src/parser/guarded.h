@@ -13,7 +13,7 @@ namespace zarn_3_3::internal {
 
 // Keeping a text can itself run out of memory, and nothing may leave the wall: better no text. A
 // client's exception may have none.
-inline void keepErrorText(std::string& lastError, const char* text) noexcept {
+inline void setLastError(std::string& lastError, const char* text) noexcept {
     try {
         lastError = text == nullptr ? "" : text;
     } catch (const std::exception&) {
@@ -28,7 +28,7 @@ int guarded(std::string& lastError, Operation&& operation) {
     try {
         return std::forward<Operation>(operation)();
     } catch (const std::exception& caught) {
-        keepErrorText(lastError, caught.what());
+        setLastError(lastError, caught.what());
         return resultException;
     }
 }

@@ -27,26 +27,32 @@ void removeLogSwitch(std::vector<std::string>& args, ArgumentSource& source) {
 
 }  // namespace
 
+std::atomic<int> ParseDriver::depth{0};
+
 ParseDriver::ParseDriver(RegisteredOptionStorage& theRegistry,
                          EventHandler& eventParser,
-                         bool isHeard,
+                         const HandlerSet& whoListens,
                          int creationFlags,
                          ParseResult* filled,
                          std::string& errorText)
     : registry(theRegistry),
       parser(eventParser),
-      listener(isHeard ? &eventParser : nullptr),
+      listeners(whoListens),
       flags(creationFlags),
       result(filled),
       collector(filled),
-      error(errorText) {}
+      error(errorText) {
+    depth.store(innermostParse() + 1, std::memory_order_relaxed);
+}
+
+ParseDriver::~ParseDriver() { depth.store(innermostParse() - 1, std::memory_order_relaxed); }
 
 int ParseDriver::parseOptions(const std::string& terminator,
                               std::vector<std::string>& args,
                               ArgumentSource& source) {
     removeLogSwitch(args, source);
-    PositionalOptionsParser positional(listener, flags, source);
-    AbbreviationParser abbreviation(listener, flags, source);
+    PositionalOptionsParser positional(parser, listeners, flags, source);
+    AbbreviationParser abbreviation(parser, listeners, flags, source);
     const Recognizers recognizers{&positional, &abbreviation};
     std::size_t matched = 0;
     while (!args.empty() && args[0] != terminator) {
@@ -119,15 +125,16 @@ int ParseDriver::offerToPositional(std::string_view argument, const char* kept) 
     ArgumentSource source(&text, 1, kept == nullptr ? Texts::passing : Texts::kept);
     std::vector<std::string> args;
     source.fillUp(args);
-    PositionalOptionsParser positional(listener, flags & ~flagPositionalWithoutDash, source);
+    PositionalOptionsParser positional(
+        parser, listeners, flags & ~flagPositionalWithoutDash, source);
     const int recognized = positional.recognize(args, registry, error);
-    trace(logPrefix, "recognize result: ", std::to_string(recognized), ", message: ", error);
+    trace(logPrefix, "recognize result: ", recognized, ", message: ", error);
     if (recognized != 0) {
         return resultOk;
     }
     std::size_t matched = 0;
     const int code = positional.parse(args, collector, registry, matched, error);
-    trace(logPrefix, "parse result: ", std::to_string(code), ", message: ", error);
+    trace(logPrefix, "parse result: ", code, ", message: ", error);
     return code;
 }
 

@@ -4,6 +4,7 @@
 #define ZARN_PARSER_PARSE_DRIVER_H
 
 #include <array>
+#include <atomic>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,6 +20,7 @@ class RegisteredOptionStorage;
 namespace internal {
 
 class ArgumentSource;
+class HandlerSet;
 
 // Ends the options of a command line or file.
 constexpr const char* endOfOptions = "--";
@@ -27,14 +29,20 @@ constexpr const char* endOfOptions = "--";
 // what is dealt with is removed from the front of `args`.
 class ParseDriver {
 public:
-    // `eventParser` hears the events, and `isHeard` tells whether anyone listens there. `errorText`
-    // receives the text of a failure. Without a result nothing can be stored, only refused.
+    // `eventParser` hears the events, for those who listen there. `errorText` receives the text of
+    // a failure. Without a result nothing can be stored, only refused.
     ParseDriver(RegisteredOptionStorage& theRegistry,
                 EventHandler& eventParser,
-                bool isHeard,
+                const HandlerSet& whoListens,
                 int creationFlags,
                 ParseResult* filled,
                 std::string& errorText);
+    ParseDriver(const ParseDriver&) = delete;
+    ParseDriver& operator=(const ParseDriver&) = delete;
+    ~ParseDriver();
+
+    // Tells parses apart of which one runs inside the events of another, in whatever parsers.
+    static int innermostParse() { return depth.load(std::memory_order_relaxed); }
 
     // Parses up to the terminator, which then stands in front, or to the end. Sets the debug log on
     // or off first, by the first argument. resultOk, or the code of the failure.
@@ -58,12 +66,14 @@ private:
 
     RegisteredOptionStorage& registry;
     EventHandler& parser;
-    EventHandler* listener;  // null when nobody listens
+    const HandlerSet& listeners;
     int flags;
     ParseResult* result;
     IResultCollector* collector;
     std::string& error;
     std::string discardedMessage;  // of recognisers, which are only asked
+
+    static std::atomic<int> depth;  // of the parse in progress
 };
 
 }  // namespace internal

@@ -1,6 +1,7 @@
 #include "platform/file_calls.h"
 
 #include <fcntl.h>
+#include <pthread.h>
 #include <unistd.h>
 
 namespace TROV_2_18::system::calls {
@@ -11,14 +12,17 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return ::fstat(descriptor, status);
 }
 
-int openForReading(const char* path) noexcept {
-    return ::open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY);
-}
+int openForReading(const char* path) { return ::open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY); }
 
-ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
+ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
     return ::read(descriptor, buffer, size);
 }
 
-void closeDescriptor(int descriptor) noexcept { ::close(descriptor); }
+void closeDescriptor(int descriptor) noexcept {
+    int before = 0;
+    ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
+    ::close(descriptor);
+    ::pthread_setcancelstate(before, nullptr);
+}
 
 }  // namespace TROV_2_18::system::calls

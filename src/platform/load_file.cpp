@@ -1,8 +1,8 @@
 #include "platform/load_file.h"
 
-#include <array>
 #include <cerrno>
 #include <cstring>
+#include <memory>
 #include <utility>
 
 #include "platform/file_calls.h"
@@ -43,9 +43,8 @@ public:
     }
 
     // The bytes read, 0 at the end, -1 after an error.
-    template <std::size_t size>
-    ssize_t read(std::array<char, size>& buffer) const {
-        return uninterrupted([&] { return calls::readSome(descriptor, buffer.data(), size); });
+    ssize_t read(char* buffer, std::size_t size) const {
+        return uninterrupted([&] { return calls::readSome(descriptor, buffer, size); });
     }
 
 private:
@@ -60,18 +59,19 @@ bool isLoadable(const struct stat& status) {
 }
 
 Outcome readAll(const OpenFile& file, ustring8& content) {
-    std::array<char, 32 * 1024> buffer;
+    constexpr std::size_t bufferSize = 32 * 1024;
+    const std::unique_ptr<char[]> buffer(new char[bufferSize]);  // threads may have small stacks
     for (;;) {
-        const ssize_t got = file.read(buffer);
+        const ssize_t got = file.read(buffer.get(), bufferSize);
         if (got <= 0) {
             return got == 0 ? Outcome::succeeded : Outcome::failed;
         }
         const std::size_t size = static_cast<std::size_t>(got);
-        const bool hasNul = std::memchr(buffer.data(), '\0', size) != nullptr;
+        const bool hasNul = std::memchr(buffer.get(), '\0', size) != nullptr;
         if (hasNul || size > largestFile - content.size()) {
             return Outcome::failed;
         }
-        content.append(buffer.data(), size);
+        content.append(buffer.get(), size);
     }
 }
 

@@ -24,10 +24,13 @@ bool beginsWithNo(std::string_view name) { return name.substr(0, noPrefix.size()
 
 }  // namespace
 
-AbbreviationParser::AbbreviationParser(EventHandler* listener,
+AbbreviationParser::AbbreviationParser(EventHandler& eventHandler,
+                                       const HandlerSet& whoListens,
                                        int creationFlags,
                                        ArgumentSource& rest)
-    : IArgumentParser(listener, "AbbreviationParser", creationFlags, rest) {}
+    : IArgumentParser(eventHandler, whoListens, creationFlags, rest) {
+    name = "AbbreviationParser";
+}
 
 int AbbreviationParser::recognize(std::vector<std::string>& args,
                                   RegisteredOptionStorage& registry,
@@ -123,7 +126,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args,
         return code;
     }
     if (mayChange(matchIndex, registry)) {
-        const OptionDescription copy = option;
+        const OptionDescription copy = option.forBinding();
         code = bind(copy, args, collector, error);
     } else {
         code = bind(option, args, collector, error);
@@ -185,8 +188,8 @@ int AbbreviationParser::bind(const OptionDescription& option,
                              std::vector<std::string>& args,
                              IResultCollector* collector,
                              std::string& error) {
-    if (handler != nullptr) {
-        handler->onOptionParse(option.primaryName().c_str());
+    if (isHeard()) {
+        handler.onOptionParse(option.primaryName().c_str());
     }
     trace(name, ": sent event on option parsed");
     return parseValueAndAddOption(value, error, option, args, collector);

@@ -16,7 +16,10 @@ namespace zarn_3_3 {
 // `parse` relies on what the `recognize` before it, on the same arguments, left here.
 class AbbreviationParser final : public IArgumentParser {
 public:
-    AbbreviationParser(EventHandler* listener, int creationFlags, internal::ArgumentSource& rest);
+    AbbreviationParser(EventHandler& eventHandler,
+                       const internal::HandlerSet& whoListens,
+                       int creationFlags,
+                       internal::ArgumentSource& rest);
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,

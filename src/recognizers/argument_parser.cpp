@@ -2,7 +2,6 @@
 
 #include <stdexcept>
 
-#include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_source.h"
 #include "recognizers/messages.h"
@@ -17,12 +16,12 @@ using namespace internal;
 
 std::atomic<int> IArgumentParser::m_idx{1};
 
-IArgumentParser::IArgumentParser(EventHandler* listener,
-                                 std::string_view ownName,
+IArgumentParser::IArgumentParser(EventHandler& eventHandler,
+                                 const HandlerSet& whoListens,
                                  int creationFlags,
                                  ArgumentSource& rest)
-    : handler(listener),
-      name(ownName),
+    : handler(eventHandler),
+      listeners(whoListens),
       flags(creationFlags),
       source(rest),
       data(std::make_unique<OptionData>()) {}
@@ -44,7 +43,8 @@ void IArgumentParser::removeFront(std::vector<std::string>& args) {
 }
 
 bool IArgumentParser::mayChange(std::size_t item, const RegisteredOptionStorage& registry) const {
-    return handler != nullptr && registry.isOpen(item);
+    return registry.isOpen(item) &&
+           (isHeard() || isLogOn() || !registry.items()[item].deprecatedValues.empty());
 }
 
 // One occurrence on its way into the result.
@@ -120,14 +120,14 @@ int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
     }
     bound.keptText = source.placeOf(bound.text, binding.args);
     bound.position = drawIndex();
-    return handler == nullptr ? resultOk : announce(binding, bound);
+    return isHeard() ? announce(binding, bound) : resultOk;
 }
 
 int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
     const char* const kept = plinth2::get_variant_value(value.value, value.keptText);
     const std::string copy(kept == nullptr ? value.text : "");  // with a terminator
     const Value announced(kept == nullptr ? copy.c_str() : kept, value.value, value.position);
-    if (handler->onValueParse(binding.option.c_str(), announced)) {
+    if (handler.onValueParse(binding.option.c_str(), announced)) {
         return resultOk;
     }
     binding.error = messages::vetoedValue(binding.value, binding.option, binding.args[0]);

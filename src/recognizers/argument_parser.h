@@ -12,6 +12,8 @@
 #include <string_view>
 #include <vector>
 
+#include "log/zarn_log.h"
+#include "recognizers/handler_set.h"
 #include "recognizers/token_helpers.h"
 
 namespace zarn_3_3 {
@@ -29,15 +31,14 @@ class ArgumentSource;
 
 // Takes arguments from the front of an argument vector.
 //
-// `handler` hears of every option and value; it is null when nobody listens. Then no client code
-// runs during an occurrence, and the item is used where it stands. A handler may still change the
-// item declared last, so of that one a copy is taken first: an occurrence is bound to the item as
-// it was when it was recognised. `rest` holds what stands behind the argument vectors that are
-// parsed.
+// `handler` hears of every option and value; it is not called while it has no listeners. An
+// occurrence is bound to its item as it was when it was recognised, and only the item declared last
+// can change: of that one a copy is taken when client code may run meanwhile. Others are used where
+// they stand. `rest` holds what stands behind the argument vectors that are parsed.
 class IArgumentParser {
 public:
-    IArgumentParser(EventHandler* listener,
-                    std::string_view ownName,
+    IArgumentParser(EventHandler& eventHandler,
+                    const internal::HandlerSet& whoListens,
                     int creationFlags,
                     internal::ArgumentSource& rest);
     IArgumentParser(const IArgumentParser&) = delete;
@@ -94,16 +95,20 @@ protected:
 
     void removeFront(std::vector<std::string>& args);
 
-    // Whether a handler could change the item while it is bound.
+    bool isHeard() const { return !listeners.isEmpty(); }
+
+    // Whether client code could change the item while it is bound: in a handler, or in a stream to
+    // which the log or a warning is written.
     bool mayChange(std::size_t item, const RegisteredOptionStorage& registry) const;
 
-    // Asked once unless somebody listens, who may set another locale.
+    // Asked once unless client code runs meanwhile, which may set another locale.
     internal::TextLocale textLocale() const {
-        return handler == nullptr ? initialLocale : internal::globalTextLocale();
+        return isHeard() || internal::isLogOn() ? internal::globalTextLocale() : initialLocale;
     }
 
-    EventHandler* handler;
-    std::string_view name;  // in front of every line of the log
+    EventHandler& handler;
+    const internal::HandlerSet& listeners;
+    std::string_view name = "UndefinedParser";  // in front of every line of the log
     int flags;
     internal::ArgumentSource& source;
 

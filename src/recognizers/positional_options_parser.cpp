@@ -17,10 +17,13 @@ constexpr int declined = 1;
 
 }  // namespace
 
-PositionalOptionsParser::PositionalOptionsParser(EventHandler* listener,
+PositionalOptionsParser::PositionalOptionsParser(EventHandler& eventHandler,
+                                                 const HandlerSet& whoListens,
                                                  int creationFlags,
                                                  ArgumentSource& rest)
-    : IArgumentParser(listener, "PositionalOptionsParser", creationFlags, rest) {}
+    : IArgumentParser(eventHandler, whoListens, creationFlags, rest) {
+    name = "PositionalOptionsParser";
+}
 
 int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        RegisteredOptionStorage& registry,
@@ -44,7 +47,7 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args,
     trace(name, ": option is '", registry.items().front().primaryName(), "'");
     const OptionDescription& option = registry.items()[optionIndex];
     if (mayChange(optionIndex, registry)) {
-        const OptionDescription copy = option;
+        const OptionDescription copy = option.forBinding();
         return parseArguments(copy, args, collector, registry, error);
     }
     return parseArguments(option, args, collector, registry, error);
@@ -57,8 +60,8 @@ int PositionalOptionsParser::parseArguments(const OptionDescription& option,
                                             std::string& error) {
     const bool takesRest = (flags & flagPositionalTakesRest) != 0;
     do {
-        if (handler != nullptr) {
-            handler->onOptionParse(registry.items().front().primaryName().c_str());
+        if (isHeard()) {
+            handler.onOptionParse(registry.items().front().primaryName().c_str());
         }
         const int code = parseValueAndAddOption(args[0], error, option, args, collector);
         if (code != resultOk) {

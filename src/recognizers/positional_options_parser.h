@@ -15,7 +15,8 @@ namespace zarn_3_3 {
 // source is empty.
 class PositionalOptionsParser final : public IArgumentParser {
 public:
-    PositionalOptionsParser(EventHandler* listener,
+    PositionalOptionsParser(EventHandler& eventHandler,
+                            const internal::HandlerSet& whoListens,
                             int creationFlags,
                             internal::ArgumentSource& rest);
 

@@ -114,5 +114,65 @@ TEST(Growth, IsLinearInDeclarations) {
     });
 }
 
+// Names that exist, asked for among the actions, where they are not, and in another section.
+TEST(Growth, IsLinearInQuestionsAboutOtherKinds) {
+    expectLinear([](std::size_t n) {
+        Tool tool;
+        for (std::size_t i = 0; i < n; ++i) {
+            tool->option(numbered("name", i).c_str(), "", vtString, "main");
+        }
+        return measure([&] {
+            for (std::size_t i = 0; i < n; ++i) {
+                const std::string name = numbered("name", i);
+                ASSERT_FALSE(tool->isOptionDeclared(name.c_str(), true, nullptr));
+                ASSERT_FALSE(tool->isOptionDeclared(name.c_str(), false, "none"));
+            }
+        });
+    });
+}
+
+// With a handler each occurrence has a copy of the item declared last, but not of its tags.
+TEST(Growth, IsLinearInTagsAndOccurrences) {
+    expectLinear([](std::size_t n) {
+        Tool tool;
+        tool.listen();
+        IOption& item = tool.option("x", vtNull);
+        for (std::size_t i = 0; i < n; ++i) {
+            item.tag(numbered("tag", i).c_str());
+        }
+        const testing_support::Words line(n, "-x");
+        return measure([&] { ASSERT_EQ(tool.parse(line), resultOk); });
+    });
+}
+
+// There are no more beginnings than bytes in the names, whatever lengths are asked for.
+TEST(Growth, OfBeginningsEndsWithTheNames) {
+    constexpr std::size_t n = 2000;
+    Tool tool;
+    tool.option(std::string(n, 'x'), vtNull);
+    for (std::size_t i = 0; i < n; ++i) {
+        tool.option(numbered("name", i), vtNull);
+    }
+    testing_support::Words line;
+    for (std::size_t length = n / 2; length < n; length += 10) {
+        line.push_back("-" + std::string(length, 'x'));
+    }
+    const std::size_t bytesOfLine = line.size() * n;
+    EXPECT_LT(measure([&] { ASSERT_EQ(tool.parse(line), resultOk); }).bytes, 4 * bytesOfLine);
+}
+
+TEST(Default, IsKeptOnceByAResult) {
+    Tool tool;
+    tool.option("x,y").defaultValue("text");
+    const char* kept = nullptr;
+    for (int i = 0; i < 2; ++i) {
+        ASSERT_EQ(tool.parse({}), resultOk);
+        for (const char* const name : {"x", "y"}) {
+            const char* const text = tool.result->get(name, 0, INT_MAX).text;
+            EXPECT_EQ(text, kept == nullptr ? kept = text : kept);
+        }
+    }
+}
+
 }  // namespace
 }  // namespace zarn_3_3

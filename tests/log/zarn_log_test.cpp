@@ -11,8 +11,7 @@ namespace {
 
 const std::string logSwitch = "zarnoption=zarnlogenable=1";
 
-// A log that cannot be written never changes a parse; but a tool that asks for exceptions of its
-// streams gets them, as the code that they stand for.
+// A log that cannot be written never changes a parse.
 TEST(ZarnLog, MayMeetAFullDisk) {
     internal::basic_nullbuf<char> fullDisk;
     std::streambuf* const before = std::cout.rdbuf(&fullDisk);
@@ -25,15 +24,11 @@ TEST(ZarnLog, MayMeetAFullDisk) {
     EXPECT_EQ(tool.error(), "Unknown option: x");
     EXPECT_EQ(tool.values("name"), "a|b");
 
-    std::cout.clear();
-    std::cout.exceptions(std::ios::badbit);
-    EXPECT_EQ(tool.parse({logSwitch, "--name=c"}), resultException);
-    EXPECT_EQ(tool.parse({"--name=d"}), resultOk);
-    EXPECT_EQ(tool.values("name"), "a|b|d");
+    EXPECT_EQ(tool.parse({"--name=c"}), resultOk);
     EXPECT_NE(&(internal::zarnLog() << "nowhere"), &std::cout);
 
-    std::cout.exceptions(std::ios::goodbit);
     std::cout.rdbuf(before);
+    std::cout.clear();
 }
 
 }  // namespace

@@ -93,6 +93,18 @@ TEST_F(Handlers, ThatThrowEndTheParse) {
     EXPECT_EQ(tool.values("level"), "1|3");
 }
 
+class Wordless final : public std::exception {
+public:
+    const char* what() const noexcept override { return nullptr; }
+};
+
+TEST_F(Handlers, MayThrowWithoutAWord) {
+    moment = "1 option level";
+    act = []() -> bool { throw Wordless(); };
+    EXPECT_EQ(tool.parse({"--level=1"}), resultException);
+    EXPECT_EQ(tool.error(), "");
+}
+
 // With this a bound item changes, or moves, beneath the parse.
 TEST(Handler, ChangesAnItemFromTheNextArgumentOn) {
     Tool tool;

@@ -46,14 +46,14 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return fails() ? -1 : result;
 }
 
-int openForReading(const char* path) noexcept {
+int openForReading(const char* path) {
     ++opened;
     const int descriptor = fails() ? -1 : ::open(path, O_RDONLY | O_CLOEXEC);
     openFiles += descriptor != -1 ? 1 : 0;
     return descriptor;
 }
 
-ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
+ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
     if (fails()) {
         return -1;
     }

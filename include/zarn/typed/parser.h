@@ -94,7 +94,7 @@ public:
     //
     // text  null for an empty text
     // into  what is found is added to what it holds; without one, a new result. It has to come
-    //       from this parser
+    //       from this parser. Option files that it names are read again
     //
     //     outcome = parser.parseStream(std::getenv("TOOL_OPTIONS"), std::move(outcome.result));
     ParseOutcome parseStream(const char* text, Result into) {

@@ -1,7 +1,7 @@
 // The registered event handlers.
 
-#ifndef ZARN_PARSER_HANDLER_SET_H
-#define ZARN_PARSER_HANDLER_SET_H
+#ifndef ZARN_RECOGNIZERS_HANDLER_SET_H
+#define ZARN_RECOGNIZERS_HANDLER_SET_H
 
 #include <functional>
 #include <set>
@@ -46,4 +46,4 @@ private:
 }  // namespace internal
 }  // namespace zarn_3_3
 
-#endif  // ZARN_PARSER_HANDLER_SET_H
+#endif  // ZARN_RECOGNIZERS_HANDLER_SET_H

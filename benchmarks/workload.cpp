@@ -169,6 +169,7 @@ Workload startUp() {
         {Kind::choice,  5,  2},
     };
     Workload workload;
+    workload.steps = 16;
     std::vector<Given> given;
     for (const Part& part : parts) {
         for (std::size_t i = 0; i < part.declared; ++i) {

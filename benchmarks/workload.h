@@ -77,7 +77,8 @@ enum class NameForm {
     negated,  // "--no-name"
 };
 
-// 20 of 50 options of mixed kinds are given and read.
+// 20 of 50 options of mixed kinds are given and read. A step is all of it: there are several in a
+// round, so that the clock is no part.
 Workload startUp();
 
 // `count` arguments "--name=value" for 50 options that keep all their values.

@@ -24,5 +24,9 @@ shows "the binding of all symbols at the start" '\(FLAGS_1\) .*NOW' "$dynamic"
 shows "code without relocations" '^0$' "$(grep -c TEXTREL <<<"$dynamic")"
 shows "guarded stacks" ' __stack_chk_fail(@|$)' "$imports"
 shows "checked copies" ' __mem(cpy|move|set)_chk(@|$)' "$imports"
+if [[ $(uname -m) == x86_64 ]]; then
+    entry=_ZN8zarn_3_312createParserEPPNS_7IParserEi
+    shows "landing places for calls" 'endbr64' "$(objdump "--disassemble=$entry" "$library")"
+fi
 shows "a definition of every symbol" '^$' "$unresolved"
 exit "$missing"

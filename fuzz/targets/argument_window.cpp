@@ -11,10 +11,10 @@
 #include "listener.h"
 #include "observation.h"
 #include "options/registered_option_storage.h"
+#include "parser/argument_sources.h"
 #include "parser/parse_driver.h"
 #include "quiet_console.h"
 #include "recognizers/argument_parser.h"
-#include "recognizers/argument_source.h"
 #include "recognizers/handler_set.h"
 #include "result/parse_result.h"
 #include "support/assertion_double.h"
@@ -76,7 +76,8 @@ std::string erasingOneVector(const Input& input) {
     internal::HandlerSet listeners;
     listeners.add(&listener);
     ParseResult result;
-    internal::ArgumentSource nothing(nullptr, 0, internal::Texts::passing);
+    const Arguments none;
+    internal::VectorSource nothing(none);
     const auto parse = [&](Arguments& arguments, std::string& error) {
         internal::ParseDriver driver(registry, listener, listeners, input.flags, &result, error);
         return driver.parseOptions("--", arguments, nothing);

@@ -62,6 +62,7 @@ IOption& RegisteredOptionStorage::declare(const char* names,
         trace(messages::nameIsTaken, names);
         return refused();
     }
+    firstPositional();  // the last item stays as it is from now on
     OptionDescription& item = options.emplace_back();
     try {
         item.description = descriptions.keep(description);
@@ -122,15 +123,18 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
 }
 
 std::size_t RegisteredOptionStorage::firstPositional() const {
-    // The item declared last may still become positional, so it is looked at again.
-    for (; positionalItem == NameIndex::none && notPositional < options.size(); ++notPositional) {
-        if (options[notPositional].isPositional) {
-            positionalItem = notPositional;
-        } else if (isOpen(notPositional)) {
-            break;
-        }
+    // The item declared last may still become positional, so it is looked at each time.
+    if (positionalItem == NameIndex::none && !options.empty() && options.back().isPositional) {
+        positionalItem = options.size() - 1;
     }
     return positionalItem;
+}
+
+PrefixIndex::Found RegisteredOptionStorage::findBeginning(std::string_view beginning) const {
+    if (prefixIndex == nullptr) {
+        prefixIndex = std::make_unique<PrefixIndex>();
+    }
+    return prefixIndex->find(beginning, names().forms());
 }
 
 const NameIndex& RegisteredOptionStorage::names() const {

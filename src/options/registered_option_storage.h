@@ -4,6 +4,7 @@
 #define ZARN_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
 #include <cstddef>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <utility>
@@ -70,9 +71,7 @@ public:
     const internal::NameIndex& names() const;
 
     // What `beginning` can stand for, among the forms of the index. Throws std::bad_alloc.
-    internal::PrefixIndex::Found findBeginning(std::string_view beginning) const {
-        return prefixIndex.find(beginning, names().forms());
-    }
+    internal::PrefixIndex::Found findBeginning(std::string_view beginning) const;
 
 private:
     IOption& declare(const char* names,
@@ -93,9 +92,9 @@ private:
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
 
     mutable internal::NameIndex index;
-    mutable internal::PrefixIndex prefixIndex;
-    mutable std::size_t positionalItem = internal::NameIndex::none;
-    mutable std::size_t notPositional = 0;  // that many items in front
+    mutable std::unique_ptr<internal::PrefixIndex>
+        prefixIndex;  // null until something is abbreviated
+    mutable std::size_t positionalItem = internal::NameIndex::none;  // as far as it was looked for
 };
 
 // Refuses (resultFailure) four names and more, and three of which the third has more than two

@@ -14,6 +14,17 @@ const char* TextArena::keep(std::string_view text) {
     return kept;
 }
 
+char* TextArena::newBlock(std::size_t size) {
+    blocks.emplace_back();
+    try {
+        blocks.back().reset(new char[size]);
+    } catch (...) {
+        blocks.pop_back();
+        throw;
+    }
+    return blocks.back().get();
+}
+
 char* TextArena::take(std::size_t size) {
     if (size > left) {
         if (size > nextBlockSize / 4) {
@@ -27,17 +38,6 @@ char* TextArena::take(std::size_t size) {
     next += size;
     left -= size;
     return taken;
-}
-
-char* TextArena::newBlock(std::size_t size) {
-    blocks.emplace_back();
-    try {
-        blocks.back().reset(new char[size]);
-    } catch (...) {
-        blocks.pop_back();
-        throw;
-    }
-    return blocks.back().get();
 }
 
 }  // namespace zarn_3_3::internal

@@ -22,11 +22,9 @@ public:
     // std::bad_alloc; the arena is then unchanged.
     const char* keep(std::string_view text);
 
-    // `size` bytes to write to, valid as long as the arena. Throws as above.
-    char* take(std::size_t size);
-
 private:
     char* newBlock(std::size_t size);
+    char* take(std::size_t size);
 
     std::vector<std::unique_ptr<char[]>> blocks;
     char* next = nullptr;

@@ -3,14 +3,12 @@
 #include <cstddef>
 #include <memory>
 #include <stdexcept>
-#include <string_view>
 
 #include "parser/action_rules.h"
-#include "parser/argument_texts.h"
+#include "parser/argument_sources.h"
 #include "parser/guarded.h"
 #include "parser/option_file_walk.h"
 #include "parser/parse_driver.h"
-#include "recognizers/argument_source.h"
 #include "result/parse_result.h"
 
 namespace zarn_3_3 {
@@ -38,7 +36,7 @@ ParseResult& ownResult(IParseResult* result) {
 class TakenArguments {
 public:
     TakenArguments(std::vector<std::string>& all,
-                   const ArgumentSource& reader,
+                   const VectorSource& reader,
                    const std::vector<std::string>& lookahead)
         : arguments(all), source(reader), notYetTaken(lookahead) {}
     TakenArguments(const TakenArguments&) = delete;
@@ -50,7 +48,7 @@ public:
 
 private:
     std::vector<std::string>& arguments;
-    const ArgumentSource& source;
+    const VectorSource& source;
     const std::vector<std::string>& notYetTaken;
 };
 
@@ -157,18 +155,16 @@ int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult
         if (argc < 2) {
             return static_cast<int>(resultOk);
         }
-        const auto arguments = copiedArguments(argc, argv, filled.keeper());
-        return parseArguments({arguments, Texts::kept}, filled);
+        CommandLineSource source(argc, argv);
+        return parseSource(source, filled);
     });
 }
 
 int BasicParser::parseStream(const char* text, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
-        const std::string copy(text == nullptr ? "" : text);  // a handler may free it
-        std::vector<std::string_view> arguments;
-        parseStreamToArgs(copy, arguments);
-        return parseArguments({arguments, Texts::passing}, filled);
+        TextSource source(text == nullptr ? "" : text, TextSource::Owner::client);
+        return parseSource(source, filled);
     });
 }
 
@@ -221,8 +217,7 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
         return code;
     }
     ParseDriver driver = driverFor(&filled, lastError);
-    const std::vector<std::string_view> arguments(args.begin(), args.end());
-    ArgumentSource source(arguments, Texts::passing);
+    VectorSource source(args);
     std::vector<std::string> front;
     return parseBehindOptions(driver, front, source, filled);
 }
@@ -232,8 +227,7 @@ int BasicParser::parse_phase_one(const std::string& terminator,
                                  IParseResult* result,
                                  std::string& error) {
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
-    const std::vector<std::string_view> arguments(args.begin(), args.end());
-    ArgumentSource source(arguments, Texts::passing);
+    VectorSource source(args);
     std::vector<std::string> front;
     const TakenArguments taken(args, source, front);
     return driverFor(filled, error).parseOptions(terminator, front, source);
@@ -246,7 +240,7 @@ int BasicParser::parse_phase_two(const std::string& /*terminator*/,
     return checkActionRules(registry, allowedActionSets, ownResult(result), error);
 }
 
-int BasicParser::parseArguments(ArgumentSource source, ParseResult& result) {
+int BasicParser::parseSource(ArgumentSource& source, ParseResult& result) {
     ParseDriver driver = driverFor(&result, lastError);
     std::vector<std::string> front;
     const int code = driver.parseOptions(endOfOptions, front, source);

@@ -89,7 +89,7 @@ private:
     template <typename Tell>
     void passOn(internal::EventKind kind, const char* text, const Value* value, Tell tell);
 
-    int parseArguments(internal::ArgumentSource source, ParseResult& result);
+    int parseSource(internal::ArgumentSource& source, ParseResult& result);
     int parseBehindOptions(internal::ParseDriver& driver,
                            std::vector<std::string>& args,
                            internal::ArgumentSource& source,

@@ -1,9 +1,8 @@
 #include "parser/option_file_walk.h"
 
-#include "parser/argument_texts.h"
+#include "parser/argument_sources.h"
 #include "parser/messages.h"
 #include "parser/parse_driver.h"
-#include "recognizers/argument_source.h"
 #include "result/parse_result.h"
 #include "zarn/parser.h"
 
@@ -65,9 +64,7 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
 }
 
 int OptionFileWalk::parse(const std::string& content) {
-    std::vector<std::string_view> arguments;
-    parseStreamToArgs(content, arguments);
-    ArgumentSource source(arguments, Texts::passing);
+    TextSource source(content, TextSource::Owner::library);
     std::vector<std::string> front;
     const int code = driver.parseOptions(endOfOptions, front, source);
     return code != resultOk ? code : driver.collectNonparsingArguments(endOfOptions, front, source);

@@ -4,10 +4,11 @@
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
+#include "parser/argument_sources.h"
 #include "parser/messages.h"
 #include "recognizers/abbreviation_parser.h"
-#include "recognizers/argument_source.h"
 #include "recognizers/positional_options_parser.h"
+#include "recognizers/token_helpers.h"
 #include "result/parse_result.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
@@ -47,10 +48,19 @@ ParseDriver::ParseDriver(RegisteredOptionStorage& theRegistry,
 
 ParseDriver::~ParseDriver() { depth.store(innermostParse() - 1, std::memory_order_relaxed); }
 
+// Whether client code runs as a matter of course: handlers, a stream under the log, or a locale
+// that is perhaps the client's own.
+bool ParseDriver::isObserved() const {
+    return !listeners.isEmpty() || isLogOn() || globalTextLocale() != TextLocale::classic;
+}
+
 int ParseDriver::parseOptions(const std::string& terminator,
                               std::vector<std::string>& args,
                               ArgumentSource& source) {
     removeLogSwitch(args, source);
+    if (isObserved()) {
+        source.secure();
+    }
     PositionalOptionsParser positional(parser, listeners, flags, source);
     AbbreviationParser abbreviation(parser, listeners, flags, source);
     const Recognizers recognizers{&positional, &abbreviation};
@@ -104,13 +114,12 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator,
         return resultOk;
     }
     for (source.removeFront(args); !args.empty(); source.removeFront(args)) {
-        const char* const kept = source.placeOf(args[0], args);
-        result->storeArgument(args[0], kept);
+        result->storeArgument(args[0]);
         trace(logPrefix, "stored argument: '", args[0], "'");
         if ((flags & flagPositionalBehindTerminator) == 0) {
             continue;
         }
-        const int code = offerToPositional(args[0], kept);
+        const int code = offerToPositional(args[0]);
         if (code != resultOk) {
             return code;
         }
@@ -119,14 +128,12 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator,
 }
 
 // One argument at a time, which behind the terminator may begin with a dash.
-int ParseDriver::offerToPositional(std::string_view argument, const char* kept) {
-    const std::string_view text =
-        kept == nullptr ? argument : std::string_view(kept, argument.size());
-    ArgumentSource source(&text, 1, kept == nullptr ? Texts::passing : Texts::kept);
-    std::vector<std::string> args;
-    source.fillUp(args);
+int ParseDriver::offerToPositional(const std::string& argument) {
+    const std::vector<std::string> none;
+    VectorSource nothingElse(none);
     PositionalOptionsParser positional(
-        parser, listeners, flags & ~flagPositionalWithoutDash, source);
+        parser, listeners, flags & ~flagPositionalWithoutDash, nothingElse);
+    std::vector<std::string> args{argument};
     const int recognized = positional.recognize(args, registry, error);
     trace(logPrefix, "recognize result: ", recognized, ", message: ", error);
     if (recognized != 0) {

@@ -6,7 +6,6 @@
 #include <array>
 #include <atomic>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace zarn_3_3 {
@@ -59,10 +58,11 @@ public:
 private:
     using Recognizers = std::array<IArgumentParser*, 2>;
 
+    bool isObserved() const;
     IArgumentParser* chooseRecognizer(const Recognizers& recognizers,
                                       std::vector<std::string>& args);
     int passOver(std::vector<std::string>& args, ArgumentSource& source);
-    int offerToPositional(std::string_view argument, const char* kept);
+    int offerToPositional(const std::string& argument);
 
     RegisteredOptionStorage& registry;
     EventHandler& parser;

@@ -5,7 +5,6 @@
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "platform/best_match.h"
-#include "recognizers/argument_source.h"
 #include "recognizers/messages.h"
 #include "recognizers/token_helpers.h"
 #include "zarn/event_handler.h"
@@ -125,7 +124,7 @@ int AbbreviationParser::parse(std::vector<std::string>& args,
     if (code != resultOk) {
         return code;
     }
-    if (mayChange(matchIndex, registry)) {
+    if (mayChange(option, matchIndex, registry)) {
         const OptionDescription copy = option.forBinding();
         code = bind(copy, args, collector, error);
     } else {

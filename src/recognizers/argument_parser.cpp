@@ -2,8 +2,6 @@
 
 #include <stdexcept>
 
-#include "options/registered_option_storage.h"
-#include "recognizers/argument_source.h"
 #include "recognizers/messages.h"
 #include "result/option_data.h"
 #include "result/result_collector.h"
@@ -42,17 +40,12 @@ void IArgumentParser::removeFront(std::vector<std::string>& args) {
     source.removeFront(args);
 }
 
-bool IArgumentParser::mayChange(std::size_t item, const RegisteredOptionStorage& registry) const {
-    return registry.isOpen(item) &&
-           (isHeard() || isLogOn() || !registry.items()[item].deprecatedValues.empty());
-}
-
 // One occurrence on its way into the result.
 struct IArgumentParser::Binding {
     std::string_view value;
     const std::string& option;  // the primary name
     const OptionDescription& description;
-    const std::vector<std::string>& args;
+    const std::string& argument;
     OptionData& data;
     std::string& error;
 };
@@ -65,7 +58,7 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
     data->positions.assign(1, drawIndex());
     data->values.clear();
     if (!value.empty()) {
-        const Binding binding{value, option.primaryName(), option, args, *data, error};
+        const Binding binding{value, option.primaryName(), option, args[0], *data, error};
         trace(name, ": adding values to result container:");
         const int code = bindPieces(binding, option.tokenizer);
         if (code != resultOk) {
@@ -115,22 +108,21 @@ int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
     OptionValue& bound = binding.data.values.emplace_back();
     bound.text = piece;
     if (!binding.description.validate(bound.text, bound.value, binding.error, textLocale())) {
-        binding.error = messages::invalidValue(binding.args[0], binding.error);
+        binding.error = messages::invalidValue(binding.argument, binding.error);
         return refuse(binding.error);
     }
-    bound.keptText = source.placeOf(bound.text, binding.args);
     bound.position = drawIndex();
     return isHeard() ? announce(binding, bound) : resultOk;
 }
 
 int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
-    const char* const kept = plinth2::get_variant_value(value.value, value.keptText);
-    const std::string copy(kept == nullptr ? value.text : "");  // with a terminator
-    const Value announced(kept == nullptr ? copy.c_str() : kept, value.value, value.position);
+    const char* const held = plinth2::get_variant_value(value.value, nullptr);
+    const std::string copy(held == nullptr ? value.text : "");  // with a terminator
+    const Value announced(held == nullptr ? copy.c_str() : held, value.value, value.position);
     if (handler.onValueParse(binding.option.c_str(), announced)) {
         return resultOk;
     }
-    binding.error = messages::vetoedValue(binding.value, binding.option, binding.args[0]);
+    binding.error = messages::vetoedValue(binding.value, binding.option, binding.argument);
     trace(name, binding.error, messages::handlerVetoed);  // kept: nothing behind the name
     return resultVetoed;
 }

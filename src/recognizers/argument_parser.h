@@ -13,6 +13,8 @@
 #include <vector>
 
 #include "log/zarn_log.h"
+#include "options/registered_option_storage.h"
+#include "recognizers/argument_source.h"
 #include "recognizers/handler_set.h"
 #include "recognizers/token_helpers.h"
 
@@ -20,14 +22,8 @@ namespace zarn_3_3 {
 
 class EventHandler;
 class IResultCollector;
-class OptionDescription;
-class RegisteredOptionStorage;
 struct OptionData;
 struct OptionValue;
-
-namespace internal {
-class ArgumentSource;
-}
 
 // Takes arguments from the front of an argument vector.
 //
@@ -97,13 +93,26 @@ protected:
 
     bool isHeard() const { return !listeners.isEmpty(); }
 
-    // Whether client code could change the item while it is bound: in a handler, or in a stream to
-    // which the log or a warning is written.
-    bool mayChange(std::size_t item, const RegisteredOptionStorage& registry) const;
+    // Whether client code runs with every step: in a handler, or in a stream under the log.
+    bool isObserved() const { return isHeard() || internal::isLogOn(); }
+
+    // To be called before an item, the one with this index, is bound. Client code may run
+    // meanwhile, in a stream to which a warning about a deprecated value is written if nowhere
+    // else: then the arguments are made safe from it, and the answer is whether it could change the
+    // item too.
+    bool mayChange(const OptionDescription& option,
+                   std::size_t index,
+                   const RegisteredOptionStorage& registry) {
+        if (!isObserved() && option.deprecatedValues.empty()) {
+            return false;
+        }
+        source.secure();
+        return registry.isOpen(index);
+    }
 
     // Asked once unless client code runs meanwhile, which may set another locale.
     internal::TextLocale textLocale() const {
-        return isHeard() || internal::isLogOn() ? internal::globalTextLocale() : initialLocale;
+        return isObserved() ? internal::globalTextLocale() : initialLocale;
     }
 
     EventHandler& handler;

@@ -2,7 +2,6 @@
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
-#include "recognizers/argument_source.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
 
@@ -46,7 +45,7 @@ int PositionalOptionsParser::parse(std::vector<std::string>& args,
     // Kept: the log and onOptionParse name the item declared first, whichever that is.
     trace(name, ": option is '", registry.items().front().primaryName(), "'");
     const OptionDescription& option = registry.items()[optionIndex];
-    if (mayChange(optionIndex, registry)) {
+    if (mayChange(option, optionIndex, registry)) {
         const OptionDescription copy = option.forBinding();
         return parseArguments(copy, args, collector, registry, error);
     }

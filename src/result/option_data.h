@@ -14,7 +14,6 @@ namespace zarn_3_3 {
 // in `value` equals it. Positions are numbers of the running sequence, here and below.
 struct OptionValue {
     std::string_view text;
-    const char* keptText = nullptr;  // the same with a terminator, valid as long as the result
     variant_t value;
     int position = 0;
 };

@@ -78,10 +78,8 @@ const char* ParseResult::keptDefault(const OptionDescription& item) {
     return entry != nullptr && text == entry->defaultText ? entry->defaultText : texts.keep(text);
 }
 
-void ParseResult::storeArgument(std::string_view argument, const char* kept) {
-    if (kept == nullptr) {
-        kept = texts.keep(argument);
-    }
+void ParseResult::storeArgument(std::string_view argument) {
+    const char* const kept = texts.keep(argument);
     IArgumentParser::drawIndex();  // the number is part of the order, though no query shows it
     arguments.push_back(kept);
 }
@@ -145,7 +143,7 @@ void ParseResult::replace(std::string_view name, const OptionData& data) {
 
 // A value that holds the text itself lends it: most texts are then kept once.
 const char* ParseResult::textOf(const OptionValue& value) {
-    const char* const held = plinth2::get_variant_value(value.value, value.keptText);
+    const char* const held = plinth2::get_variant_value(value.value, nullptr);
     return held != nullptr ? held : texts.keep(value.text);
 }
 

@@ -47,12 +47,8 @@ public:
     // number and memory throw; what was recorded by then stays.
     void applyDefault(const OptionList& options);
 
-    // Keeps an argument that is not parsed, under the next number of the sequence. `kept` is the
-    // same text where it lives as long as the result, or null.
-    void storeArgument(std::string_view argument, const char* kept);
-
-    // Keeps what is valid as long as the result.
-    internal::TextArena& keeper() { return texts; }
+    // Keeps an argument that is not parsed, under the next number of the sequence.
+    void storeArgument(std::string_view argument);
 
     // The entry of a name, or null.
     const internal::StoredOption* find(std::string_view name) const;

@@ -170,8 +170,8 @@ public:
     // Help texts. With `hidden` false they show everything but the section "zarn_hidden", with true
     // that section alone. Lines end with a line feed and have at most 79 bytes, with three
     // exceptions: long columns of names and values, titles of sections, which have up to 80 bytes,
-    // and lists of actions, which are not wrapped. When memory runs out: an empty text, or one that ends in
-    // "Unknown error handled.", which is the last error then.
+    // and lists of actions, which are not wrapped. When memory runs out: an empty text, or one that
+    // ends in "Unknown error handled.", which is the last error then.
     //
     // The actions with their descriptions; for a vocabulary without actions, all its options.
     virtual const char* getDescription(bool hidden) = 0;

@@ -1,13 +1,17 @@
 #include "support/assertion_double.h"
 
-#include <utility>
-
 #include "platform/assertion.h"
 
-static std::string reported;
+static thread_local std::string reported;
 
-std::string takeAssertions() { return std::exchange(reported, {}); }
+// What is reported is kept without taking memory.
+std::string takeAssertions() {
+    std::string taken = reported;
+    reported.clear();
+    reported.reserve(1 << 12);
+    return taken;
+}
 
 void TROV_2_18::debugAssertionFailed(const char* text) noexcept {
-    reported += std::string(text) + "\n";
+    reported.append(text).append("\n");
 }

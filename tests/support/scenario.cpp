@@ -1,0 +1,172 @@
+#include "support/scenario.h"
+
+#include <algorithm>
+#include <map>
+#include <sstream>
+#include <stdexcept>
+#include <utility>
+
+namespace zarn_3_3::testing_support {
+namespace {
+
+[[noreturn]] void refuse(int line, const std::string& why) {
+    throw std::invalid_argument(std::to_string(line) + ": " + why);
+}
+
+char escapedAt(std::istream& text, int line) {
+    const std::map<char, char> bytes{
+        {'n',  '\n'},
+        {'r',  '\r'},
+        {'t',  '\t'},
+        {'\\', '\\'},
+        {'"',  '"' }
+    };
+    const auto named = bytes.find(static_cast<char>(text.get()));
+    if (named != bytes.end()) {
+        return named->second;
+    }
+    text.unget();
+    char code[4] = {};
+    char* end = code;
+    text.get(code, sizeof code);
+    const long byte = std::strtol(code + 1, &end, 16);
+    if (code[0] != 'x' || end != code + 3) {
+        refuse(line, "unknown escape");
+    }
+    return static_cast<char>(byte);
+}
+
+Words wordsOf(const std::string& lineText, int line) {
+    std::istringstream text(lineText);
+    Words words;
+    while (text >> std::ws && text.peek() != EOF) {
+        std::string& word = words.emplace_back();
+        bool isQuoted = false;
+        for (char c = 0; text.get(c) && (isQuoted || c != ' ');) {
+            if (c == '"') {
+                isQuoted = !isQuoted;
+            } else {
+                word += c == '\\' ? escapedAt(text, line) : c;
+            }
+        }
+        if (isQuoted) {
+            refuse(line, "a quote without an end");
+        }
+    }
+    return words;
+}
+
+class Reader {
+public:
+    void read(const std::string& text, int line) {
+        if (text.empty() || text[0] == '#') {
+            return;
+        }
+        if (text[0] == '>') {
+            expect(text.substr(std::min<std::size_t>(2, text.size())), line);
+        } else if (text.rfind("scenario ", 0) == 0) {
+            scenarios.push_back({text.substr(9), line, {}, {}});
+            steps = &scenarios.back().steps;
+        } else {
+            add(readStep(text, line));
+        }
+    }
+
+    std::vector<Scenario> scenarios;
+
+private:
+    void expect(const std::string& answer, int line) {
+        if (scenarios.empty() || scenarios.back().steps.empty()) {
+            refuse(line, "an answer to nothing");
+        }
+        scenarios.back().expected.push_back(
+            {scenarios.back().steps.back().line, Kind::outcome, answer});
+    }
+
+    void add(Step step) {
+        if (step.verb == "vocabulary" && step.words.size() == 1) {
+            steps = &vocabularies[step.words[0]];
+            return;
+        }
+        if (steps == nullptr) {
+            refuse(step.line, "a step outside of scenarios");
+        }
+        const auto isLike = [](const std::string& word) { return word.rfind("like=", 0) == 0; };
+        const auto like = std::find_if(step.words.begin(), step.words.end(), isLike);
+        std::vector<Step> declarations;
+        if (step.verb == "parser" && like != step.words.end()) {
+            declarations = vocabulary(like->substr(5), step.line);
+            step.words.erase(like);
+        }
+        steps->push_back(std::move(step));
+        steps->insert(steps->end(), declarations.begin(), declarations.end());
+    }
+
+    std::vector<Step> vocabulary(const std::string& name, int line) {
+        const auto found = vocabularies.find(name);
+        if (found == vocabularies.end()) {
+            refuse(line, "unknown vocabulary");
+        }
+        std::vector<Step> declarations = found->second;
+        for (Step& declaration : declarations) {
+            declaration.line = line;
+        }
+        return declarations;
+    }
+
+    std::map<std::string, std::vector<Step>> vocabularies;
+    std::vector<Step>* steps = nullptr;
+};
+
+template <typename Take>
+void forEachLine(const std::string& text, Take take) {
+    std::istringstream lines(text);
+    int number = 0;
+    for (std::string line; std::getline(lines, line);) {
+        take(line, ++number);
+    }
+}
+
+}  // namespace
+
+std::vector<Scenario> readScenarios(const std::string& text) {
+    Reader reader;
+    forEachLine(text, [&](const std::string& line, int number) { reader.read(line, number); });
+    return std::move(reader.scenarios);
+}
+
+Step readStep(const std::string& text, int line) {
+    Words words = wordsOf(text, line);
+    if (words.empty()) {
+        refuse(line, "blanks alone");
+    }
+    std::string verb = std::move(words.front());
+    words.erase(words.begin());
+    return {line, std::move(verb), std::move(words)};
+}
+
+std::string quoted(const std::string& text) {
+    std::string word = escaped(text);
+    for (std::size_t at = 0; (at = word.find('"', at)) != std::string::npos; at += 2) {
+        word.insert(at, "\\");
+    }
+    const bool isPlain = !word.empty() && word.find(' ') == std::string::npos;
+    return isPlain ? word : "\"" + word + "\"";
+}
+
+std::string withAnswers(const std::string& text, const Answers& answers) {
+    std::string renewed;
+    forEachLine(text, [&](const std::string& line, int number) {
+        if (line.empty() || line[0] != '>') {
+            renewed += line + "\n";
+        }
+        for (const Answer& answer : answers) {
+            if (answer.line == number) {
+                renewed += answer.text.empty() ? ">\n" : "> " + answer.text + "\n";
+            }
+        }
+    });
+    return renewed;
+}
+
+}  // namespace zarn_3_3::testing_support

@@ -1,0 +1,196 @@
+#include "support/stage.h"
+
+#include <algorithm>
+#include <climits>
+
+#include "log/zarn_log.h"
+#include "recognizers/argument_parser.h"
+#include "support/assertion_double.h"
+#include "support/file_calls_double.h"
+
+namespace zarn_3_3::testing_support {
+namespace {
+
+Deeds allDeeds() {
+    Deeds all;
+    for (const auto deeds : {declaringDeeds, handlerDeeds, parsingDeeds, readingDeeds, helpDeeds}) {
+        all.merge(deeds());
+    }
+    return all;
+}
+
+const Deed& deedOf(const Step& step) {
+    static const Deeds deeds = allDeeds();
+    const auto found = deeds.find(step.verb);
+    if (found == deeds.end()) {
+        throw BadStep("unknown step: " + step.verb);
+    }
+    return found->second;
+}
+
+}  // namespace
+
+const char* LentTexts::lend(const std::string& word) {
+    if (pointerTo(word) == nullptr) {
+        return nullptr;
+    }
+    auto& [block, size] = blocks.emplace_back(new char[word.size() + 1], word.size() + 1);
+    std::copy_n(word.c_str(), size, block.get());
+    return block.get();
+}
+
+void LentTexts::takeBack() {
+    for (auto& [block, size] : blocks) {
+        std::fill_n(block.get(), size, '?');
+    }
+    blocks.clear();
+    argv = {};
+}
+
+Stage::Stage(const Border& crossed)
+    : border(crossed), observer(border), base(IArgumentParser::m_idx - 1) {
+    internal::zarnLogEnabled = false;
+    fileCalls.files.clear();
+    takeAssertions();
+    for (std::size_t i = 0; i < handlers.size(); ++i) {
+        handlers[i].stage = this;
+        handlers[i].name = std::to_string(i);
+    }
+}
+
+Stage::~Stage() {
+    while (!results.empty()) {
+        destroyResult(results.begin()->first);
+    }
+    while (!parsers.empty()) {
+        destroyParser(parsers.begin()->first);
+    }
+}
+
+void Stage::perform(const Step& step) {
+    observer.line = step.line;
+    try {
+        act(step);
+    } catch (const BadStep& bad) {
+        throw BadStep(std::to_string(step.line) + ": " + bad.what());
+    } catch (const std::exception& thrown) {
+        tell(std::string("threw ") + (thrown.what() == nullptr ? "nothing" : thrown.what()));
+    } catch (const ForeignException&) {
+        tell("threw a foreign exception");
+    }
+    observer.finishLines();
+    const std::string assertions = takeAssertions();
+    if (!assertions.empty()) {
+        observer.say(Kind::assertion, "assertion: " + assertions);
+    }
+    checkKept();
+}
+
+void Stage::act(const Step& step) {
+    const Deed& deed = deedOf(step);
+    if (deed.needs == Needs::parser && parser == nullptr) {
+        tell("no parser");
+    } else if (deed.needs == Needs::result && result == nullptr) {
+        tell("no result");
+    } else {
+        deed.act(*this, step.words);
+    }
+}
+
+const char* Stage::keep(const void* owner, const char* text) {
+    kept.push_back({owner, text, text});
+    return text;
+}
+
+void Stage::checkKept() {
+    for (const KeptText& one : kept) {
+        if (one.pointer != one.text) {
+            tell("the text '" + one.text + "' became '" + one.pointer + "'");
+        }
+    }
+}
+
+void Stage::forget(const void* owner) {
+    const auto isOwned = [owner](const KeptText& one) { return one.owner == owner; };
+    kept.erase(std::remove_if(kept.begin(), kept.end(), isOwned), kept.end());
+}
+
+void Stage::destroyParser(const std::string& name) {
+    const auto node = parsers.extract(name);
+    if (node.empty()) {
+        return;
+    }
+    forget(node.mapped());
+    lastItems.erase(node.mapped());
+    parser = parser == node.mapped() ? nullptr : parser;
+    call([&node] { node.mapped()->destroy(); });
+}
+
+void Stage::destroyResult(const std::string& name) {
+    const auto node = results.extract(name);
+    if (node.empty()) {
+        return;
+    }
+    forget(node.mapped());
+    result = result == node.mapped() ? nullptr : result;
+    call([&node] { node.mapped()->destroy(); });
+}
+
+void Stage::beginNumbers(int first) {
+    IArgumentParser::m_idx = first;
+    base = first - 1;
+}
+
+int Stage::number(const std::string& place) const {
+    const long relative = place == "end" ? INT_MAX : numberOf(place);
+    return static_cast<int>(std::min<long>(INT_MAX, base + relative));
+}
+
+std::string Stage::place(int number) const {
+    return number == INT_MAX ? "end" : std::to_string(number - base);
+}
+
+std::string Stage::shown(const Value& value) const {
+    const std::string text = value.text == nullptr ? "" : value.text;
+    const std::string content = contentOf(value.value);
+    const std::string converted = "(" + kindOf(value.value) + ":" + content + ")";
+    return text + (content == text ? "" : converted) + "@" + place(value.position);
+}
+
+std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise) {
+    const std::string head = key + "=";
+    const auto isHeaded = [&head](const std::string& word) { return word.rfind(head, 0) == 0; };
+    const auto found = std::find_if(words.begin(), words.end(), isHeaded);
+    return found == words.end() ? otherwise : found->substr(head.size());
+}
+
+const std::string& wordOf(const Words& words, std::size_t index) {
+    if (index >= words.size()) {
+        throw BadStep("a word is missing");
+    }
+    return words[index];
+}
+
+std::string joined(const Words& words, std::size_t begin, std::size_t end, char separator) {
+    std::string text;
+    for (std::size_t i = begin; i < end; ++i) {
+        text += (i == begin ? "" : std::string(1, separator)) + words[i];
+    }
+    return text;
+}
+
+Answers play(const Scenario& scenario, const Border& border) {
+    const int before = IArgumentParser::m_idx;
+    Answers answers;
+    {
+        Stage stage(border);
+        for (const Step& step : scenario.steps) {
+            stage.perform(step);
+        }
+        answers = stage.observer.answers;
+    }
+    IArgumentParser::m_idx = before;
+    return answers;
+}
+
+}  // namespace zarn_3_3::testing_support

@@ -1,0 +1,139 @@
+// Where scenarios are played: does one step after the other on the public interface, and writes
+// down what is seen.
+
+#ifndef ZARN_TESTS_SUPPORT_STAGE_H
+#define ZARN_TESTS_SUPPORT_STAGE_H
+
+#include <array>
+#include <map>
+#include <memory>
+#include <optional>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "support/acting_handler.h"
+#include "support/grouping_locale.h"
+#include "support/observer.h"
+#include "support/scenario.h"
+#include "support/values.h"
+#include "zarn/zarn.h"
+
+namespace zarn_3_3::testing_support {
+
+// Texts for one parse, each in a block of its own size.
+class LentTexts {
+public:
+    const char* lend(const std::string& word);
+    void takeBack();  // what was lent is scribbled over and freed
+
+    std::vector<const char*> argv;
+
+private:
+    std::vector<std::pair<std::unique_ptr<char[]>, std::size_t>> blocks;
+};
+
+// What clients throw that is no standard exception.
+struct ForeignException {};
+
+// An item that can still be changed.
+struct LastItem {
+    IOption* item = nullptr;
+    das_variant_type_t type = vtNull;
+};
+
+// A world without parsers and files: each stage begins anew. Only the running sequence number goes
+// on. Every call of the library, but for those that make values, crosses the border.
+class Stage {
+public:
+    explicit Stage(const Border& crossed = {});
+    Stage(const Stage&) = delete;
+    Stage& operator=(const Stage&) = delete;
+    ~Stage();
+
+    // Throws BadStep when the step is none that can be done.
+    void perform(const Step& step);
+
+    const Border border;
+    Observer observer;
+
+    // For the deeds and handlers behind it:
+
+    // The one place through which the library is called.
+    template <typename Call>
+    auto call(Call operation) {
+        const Crossing inward(border, true);
+        return operation();
+    }
+
+    void tell(const std::string& text) { observer.say(Kind::outcome, text); }
+    void tellUnless(bool isDone) { isDone ? void() : tell("no"); }
+    void act(const Step& step);  // inside an event, where it may throw
+
+    // Texts that are handed out are to stay as they are until their owner is destroyed.
+    const char* keep(const void* owner, const char* text);
+    void destroyParser(const std::string& name);
+    void destroyResult(const std::string& name);
+
+    // Numbers count from the first that the scenario draws; "end" is the greatest of all.
+    void beginNumbers(int first);
+    int number(const std::string& place) const;
+    std::string place(int number) const;
+    std::string shown(const Value& value) const;  // "text@number", or "text(kind:value)@number"
+
+    std::map<std::string, IParser*> parsers;
+    std::map<std::string, IParseResult*> results;
+    IParser* parser = nullptr;  // in use
+    IParseResult* result = nullptr;
+    LentTexts* lent = nullptr;  // to the parse in progress
+    bool isRefused = false;     // the event in progress
+
+    std::array<ActingHandler, 10> handlers;
+    std::map<IParser*, LastItem> lastItems;
+    std::vector<std::string> names;  // that were declared
+    ValueMaker values;
+    std::optional<GroupingLocale> locale;
+
+private:
+    struct KeptText {
+        const void* owner;
+        const char* pointer;
+        std::string text;
+    };
+
+    void checkKept();
+    void forget(const void* owner);
+
+    std::vector<KeptText> kept;
+    int base;
+};
+
+// What a verb does. A step that needs what is not there says so instead.
+enum class Needs { nothing, parser, result };
+struct Deed {
+    Needs needs;
+    void (*act)(Stage& stage, const Words& words);
+};
+using Deeds = std::map<std::string, Deed>;
+
+Deeds declaringDeeds();
+Deeds handlerDeeds();
+Deeds parsingDeeds();
+Deeds readingDeeds();
+Deeds helpDeeds();
+
+// The text behind KEY= among the words, `otherwise` when there is none.
+std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise);
+
+// The word of this index, or a BadStep.
+const std::string& wordOf(const Words& words, std::size_t index);
+
+// The words from `begin` to `end`.
+std::string joined(const Words& words, std::size_t begin, std::size_t end, char separator);
+
+// On a stage of its own, from which the running number comes back as it was.
+Answers play(const Scenario& scenario, const Border& border = {});
+
+}  // namespace zarn_3_3::testing_support
+
+#endif  // ZARN_TESTS_SUPPORT_STAGE_H

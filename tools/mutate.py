@@ -131,6 +131,10 @@ class Workshop:
                 return f"build of {program}"
             if not self.run([f"tests/{program}"]):
                 return program
+        if not self.is_built("play"):
+            return "build of play"
+        if not self.run(["ctest", "-L", "scenarios"]):
+            return "scenarios"
         if not self.is_built():
             return "build"
         if not self.run(["ctest", "--stop-on-failure", "-LE", "docs|package"]):

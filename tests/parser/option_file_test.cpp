@@ -1,4 +1,4 @@
-// Arguments in files, and what keeps files that name each other from going on for ever.
+// Real files that name each other, and the limits of their number and size.
 
 #include <gtest/gtest.h>
 
@@ -19,15 +19,11 @@ protected:
     OptionFiles() {
         std::string made = testing::TempDir() + "zarn_files_XXXXXX";
         folder = std::string(mkdtemp(made.data())) + "/";
-        declare(tool);
+        tool.option("level", vtS32);
+        EXPECT_TRUE(tool->addOptionFileOption("", ""));
     }
     ~OptionFiles() override { std::filesystem::remove_all(folder); }
 
-    static void declare(Tool& declared) {
-        declared.option("level", vtS32);
-        declared.option("path").tokenize(0);
-        EXPECT_TRUE(declared->addOptionFileOption("", ""));
-    }
     void write(const std::string& name, const std::string& text) {
         std::ofstream(folder + name, std::ios::binary) << text;
     }
@@ -45,63 +41,8 @@ protected:
     Tool tool{flagUnknownIsError};
 };
 
-TEST_F(OptionFiles, HoldOneArgumentALine) {
-    const std::pair<const char*, const char*> files[] = {
-        {"# a\n  ;b\n \t\n\n",                          ""                   },
-        {"\v\f\r --path=a\t\r\r\n--path=b\r\n",         "a\t|b"              },
-        {"--path= x\n--path\ny\n--path z # no comment", " x|y|z # no comment"},
-        {"\xEF\xBB\xBF--path=mark\n--path=a\rb\n",      "mark|a\rb"          },
-    };
-    for (const auto& [text, paths] : files) {
-        tool.startNewResult();
-        write("f", text);
-        EXPECT_EQ(tool.parse({naming("f")}), resultOk) << tool.error();
-        EXPECT_EQ(tool.values("path"), paths);
-    }
-    EXPECT_EQ(tool.parseText("-1"), resultRuleBroken);
-    EXPECT_EQ(tool.error(), "Unknown option: ?") << "so it was always read";
-}
-
-TEST_F(OptionFiles, AreReadBehindTheLineAndInTheirOrder) {
-    write("a", naming("c") + "\n--level=1\n--\nplain a\n--level=0");
-    write("b", "--level=2");
-    write("c", "--level=3\n" + naming("b"));
-    EXPECT_EQ(tool.parse({naming("a") + "," + folder + "b", "--level=9", "--", "plain"}), resultOk);
-    EXPECT_EQ(tool.stored(), "level=9|1|2|3|2 -- plain plain a --level=0");
-}
-
-TEST_F(OptionFiles, ThatCannotBeReadEndTheParse) {
-    tool->action("run", "", vtNull, "");  // whose rule is not looked at
-    write("nul", std::string("--level=1\0", 10));
-    std::filesystem::create_directory(folder + "directory");
-    for (const char* const name : {"nul", "directory", "missing"}) {
-        expectRefusal(name, name, "");
-    }
-}
-
-TEST_F(OptionFiles, AreReadOnlyWhenTheToolSaysSo) {
-    Tool other;
-    other.option("option-file");
-    EXPECT_EQ(other.parse({naming("missing")}), resultOk);
-}
-
-TEST_F(OptionFiles, MayBeNamedByADefaultOfTheTool) {
-    Tool other(flagUnknownIsError);
-    other.option("option-file").defaultValue(folder + "default");
-    declare(other);
-    EXPECT_EQ(other.parse({"--level=0"}), resultOptionFileUnreadable);
-    write("default", "--level=1\n" + naming("next"));
-    write("next", "--level=2");
-    other.startNewResult();
-    EXPECT_EQ(other.parse({"--level=0"}), resultOk) << other.error();
-    EXPECT_EQ(other.values("level"), "0|1|2");
-}
-
-TEST_F(OptionFiles, MayNotNameThemselvesAgain) {
+TEST_F(OptionFiles, MayNotNameThemselvesByAnotherName) {
     const std::string cycle = ": the files name each other in a cycle";
-    write("one", naming("two"));
-    write("two", "--level=1\n" + naming("one"));
-    expectRefusal("one", "one", cycle);
     write("linked", naming("link"));
     std::filesystem::create_symlink("linked", folder + "link");
     expectRefusal("linked", "link", cycle);

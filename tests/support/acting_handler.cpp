@@ -1,7 +1,6 @@
 #include "support/acting_handler.h"
 
-#include <utility>
-
+#include "support/restored.h"
 #include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
@@ -12,41 +11,6 @@ bool isLike(const std::string& pattern, const std::string& event) {
     return isOpen ? event.compare(0, pattern.size() - 1, pattern, 0, pattern.size() - 1) == 0
                   : event == pattern;
 }
-
-// While it lives an event may be refused, and another parser or result be in use.
-class Aside {
-public:
-    explicit Aside(Stage& changed)
-        : stage(changed),
-          parser(stage.parser),
-          result(stage.result),
-          isRefused(std::exchange(stage.isRefused, false)) {}
-    Aside(const Aside&) = delete;
-    Aside& operator=(const Aside&) = delete;
-    ~Aside() {
-        stage.parser = parser;
-        stage.result = result;
-        stage.isRefused = isRefused;
-    }
-
-private:
-    Stage& stage;
-    IParser* parser;
-    IParseResult* result;
-    bool isRefused;
-};
-
-// Sets a mark while it lives.
-class Marked {
-public:
-    explicit Marked(bool& marked) : mark(marked) { mark = true; }
-    Marked(const Marked&) = delete;
-    Marked& operator=(const Marked&) = delete;
-    ~Marked() { mark = false; }
-
-private:
-    bool& mark;
-};
 
 }  // namespace
 
@@ -77,7 +41,9 @@ bool ActingHandler::hear(const std::string& event, const std::string& shown) {
         stage->lent->takeBack();
     }
     stage->observer.say(Kind::event, name + " " + shown);
-    const Aside aside(*stage);
+    const Restored refusal(stage->isRefused, false);
+    const Restored parser(stage->parser, stage->parser);
+    const Restored result(stage->result, stage->result);
     for (Plan& plan : plans) {
         act(plan, event);
     }
@@ -90,7 +56,7 @@ void ActingHandler::act(Plan& plan, const std::string& event) {
     }
     ++plan.heard;
     if (plan.nth == 0 || plan.nth == plan.heard) {
-        const Marked mark(plan.isInProgress);
+        const Restored mark(plan.isInProgress, true);
         stage->act(plan.step);
     }
 }

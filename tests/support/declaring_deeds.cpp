@@ -2,7 +2,7 @@
 
 #include <algorithm>
 #include <set>
-#include <utility>
+#include <sstream>
 
 #include "support/stage.h"
 
@@ -33,35 +33,45 @@ int flagOf(const std::string& word) {
     return found != flags.end() ? found->second : static_cast<int>(numberOf(word));
 }
 
-void makeResult(Stage& stage, const Words& words) {
-    const std::string& name = wordOf(words, 0);
-    stage.destroyResult(name);
-    IParseResult* made = nullptr;
-    const int code = stage.call([&] { return stage.parser->createResult(&made); });
-    if (code != resultOk) {
-        stage.tell(std::to_string(code));
+template <typename Object, typename Make>
+void make(Stage& stage,
+          std::map<std::string, Object*>& all,
+          const std::string& name,
+          Object*& used,
+          Make operation) {
+    stage.destroy(all, name, used);
+    Object* made = nullptr;
+    const int code =
+        stage.call([&] { return operation(pointerTo(name) == nullptr ? nullptr : &made); });
+    if (code == resultOk) {
+        all[name] = made;
     } else {
-        stage.results[name] = made;
+        stage.tell(std::to_string(code));
     }
-    stage.result = made;
+    used = made;
 }
 
-void makeParser(Stage& stage, const Words& words) {
-    const std::string name = settingOf(words, "name", "main");
+void makeResultNamed(Stage& stage, const std::string& name) {
+    IParser& parser = *stage.parser;
+    make(stage, stage.results, name, stage.result, [&parser](IParseResult** out) {
+        return parser.createResult(out);
+    });
+}
+
+void makeResult(Stage& stage, const Step& step) { makeResultNamed(stage, wordOf(step.words, 0)); }
+
+void makeParser(Stage& stage, const Step& step) {
+    const std::string name = settingOf(step.words, "name", "main");
     int flags = 0;
-    for (const std::string& word : words) {
+    for (const std::string& word : step.words) {
         flags |= word.find('=') == std::string::npos ? flagOf(word) : 0;
     }
-    stage.destroyParser(name);
-    IParser* made = nullptr;
-    const int code = stage.call([&] { return createParser(&made, flags); });
-    stage.parser = made;
-    if (code != resultOk) {
-        stage.tell(std::to_string(code));
-        return;
+    make(stage, stage.parsers, name, stage.parser, [flags](IParser** out) {
+        return createParser(out, flags);
+    });
+    if (stage.parser != nullptr) {
+        makeResultNamed(stage, name);
     }
-    stage.parsers[name] = made;
-    makeResult(stage, {name});
 }
 
 template <typename Object>
@@ -72,17 +82,17 @@ void useNamed(const std::map<std::string, Object*>& all, const std::string& name
     }
 }
 
-void use(Stage& stage, const Words& words) {
+void use(Stage& stage, const Step& step) {
     static ForeignResult foreign;
-    const std::string result = settingOf(words, "result", "");
-    useNamed(stage.parsers, settingOf(words, "parser", ""), stage.parser);
+    const std::string result = settingOf(step.words, "result", "");
+    useNamed(stage.parsers, settingOf(step.words, "parser", ""), stage.parser);
     useNamed(stage.results, result, stage.result);
     stage.result = result == "foreign" ? &foreign : stage.result;
 }
 
-void destroy(Stage& stage, const Words& words) {
-    stage.destroyParser(settingOf(words, "parser", ""));
-    stage.destroyResult(settingOf(words, "result", ""));
+void destroy(Stage& stage, const Step& step) {
+    stage.destroy(stage.parsers, settingOf(step.words, "parser", ""), stage.parser);
+    stage.destroy(stage.results, settingOf(step.words, "result", ""), stage.result);
 }
 
 void rememberName(Stage& stage, const std::string& name) {
@@ -91,125 +101,91 @@ void rememberName(Stage& stage, const std::string& name) {
     }
 }
 
-void rememberNames(Stage& stage, const std::string& list) {
-    std::string name;
-    for (const char c : list + ",") {
-        if (c == ',') {
-            rememberName(stage, std::exchange(name, {}));
-        } else {
-            name += c;
-        }
-    }
-}
-
-void applyValue(Stage& stage,
-                const LastItem& last,
-                const std::string& text,
-                IOption& (IOption::*setting)(const variant_t& value)) {
-    const variant_t value = stage.values.make(text, last.type);
-    stage.call([&] { (last.item->*setting)(value); });
-}
-
-void applyDeprecated(Stage& stage, const LastItem& last, const std::string& text) {
+void applyDeprecated(Stage& stage, const std::string& text) {
     const std::size_t arrow = text.find("->");
     if (arrow == std::string::npos) {
         throw BadStep("no -> in " + text);
     }
-    const variant_t old = stage.values.make(text.substr(0, arrow), last.type);
-    const variant_t replacement = stage.values.make(text.substr(arrow + 2), last.type);
-    stage.call([&] { last.item->allowDeprecatedValue(old, replacement); });
+    const variant_t old = stage.values.make(text.substr(0, arrow), stage.last.type);
+    const variant_t replacement = stage.values.make(text.substr(arrow + 2), stage.last.type);
+    stage.call([&] { stage.last.item->allowDeprecatedValue(old, replacement); });
 }
 
-void apply(Stage& stage, const LastItem& last, const std::string& key, const std::string& text) {
-    IOption& item = *last.item;
+void apply(Stage& stage, const std::string& key, const std::string& text) {
+    IOption& item = *stage.last.item;
+    const bool isValue = key == "allow" || key == "default";
+    const variant_t value = isValue ? stage.values.make(text, stage.last.type) : variant_t();
     if (key == "synonym") {
         rememberName(stage, text);
         stage.call([&] { item.synonym(pointerTo(text)); });
     } else if (key == "allow") {
-        applyValue(stage, last, text, &IOption::allowValue);
+        stage.call([&] { item.allowValue(value); });
     } else if (key == "deprecated") {
-        applyDeprecated(stage, last, text);
+        applyDeprecated(stage, text);
     } else if (key == "default") {
-        applyValue(stage, last, text, &IOption::defaultValue);
+        stage.call([&] { item.defaultValue(value); });
     } else if (key == "tokenize") {
         stage.call([&] { item.tokenize(text.c_str()[0]); });
     } else if (key == "positional") {
         stage.call([&] { item.positional(); });
     } else if (key == "tag") {
         stage.call([&] { item.tag(pointerTo(text)); });
-    } else {
+    } else if (key != "help" && key != "section" && key != "of") {
         throw BadStep("unknown setting: " + key);
     }
 }
 
-void applyAll(Stage& stage, const Words& words, std::size_t begin) {
-    const LastItem last = stage.lastItems[stage.parser];
-    for (std::size_t i = begin; i < words.size() && last.item != nullptr; ++i) {
+void applyFrom(Stage& stage, std::size_t begin, const Words& words) {
+    for (std::size_t i = begin; i < words.size() && stage.last.item != nullptr; ++i) {
         const std::size_t sign = std::min(words[i].find('='), words[i].size());
-        const std::string key = words[i].substr(0, sign);
-        if (key != "help" && key != "section" && key != "of") {
-            apply(stage, last, key, words[i].substr(std::min(sign + 1, words[i].size())));
-        }
+        apply(
+            stage, words[i].substr(0, sign), words[i].substr(std::min(sign + 1, words[i].size())));
     }
 }
 
-void set(Stage& stage, const Words& words) { applyAll(stage, words, 0); }
+void set(Stage& stage, const Step& step) { applyFrom(stage, 0, step.words); }
 
-// What all declarations have in common.
-struct Declaration {
-    const char* names;
-    const char* help;
-    das_variant_type_t type;
-    const char* section;
-    const char* actions;
-};
-
-template <IOption& (*declareItem)(IParser& parser, const Declaration& declaration)>
-void declare(Stage& stage, const Words& words) {
-    const std::string help = settingOf(words, "help", "");
-    const std::string section = settingOf(words, "section", "");
-    const std::string actions = settingOf(words, "of", "");
-    const Declaration declaration{pointerTo(wordOf(words, 0)),
-                                  pointerTo(help),
-                                  kindNamed(wordOf(words, 1)),
-                                  pointerTo(section),
-                                  pointerTo(actions)};
-    rememberNames(stage, words[0]);
-    IOption* const item = stage.call([&] { return &declareItem(*stage.parser, declaration); });
-    stage.lastItems[stage.parser] = {item, declaration.type};
-    applyAll(stage, words, 2);
+void declare(Stage& stage, const Step& step) {
+    const std::string helpText = settingOf(step.words, "help", "");
+    const std::string sectionText = settingOf(step.words, "section", "");
+    const std::string actions = settingOf(step.words, "of", "");
+    const char* const names = pointerTo(wordOf(step.words, 0));
+    const char* const help = pointerTo(helpText);
+    const char* const section = pointerTo(sectionText);
+    const das_variant_type_t type = kindNamed(wordOf(step.words, 1));
+    IOption& item = stage.call([&]() -> IOption& {
+        IParser& parser = *stage.parser;
+        return step.verb == "option" ? parser.option(names, help, type, section)
+               : step.verb == "action"
+                   ? parser.action(names, help, type, section)
+                   : parser.modifier(names, pointerTo(actions), help, type, section);
+    });
+    std::istringstream list(step.words[0]);
+    for (std::string name; std::getline(list, name, ',');) {
+        rememberName(stage, name);
+    }
+    stage.last = {&item, type};
+    applyFrom(stage, 2, step.words);
 }
 
-IOption& declareOption(IParser& parser, const Declaration& d) {
-    return parser.option(d.names, d.help, d.type, d.section);
-}
-
-IOption& declareAction(IParser& parser, const Declaration& d) {
-    return parser.action(d.names, d.help, d.type, d.section);
-}
-
-IOption& declareModifier(IParser& parser, const Declaration& d) {
-    return parser.modifier(d.names, d.actions, d.help, d.type, d.section);
-}
-
-void declareOptionFile(Stage& stage, const Words& words) {
-    const std::string help = settingOf(words, "help", "");
-    const std::string section = settingOf(words, "section", "");
+void declareOptionFile(Stage& stage, const Step& step) {
+    const std::string help = settingOf(step.words, "help", "");
+    const std::string section = settingOf(step.words, "section", "");
     rememberName(stage, "option-file");
-    stage.lastItems.erase(stage.parser);
+    stage.last = {};
     stage.tellUnless(stage.call(
         [&] { return stage.parser->addOptionFileOption(pointerTo(help), pointerTo(section)); }));
 }
 
-void allowGroup(Stage& stage, const Words& words) {
-    const std::set<std::string> group(words.begin(), words.end());
+void allowGroup(Stage& stage, const Step& step) {
+    const std::set<std::string> group(step.words.begin(), step.words.end());
     stage.tellUnless(stage.call([&] { return stage.parser->allowSimultaneousActions(group); }));
 }
 
-void askDeclared(Stage& stage, const Words& words) {
-    const bool isAction = words.size() > 1 && words[1] == "action";
-    const std::string section = settingOf(words, "section", "null");
-    const char* const name = pointerTo(wordOf(words, 0));
+void askDeclared(Stage& stage, const Step& step) {
+    const bool isAction = step.words.size() > 1 && step.words[1] == "action";
+    const std::string section = settingOf(step.words, "section", "null");
+    const char* const name = pointerTo(wordOf(step.words, 0));
     const bool isDeclared = stage.call(
         [&] { return stage.parser->isOptionDeclared(name, isAction, pointerTo(section)); });
     stage.tell(isDeclared ? "yes" : "no");
@@ -219,17 +195,17 @@ void askDeclared(Stage& stage, const Words& words) {
 
 Deeds declaringDeeds() {
     return {
-        {"parser",     {Needs::nothing, makeParser}             },
-        {"result",     {Needs::parser, makeResult}              },
-        {"use",        {Needs::nothing, use}                    },
-        {"destroy",    {Needs::nothing, destroy}                },
-        {"option",     {Needs::parser, declare<declareOption>}  },
-        {"action",     {Needs::parser, declare<declareAction>}  },
-        {"modifier",   {Needs::parser, declare<declareModifier>}},
-        {"set",        {Needs::parser, set}                     },
-        {"optionfile", {Needs::parser, declareOptionFile}       },
-        {"group",      {Needs::parser, allowGroup}              },
-        {"declared",   {Needs::parser, askDeclared}             },
+        {"parser",     {Needs::nothing, makeParser}      },
+        {"result",     {Needs::parser, makeResult}       },
+        {"use",        {Needs::nothing, use}             },
+        {"destroy",    {Needs::nothing, destroy}         },
+        {"option",     {Needs::parser, declare}          },
+        {"action",     {Needs::parser, declare}          },
+        {"modifier",   {Needs::parser, declare}          },
+        {"set",        {Needs::parser, set}              },
+        {"optionfile", {Needs::parser, declareOptionFile}},
+        {"group",      {Needs::parser, allowGroup}       },
+        {"declared",   {Needs::parser, askDeclared}      },
     };
 }
 

@@ -1,7 +1,6 @@
 #include "support/file_calls_double.h"
 
 #include <algorithm>
-#include <array>
 #include <cerrno>
 #include <cstdint>
 
@@ -13,12 +12,10 @@ thread_local FileCalls fileCalls;
 
 namespace {
 
-struct OpenFile {
-    const MemoryFile* file = nullptr;
-    std::size_t read = 0;
-};
-
-thread_local std::array<OpenFile, 8> openFiles;
+// The library has one file open at a time.
+constexpr int onlyDescriptor = 7;
+thread_local const MemoryFile* openFile = nullptr;
+thread_local std::size_t bytesRead = 0;
 
 int fail(int error) {
     errno = error;
@@ -39,10 +36,7 @@ const MemoryFile* fileNamed(const char* path) {
     return found == fileCalls.files.end() ? nullptr : found->second.get();
 }
 
-OpenFile* openFileOf(int descriptor) {
-    const auto slot = static_cast<std::size_t>(descriptor);
-    return slot < openFiles.size() && openFiles[slot].file != nullptr ? &openFiles[slot] : nullptr;
-}
+bool isOpen(int descriptor) { return descriptor == onlyDescriptor && openFile != nullptr; }
 
 mode_t modeOf(FileKind kind) {
     switch (kind) {
@@ -77,60 +71,47 @@ namespace TROV_2_18::system::calls {
 using namespace zarn_3_3::testing_support;
 
 int statusOfPath(const char* path, struct stat* status) noexcept {
-    if (isToFail()) {
-        return fail(fileCalls.error);
-    }
     const MemoryFile* const file = fileNamed(path);
-    return file == nullptr ? fail(ENOENT) : tellStatus(*file, status);
+    if (isToFail() || file == nullptr) {
+        return fail(file != nullptr ? fileCalls.error : ENOENT);
+    }
+    return tellStatus(*file, status);
 }
 
 int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
-    if (isToFail()) {
-        return fail(fileCalls.error);
+    if (isToFail() || !isOpen(descriptor)) {
+        return fail(isOpen(descriptor) ? fileCalls.error : EBADF);
     }
-    const OpenFile* const open = openFileOf(descriptor);
-    return open == nullptr ? fail(EBADF) : tellStatus(*open->file, status);
+    return tellStatus(*openFile, status);
 }
 
 int openForReading(const char* path) noexcept {
-    if (isToFail()) {
-        return fail(fileCalls.error);
-    }
     const MemoryFile* const file = fileNamed(path);
-    const auto free = std::find_if(openFiles.begin(), openFiles.end(), [](const OpenFile& open) {
-        return open.file == nullptr;
-    });
-    if (file == nullptr || free == openFiles.end()) {
-        return fail(file == nullptr ? ENOENT : EMFILE);
+    if (isToFail() || file == nullptr) {
+        return fail(file != nullptr ? fileCalls.error : ENOENT);
     }
     if (file->kind == FileKind::unreadable) {
         return fail(EACCES);
     }
-    *free = {file, 0};
+    openFile = file;
+    bytesRead = 0;
     ++fileCalls.openFiles;
-    return static_cast<int>(free - openFiles.begin());
+    return onlyDescriptor;
 }
 
 ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
-    if (isToFail()) {
-        return fail(fileCalls.error);
+    if (isToFail() || !isOpen(descriptor)) {
+        return fail(isOpen(descriptor) ? fileCalls.error : EBADF);
     }
-    OpenFile* const open = openFileOf(descriptor);
-    if (open == nullptr || open->file->kind == FileKind::directory) {
-        return fail(open == nullptr ? EBADF : EISDIR);
-    }
-    const std::size_t got =
-        open->file->content.copy(buffer, std::min(size, fileCalls.longestRead), open->read);
-    open->read += got;
+    const std::size_t wanted = std::min(size, fileCalls.longestRead);
+    const std::size_t got = openFile->content.copy(buffer, wanted, bytesRead);
+    bytesRead += got;
     return static_cast<ssize_t>(got);
 }
 
 void closeDescriptor(int descriptor) noexcept {
-    --fileCalls.openFiles;
-    OpenFile* const open = openFileOf(descriptor);
-    if (open != nullptr) {
-        *open = {};
-    }
+    fileCalls.openFiles -= isOpen(descriptor) ? 1 : 1000;
+    openFile = nullptr;
 }
 
 }  // namespace TROV_2_18::system::calls

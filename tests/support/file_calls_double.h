@@ -31,7 +31,7 @@ struct FileCalls {
     int error = 0;           // its errno; EINTR interrupts the calls that a signal can interrupt
     bool hasStruck = false;
     std::size_t longestRead = std::numeric_limits<std::size_t>::max();
-    int openFiles = 0;  // below 0 when a file was closed that was not open
+    int openFiles = 0;  // far below 0 when one was closed that was not open
 };
 
 extern thread_local FileCalls fileCalls;

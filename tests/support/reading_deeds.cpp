@@ -43,27 +43,27 @@ void tellValue(Stage& stage, Query query) {
     stage.tell(shownAlone(stage, stage.call(query)));
 }
 
-void get(Stage& stage, const Words& words) {
-    const Range range = rangeOf(stage, words);
+void get(Stage& stage, const Step& step) {
+    const Range range = rangeOf(stage, step.words);
     tellValue(stage, [&] { return stage.result->get(range.name, range.from, range.to); });
 }
 
-void getLast(Stage& stage, const Words& words) {
-    const Range range = rangeOf(stage, words);
+void getLast(Stage& stage, const Step& step) {
+    const Range range = rangeOf(stage, step.words);
     tellValue(stage, [&] { return getLastValue(stage.result, range.name, range.from, range.to); });
 }
 
-void next(Stage& stage, const Words& words) {
-    const char* const name = words.empty() ? nullptr : pointerTo(words[0]);
+void next(Stage& stage, const Step& step) {
+    const char* const name = step.words.empty() ? nullptr : pointerTo(step.words[0]);
     tellValue(stage, [&] { return stage.result->next(name); });
 }
 
-void nextPosition(Stage& stage, const Words&) {
+void nextPosition(Stage& stage, const Step&) {
     stage.tell(stage.place(stage.call([&] { return stage.result->nextPosition(); })));
 }
 
-void askPresent(Stage& stage, const Words& words) {
-    const Range range = rangeOf(stage, words);
+void askPresent(Stage& stage, const Step& step) {
+    const Range range = rangeOf(stage, step.words);
     const bool isPresent =
         stage.call([&] { return stage.result->present(range.name, range.from, range.to); });
     stage.tell(isPresent ? "yes" : "no");
@@ -86,8 +86,8 @@ std::string walked(Stage& stage, const Range& range, const char* separator, bool
            (value.status == statusNotFound ? "" : " status " + std::to_string(value.status));
 }
 
-void walk(Stage& stage, const Words& words) {
-    const std::string values = walked(stage, rangeOf(stage, words), " ", true);
+void walk(Stage& stage, const Step& step) {
+    const std::string values = walked(stage, rangeOf(stage, step.words), " ", true);
     stage.tell(values.empty() ? "none" : values);
 }
 
@@ -96,10 +96,10 @@ std::string keptArgument(Stage& stage, const char* text) {
     return argument.empty() ? "''" : argument;
 }
 
-void getArgument(Stage& stage, const Words& words) {
+void getArgument(Stage& stage, const Step& step) {
     const char* text = nullptr;
-    const char** const out = words.size() > 1 ? nullptr : &text;
-    const bool isFirst = wordOf(words, 0) == "first";
+    const char** const out = step.words.size() > 1 ? nullptr : &text;
+    const bool isFirst = wordOf(step.words, 0) == "first";
     const int status = stage.call([&] {
         return isFirst ? stage.result->getFirstArgument(out) : stage.result->getNextArgument(out);
     });
@@ -133,10 +133,10 @@ std::string storedArguments(Stage& stage) {
 }
 
 // Names in a row under which the same stands share it.
-void show(Stage& stage, const Words& words) {
+void show(Stage& stage, const Step& step) {
     Words names;
     Words contents;
-    for (const std::string& name : words.empty() ? stage.names : words) {
+    for (const std::string& name : step.words.empty() ? stage.names : step.words) {
         const std::string content = stored(stage, name);
         if (!content.empty() && !contents.empty() && contents.back() == content) {
             names.back() += "," + name;
@@ -154,44 +154,27 @@ void show(Stage& stage, const Words& words) {
     stage.tell(all.empty() ? "nothing" : all);
 }
 
-template <typename Ask>
-void tellHelp(Stage& stage, const Words& words, Ask ask) {
-    const bool isHidden = !words.empty() && words.back() == "hidden";
-    const char* const topic = words.empty() ? nullptr : pointerTo(words[0]);
+const char* askHelp(IParser& parser, const std::string& verb, const char* topic, bool isHidden) {
+    return verb == "help"        ? parser.getDescription(isHidden)
+           : verb == "topic"     ? parser.getDescription(topic, isHidden)
+           : verb == "modifiers" ? parser.getActionModifiersDescription(topic, isHidden)
+                                 : parser.getGlobalModifiersDescription(isHidden);
+}
+
+void help(Stage& stage, const Step& step) {
+    const bool isHidden = !step.words.empty() && step.words.back() == "hidden";
+    const char* const topic = step.words.empty() ? nullptr : pointerTo(step.words[0]);
     IParser& parser = *stage.parser;
-    stage.observer.sayLines(
-        stage.keep(&parser, stage.call([&] { return ask(parser, topic, isHidden); })));
+    const char* const text =
+        stage.call([&] { return askHelp(parser, step.verb, topic, isHidden); });
+    stage.observer.sayLines(stage.keep(&parser, text));
 }
 
-void showHelp(Stage& stage, const Words& words) {
-    tellHelp(stage, words, [](IParser& parser, const char*, bool isHidden) {
-        return parser.getDescription(isHidden);
-    });
-}
-
-void showTopic(Stage& stage, const Words& words) {
-    tellHelp(stage, words, [](IParser& parser, const char* topic, bool isHidden) {
-        return parser.getDescription(topic, isHidden);
-    });
-}
-
-void showModifiers(Stage& stage, const Words& words) {
-    tellHelp(stage, words, [](IParser& parser, const char* action, bool isHidden) {
-        return parser.getActionModifiersDescription(action, isHidden);
-    });
-}
-
-void showGlobals(Stage& stage, const Words& words) {
-    tellHelp(stage, words, [](IParser& parser, const char*, bool isHidden) {
-        return parser.getGlobalModifiersDescription(isHidden);
-    });
-}
-
-void wrap(Stage& stage, const Words& words) {
-    const char* const head = pointerTo(wordOf(words, 0));
-    const char* const text = pointerTo(wordOf(words, 1));
-    const auto indent = static_cast<std::size_t>(numberOf(wordOf(words, 2)));
-    const auto width = static_cast<std::size_t>(numberOf(wordOf(words, 3)));
+void wrap(Stage& stage, const Step& step) {
+    const char* const head = pointerTo(wordOf(step.words, 0));
+    const char* const text = pointerTo(wordOf(step.words, 1));
+    const auto indent = static_cast<std::size_t>(numberOf(wordOf(step.words, 2)));
+    const auto width = static_cast<std::size_t>(numberOf(wordOf(step.words, 3)));
     const WordWrappedText wrapped =
         stage.call([&] { return WordWrappedText(head, text, indent, width); });
     stage.observer.sayLines(wrapped.getText());
@@ -214,11 +197,11 @@ Deeds readingDeeds() {
 
 Deeds helpDeeds() {
     return {
-        {"help",      {Needs::parser, showHelp}     },
-        {"topic",     {Needs::parser, showTopic}    },
-        {"modifiers", {Needs::parser, showModifiers}},
-        {"globals",   {Needs::parser, showGlobals}  },
-        {"wrap",      {Needs::nothing, wrap}        },
+        {"help",      {Needs::parser, help} },
+        {"topic",     {Needs::parser, help} },
+        {"modifiers", {Needs::parser, help} },
+        {"globals",   {Needs::parser, help} },
+        {"wrap",      {Needs::nothing, wrap}},
     };
 }
 

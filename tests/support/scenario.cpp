@@ -14,23 +14,17 @@ namespace {
 }
 
 char escapedAt(std::istream& text, int line) {
-    const std::map<char, char> bytes{
-        {'n',  '\n'},
-        {'r',  '\r'},
-        {'t',  '\t'},
-        {'\\', '\\'},
-        {'"',  '"' }
-    };
-    const auto named = bytes.find(static_cast<char>(text.get()));
-    if (named != bytes.end()) {
-        return named->second;
+    const std::string names = "nrt\"\\";
+    const char name = static_cast<char>(text.get());
+    const std::size_t found = names.find(name);
+    if (found != std::string::npos) {
+        return "\n\r\t\"\\"[found];
     }
-    text.unget();
-    char code[4] = {};
-    char* end = code;
-    text.get(code, sizeof code);
-    const long byte = std::strtol(code + 1, &end, 16);
-    if (code[0] != 'x' || end != code + 3) {
+    std::string digits(2, '\0');
+    text.read(digits.data(), 2);
+    char* end = nullptr;
+    const long byte = std::strtol(digits.c_str(), &end, 16);
+    if (name != 'x' || end != digits.c_str() + 2) {
         refuse(line, "unknown escape");
     }
     return static_cast<char>(byte);
@@ -91,27 +85,15 @@ private:
         if (steps == nullptr) {
             refuse(step.line, "a step outside of scenarios");
         }
-        const auto isLike = [](const std::string& word) { return word.rfind("like=", 0) == 0; };
-        const auto like = std::find_if(step.words.begin(), step.words.end(), isLike);
-        std::vector<Step> declarations;
-        if (step.verb == "parser" && like != step.words.end()) {
-            declarations = vocabulary(like->substr(5), step.line);
-            step.words.erase(like);
+        const std::string like = step.verb == "parser" ? settingOf(step.words, "like", "") : "";
+        steps->push_back(step);
+        if (!like.empty() && vocabularies.count(like) == 0) {
+            refuse(step.line, "unknown vocabulary");
         }
-        steps->push_back(std::move(step));
-        steps->insert(steps->end(), declarations.begin(), declarations.end());
-    }
-
-    std::vector<Step> vocabulary(const std::string& name, int line) {
-        const auto found = vocabularies.find(name);
-        if (found == vocabularies.end()) {
-            refuse(line, "unknown vocabulary");
+        for (Step declaration : like.empty() ? std::vector<Step>() : vocabularies[like]) {
+            declaration.line = step.line;
+            steps->push_back(std::move(declaration));
         }
-        std::vector<Step> declarations = found->second;
-        for (Step& declaration : declarations) {
-            declaration.line = line;
-        }
-        return declarations;
     }
 
     std::map<std::string, std::vector<Step>> vocabularies;
@@ -129,6 +111,15 @@ void forEachLine(const std::string& text, Take take) {
 
 }  // namespace
 
+std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise) {
+    for (const std::string& word : words) {
+        if (word.rfind(key + "=", 0) == 0) {
+            return word.substr(key.size() + 1);
+        }
+    }
+    return otherwise;
+}
+
 std::vector<Scenario> readScenarios(const std::string& text) {
     Reader reader;
     forEachLine(text, [&](const std::string& line, int number) { reader.read(line, number); });
@@ -143,15 +134,6 @@ Step readStep(const std::string& text, int line) {
     std::string verb = std::move(words.front());
     words.erase(words.begin());
     return {line, std::move(verb), std::move(words)};
-}
-
-std::string quoted(const std::string& text) {
-    std::string word = escaped(text);
-    for (std::size_t at = 0; (at = word.find('"', at)) != std::string::npos; at += 2) {
-        word.insert(at, "\\");
-    }
-    const bool isPlain = !word.empty() && word.find(' ') == std::string::npos;
-    return isPlain ? word : "\"" + word + "\"";
 }
 
 std::string withAnswers(const std::string& text, const Answers& answers) {

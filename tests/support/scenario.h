@@ -27,7 +27,7 @@
 // inside an event is used until its end.
 //     parser [FLAG]... [name=N]     makes a parser (strict, behind, noDash, rest, whole, or a
 //                                   number) and a result of the same name, "main" if none is given
-//     result NAME                   made by the parser in use
+//     result NAME                   made by the parser in use. Named null, neither has a place
 //     use [parser=N] [result=N]     result=null and result=foreign are none of the library's
 //     destroy [parser=N] [result=N]
 //
@@ -87,6 +87,9 @@ namespace zarn_3_3::testing_support {
 
 using Words = std::vector<std::string>;
 
+// The text behind KEY= among the words, `otherwise` when there is none.
+std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise);
+
 struct Step {
     int line;  // in its file; a repeated declaration has the line of its parser
     std::string verb;
@@ -105,9 +108,6 @@ std::vector<Scenario> readScenarios(const std::string& text);
 
 // The step that a line is. `line` is kept in it and named when the text is none.
 Step readStep(const std::string& text, int line);
-
-// One word of a line that reads as `text`.
-std::string quoted(const std::string& text);
 
 // The same text with these answers in the place of its own.
 std::string withAnswers(const std::string& text, const Answers& answers);

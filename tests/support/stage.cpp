@@ -60,10 +60,10 @@ Stage::Stage(const Border& crossed)
 
 Stage::~Stage() {
     while (!results.empty()) {
-        destroyResult(results.begin()->first);
+        destroy(results, results.begin()->first, result);
     }
     while (!parsers.empty()) {
-        destroyParser(parsers.begin()->first);
+        destroy(parsers, parsers.begin()->first, parser);
     }
 }
 
@@ -79,8 +79,9 @@ void Stage::perform(const Step& step) {
         tell("threw a foreign exception");
     }
     observer.finishLines();
-    const std::string assertions = takeAssertions();
+    std::string assertions = takeAssertions();
     if (!assertions.empty()) {
+        assertions.pop_back();
         observer.say(Kind::assertion, "assertion: " + assertions);
     }
     checkKept();
@@ -93,7 +94,7 @@ void Stage::act(const Step& step) {
     } else if (deed.needs == Needs::result && result == nullptr) {
         tell("no result");
     } else {
-        deed.act(*this, step.words);
+        deed.act(*this, step);
     }
 }
 
@@ -113,27 +114,7 @@ void Stage::checkKept() {
 void Stage::forget(const void* owner) {
     const auto isOwned = [owner](const KeptText& one) { return one.owner == owner; };
     kept.erase(std::remove_if(kept.begin(), kept.end(), isOwned), kept.end());
-}
-
-void Stage::destroyParser(const std::string& name) {
-    const auto node = parsers.extract(name);
-    if (node.empty()) {
-        return;
-    }
-    forget(node.mapped());
-    lastItems.erase(node.mapped());
-    parser = parser == node.mapped() ? nullptr : parser;
-    call([&node] { node.mapped()->destroy(); });
-}
-
-void Stage::destroyResult(const std::string& name) {
-    const auto node = results.extract(name);
-    if (node.empty()) {
-        return;
-    }
-    forget(node.mapped());
-    result = result == node.mapped() ? nullptr : result;
-    call([&node] { node.mapped()->destroy(); });
+    last = {};
 }
 
 void Stage::beginNumbers(int first) {
@@ -153,15 +134,9 @@ std::string Stage::place(int number) const {
 std::string Stage::shown(const Value& value) const {
     const std::string text = value.text == nullptr ? "" : value.text;
     const std::string content = contentOf(value.value);
-    const std::string converted = "(" + kindOf(value.value) + ":" + content + ")";
-    return text + (content == text ? "" : converted) + "@" + place(value.position);
-}
-
-std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise) {
-    const std::string head = key + "=";
-    const auto isHeaded = [&head](const std::string& word) { return word.rfind(head, 0) == 0; };
-    const auto found = std::find_if(words.begin(), words.end(), isHeaded);
-    return found == words.end() ? otherwise : found->substr(head.size());
+    const std::string converted =
+        content == text ? "" : "(" + kindOf(value.value) + ":" + content + ")";
+    return text + converted + "@" + place(value.position);
 }
 
 const std::string& wordOf(const Words& words, std::size_t index) {

@@ -36,7 +36,7 @@ private:
 // What clients throw that is no standard exception.
 struct ForeignException {};
 
-// An item that can still be changed.
+// The item that was declared last, which can still be changed.
 struct LastItem {
     IOption* item = nullptr;
     das_variant_type_t type = vtNull;
@@ -61,7 +61,7 @@ public:
 
     // The one place through which the library is called.
     template <typename Call>
-    auto call(Call operation) {
+    decltype(auto) call(Call operation) {
         const Crossing inward(border, true);
         return operation();
     }
@@ -72,14 +72,24 @@ public:
 
     // Texts that are handed out are to stay as they are until their owner is destroyed.
     const char* keep(const void* owner, const char* text);
-    void destroyParser(const std::string& name);
-    void destroyResult(const std::string& name);
 
     // Numbers count from the first that the scenario draws; "end" is the greatest of all.
     void beginNumbers(int first);
     int number(const std::string& place) const;
     std::string place(int number) const;
     std::string shown(const Value& value) const;  // "text@number", or "text(kind:value)@number"
+
+    // Of the parsers or the results.
+    template <typename Object>
+    void destroy(std::map<std::string, Object*>& all, const std::string& name, Object*& used) {
+        const auto node = all.extract(name);
+        if (!node.empty()) {
+            Object* const destroyed = node.mapped();
+            forget(destroyed);
+            used = used == destroyed ? nullptr : used;
+            call([destroyed] { destroyed->destroy(); });
+        }
+    }
 
     std::map<std::string, IParser*> parsers;
     std::map<std::string, IParseResult*> results;
@@ -89,7 +99,7 @@ public:
     bool isRefused = false;     // the event in progress
 
     std::array<ActingHandler, 10> handlers;
-    std::map<IParser*, LastItem> lastItems;
+    LastItem last;
     std::vector<std::string> names;  // that were declared
     ValueMaker values;
     std::optional<GroupingLocale> locale;
@@ -103,7 +113,6 @@ private:
 
     void checkKept();
     void forget(const void* owner);
-
     std::vector<KeptText> kept;
     int base;
 };
@@ -112,7 +121,7 @@ private:
 enum class Needs { nothing, parser, result };
 struct Deed {
     Needs needs;
-    void (*act)(Stage& stage, const Words& words);
+    void (*act)(Stage& stage, const Step& step);
 };
 using Deeds = std::map<std::string, Deed>;
 
@@ -121,9 +130,6 @@ Deeds handlerDeeds();
 Deeds parsingDeeds();
 Deeds readingDeeds();
 Deeds helpDeeds();
-
-// The text behind KEY= among the words, `otherwise` when there is none.
-std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise);
 
 // The word of this index, or a BadStep.
 const std::string& wordOf(const Words& words, std::size_t index);

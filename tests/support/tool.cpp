@@ -1,10 +1,6 @@
 #include "support/tool.h"
 
 #include <algorithm>
-#include <regex>
-#include <sstream>
-
-#include "recognizers/argument_parser.h"
 
 namespace zarn_3_3::testing_support {
 namespace {
@@ -15,33 +11,12 @@ void append(std::string& list, const char* separator, const std::string& text) {
 
 }  // namespace
 
-std::vector<Words> rowsOf(const std::string& table, std::size_t columns) {
-    const std::regex bar(" *\\|( +|$)");
-    std::vector<Words> rows;
-    std::istringstream lines(table);
-    for (std::string line; std::getline(lines, line);) {
-        const std::sregex_token_iterator cells(line.begin(), line.end(), bar, -1);
-        rows.emplace_back(cells, std::sregex_token_iterator()).resize(columns);
-    }
-    return rows;
-}
-
-Words wordsOf(const std::string& text) {
-    Words words;
-    std::istringstream stream(text);
-    for (std::string word; stream >> word;) {
-        std::replace(word.begin(), word.end(), '_', ' ');
-        words.push_back(word == "''" ? "" : word);
-    }
-    return words;
-}
-
 bool Recorder::hear(const std::string& event) {
     append(events, "; ", event);
     return answer == nullptr || answer(event);
 }
 
-Tool::Tool(int flags) : base(IArgumentParser::m_idx - 1) {
+Tool::Tool(int flags) {
     createParser(&parser, flags);
     parser->createResult(&result);
 }
@@ -72,21 +47,6 @@ int Tool::parse(const Words& arguments) {
 void Tool::startNewResult() {
     result->destroy();
     parser->createResult(&result);
-}
-
-std::string Tool::show(const Value& value) const {
-    return value.status != statusFound ? ""
-                                       : (value.text == nullptr ? "" : value.text) +
-                                             ("@" + std::to_string(value.position - base));
-}
-
-std::string Tool::walk(const char* name, int from, int to) {
-    std::string found;
-    for (Value value = result->get(name, number(from), number(to)); value.status == statusFound;
-         value = result->next(name)) {
-        append(found, " ", show(value));
-    }
-    return found;
 }
 
 std::string Tool::values(const char* name) {

@@ -14,13 +14,6 @@ namespace zarn_3_3::testing_support {
 
 using Words = std::vector<std::string>;
 
-// The rows of a table that is written as a text: one a line, its cells between bars that have a
-// blank or the end of the line behind them. Cells that are missing are empty.
-std::vector<Words> rowsOf(const std::string& table, std::size_t columns);
-
-// The words of a text; in a word '_' stands for a blank, and '' alone for the empty word.
-Words wordsOf(const std::string& text);
-
 // Records what it hears: "option <name>; value <name>=<text>; unknown <argument>".
 class Recorder final : public EventHandler {
 public:
@@ -56,13 +49,6 @@ public:
     std::string error() { return parser->getErrorDesc(); }
     void startNewResult();
 
-    // Numbers count from the first that was drawn since the tool was made.
-    int number(int relative) const { return relative == INT_MAX ? INT_MAX : base + relative; }
-
-    // "text@number" of every value, "@number" of every occurrence of a switch.
-    std::string walk(const char* name, int from = 0, int to = INT_MAX);
-    std::string show(const Value& value) const;  // one of them; empty when nothing was found
-
     // The texts of the values, as "1|2".
     std::string values(const char* name);
 
@@ -78,7 +64,6 @@ private:
     std::string storedUnder(const char* name);
 
     Words names;
-    int base;
 };
 
 }  // namespace zarn_3_3::testing_support

@@ -85,7 +85,7 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return tellStatus(*openFile, status);
 }
 
-int openForReading(const char* path) noexcept {
+int openForReading(const char* path) {
     const MemoryFile* const file = fileNamed(path);
     if (isToFail() || file == nullptr) {
         return fail(file != nullptr ? fileCalls.error : ENOENT);
@@ -99,7 +99,7 @@ int openForReading(const char* path) noexcept {
     return onlyDescriptor;
 }
 
-ssize_t readSome(int descriptor, char* buffer, std::size_t size) noexcept {
+ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
     if (isToFail() || !isOpen(descriptor)) {
         return fail(isOpen(descriptor) ? fileCalls.error : EBADF);
     }

@@ -1,14 +1,11 @@
 // Plays scenarios: play [--record] FILE...
 //
-// Compares what is seen with the answers in the files, and shows where they differ: of what nobody
-// hears also when somebody does, since then items are bound in another way. With --record it writes
-// what is seen into the files instead.
+// Compares what is seen with the answers in the files, and shows where they differ. With --record
+// it writes what is seen into the files instead.
 
-#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <sstream>
-#include <utility>
 
 #include "support/scenario.h"
 #include "support/stage.h"
@@ -23,27 +20,6 @@ std::string answersAt(int line, const Answers& answers, const char* head) {
         text += answer.line == line ? head + answer.text + "\n" : "";
     }
     return text.empty() ? std::string(head) + "(no answer)\n" : text;
-}
-
-bool isHeard(const Scenario& scenario) {
-    return std::any_of(scenario.steps.begin(), scenario.steps.end(), [](const Step& step) {
-        return step.verb == "add" || step.verb == "on";
-    });
-}
-
-Answers playHeard(Scenario scenario) {
-    const std::vector<Step> steps = std::move(scenario.steps);
-    scenario.steps.clear();
-    for (const Step& step : steps) {
-        scenario.steps.push_back(step);
-        if (step.verb == "parser") {
-            scenario.steps.push_back({step.line, "add", {"0"}});
-        }
-    }
-    Answers seen = play(scenario);
-    const auto isEvent = [](const Answer& answer) { return answer.kind == Kind::event; };
-    seen.erase(std::remove_if(seen.begin(), seen.end(), isEvent), seen.end());
-    return seen;
 }
 
 // Shows the steps that were answered otherwise; how many they are.
@@ -75,7 +51,6 @@ int playFile(const std::string& file, bool isRecording) {
         all.insert(all.end(), seen.begin(), seen.end());
         if (!isRecording) {
             differences += compare(file, scenario, seen);
-            differences += isHeard(scenario) ? 0 : compare(file, scenario, playHeard(scenario));
         }
     }
     if (all.empty()) {

@@ -44,9 +44,14 @@ void CapturedLines::finish() {
     }
 }
 
-Observer::Observer(const Border& border)
-    : log(std::cout, border, [this](const std::string& text) { say(Kind::log, "log: " + text); }),
-      warnings(std::cerr, border, [this](const std::string& text) { say(Kind::warning, text); }) {}
+Observer::Observer(const Border& border, Console console) {
+    if (console == Console::observed) {
+        const auto takeLog = [this](const std::string& text) { say(Kind::log, "log: " + text); };
+        log.emplace(std::cout, border, takeLog);
+        warnings.emplace(
+            std::cerr, border, [this](const std::string& text) { say(Kind::warning, text); });
+    }
+}
 
 // Events in a row stand in one line.
 void Observer::say(Kind kind, const std::string& text) {
@@ -70,8 +75,10 @@ void Observer::sayLines(const std::string& text) {
 }
 
 void Observer::finishLines() {
-    log.finish();
-    warnings.finish();
+    if (log) {
+        log->finish();
+        warnings->finish();
+    }
 }
 
 std::string escaped(const std::string& text) {

@@ -4,6 +4,7 @@
 #define ZARN_TESTS_SUPPORT_OBSERVER_H
 
 #include <functional>
+#include <optional>
 #include <ostream>
 #include <streambuf>
 #include <string>
@@ -70,9 +71,12 @@ private:
     std::string line;
 };
 
+// Whether what is written to the console is observed; only one observer at a time may do so.
+enum class Console { observed, untouched };
+
 class Observer {
 public:
-    explicit Observer(const Border& border);
+    Observer(const Border& border, Console console);
 
     void say(Kind kind, const std::string& text);
     void sayLines(const std::string& text);  // an outcome of several lines
@@ -82,8 +86,8 @@ public:
     Answers answers;
 
 private:
-    CapturedLines log;
-    CapturedLines warnings;
+    std::optional<CapturedLines> log;
+    std::optional<CapturedLines> warnings;
 };
 
 // `text` with escapes, so that it is one line of readable characters.

@@ -47,10 +47,9 @@ void LentTexts::takeBack() {
     argv = {};
 }
 
-Stage::Stage(const Border& crossed)
-    : border(crossed), observer(border), base(IArgumentParser::m_idx - 1) {
+Stage::Stage(const Border& crossed, Console console)
+    : border(crossed), observer(border, console), base(IArgumentParser::m_idx - 1) {
     internal::zarnLogEnabled = false;
-    fileCalls.files.clear();
     takeAssertions();
     for (std::size_t i = 0; i < handlers.size(); ++i) {
         handlers[i].stage = this;
@@ -65,6 +64,7 @@ Stage::~Stage() {
     while (!parsers.empty()) {
         destroy(parsers, parsers.begin()->first, parser);
     }
+    fileCalls.files.clear();
 }
 
 void Stage::perform(const Step& step) {

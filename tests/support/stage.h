@@ -46,7 +46,7 @@ struct LastItem {
 // on. Every call of the library, but for those that make values, crosses the border.
 class Stage {
 public:
-    explicit Stage(const Border& crossed = {});
+    explicit Stage(const Border& crossed = {}, Console console = Console::observed);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();

@@ -1,0 +1,62 @@
+// Calls that read files fail: file_faults FILE...
+//
+// In every scenario of the files each call fails in its turn, once or from then on, is interrupted,
+// or reads less than was asked for.
+
+#include <cerrno>
+#include <iostream>
+#include <limits>
+
+#include "disturbers/disturbed_play.h"
+#include "disturbers/judged_files.h"
+#include "support/file_calls_double.h"
+
+namespace {
+
+using namespace zarn_3_3::testing_support;
+
+class FailingCalls final : public Disturbance {
+public:
+    explicit FailingCalls(int number) : error(number) {}
+
+    void begin(long nth) override {
+        fileCalls.hasStruck = false;
+        fileCalls.isLasting = error == EACCES;
+        fileCalls.error = error;
+        fileCalls.left = nth;
+    }
+    bool hasStruck() const override { return fileCalls.hasStruck; }
+    void end() override { fileCalls.left = 0; }
+    long leftBehind() const override { return fileCalls.openFiles; }
+
+    // Interrupted calls are repeated.
+    bool mayAnswer(const std::string&,
+                   const std::string& found,
+                   const std::string&) const override {
+        return error != EINTR && found.rfind("6 Error reading option file '", 0) == 0;
+    }
+
+private:
+    int error;
+};
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    long failures = 0;
+    const int code = judgeFiles(argc, argv, [&failures](const Scenario& scenario) {
+        const Undisturbed undisturbed(scenario);
+        std::string wrong;
+        for (const std::size_t longest :
+             {std::numeric_limits<std::size_t>::max(), std::size_t{3}}) {
+            fileCalls.longestRead = longest;
+            for (const int error : {EIO, EACCES, EINTR}) {
+                FailingCalls failing(error);
+                wrong += disturbEach(undisturbed, failing, Until::endOfStep, 1, failures);
+            }
+        }
+        return wrong;
+    });
+    std::cout << failures << " calls failed\n";
+    return code;
+}

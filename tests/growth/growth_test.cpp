@@ -1,5 +1,7 @@
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "support/counted_calls.h"
 #include "support/failing_new.h"
 #include "support/tool.h"
@@ -143,6 +145,44 @@ TEST(Growth, IsLinearInTagsAndOccurrences) {
         const testing_support::Words line(n, "-x");
         return measure([&] { ASSERT_EQ(tool.parse(line), resultOk); });
     });
+}
+
+TEST(Growth, IsLinearInTheLengthOfAnArgument) {
+    for (const char* const front : {"--x=", "--", "--dry=", "--level=", "--list=", "-----", ""}) {
+        SCOPED_TRACE(front);
+        expectLinear([front](std::size_t n) {
+            Tool tool(flagUnknownIsError | flagPositionalWithoutDash);
+            tool.option("x").tokenize(0);
+            tool.option("dry", vtNull);
+            tool.option("level", vtS32);
+            tool.option("list").tokenize('x');
+            tool.option("file").positional();
+            const std::string argument = front + std::string(500 * n, 'x');
+            return measure([&] { ASSERT_NE(tool.parse({argument}), resultException); });
+        });
+    }
+}
+
+// What was handed out is handed out again, and what is refused leaves nothing behind.
+TEST(Growth, EndsWhenTheSameIsAskedAgain) {
+    Tool tool(flagUnknownIsError);
+    tool.option("name");
+    ASSERT_EQ(tool.parse({"--name=x", "--unknown"}), resultRuleBroken);
+    const auto ask = [&](int i) {
+        const std::string tag = numbered("tag", static_cast<std::size_t>(i));
+        tool->option("name", "", vtString, "").tag(tag.c_str()).allowDeprecatedValue(i, 0);
+        const Value value = tool.result->get("name", 0, INT_MAX);
+        return std::array<const void*, 4>{tool->getDescription(false),
+                                          tool->getDescription("name", false),
+                                          tool->getErrorDesc(),
+                                          value.text};
+    };
+    const auto first = ask(0);
+    const std::size_t blocks = memory.liveBlocks();
+    for (int i = 1; i < 1000; ++i) {
+        ASSERT_EQ(ask(i), first);
+    }
+    EXPECT_LE(memory.liveBlocks(), blocks);
 }
 
 // There are no more beginnings than bytes in the names, whatever lengths are asked for.

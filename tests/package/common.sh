@@ -26,6 +26,14 @@ expect() {
         fail "'${*#"$work"/}' gave $status and '$actual', expected $code and '$output'"
 }
 
+# Streams that cannot be written change no parse, and with the log neither.
+cannot_be_heard() {
+    local code=0
+    "$1" zarnoption=zarnlogenable=1 --name Anna &&
+        "$1" zarnoption=zarnlogenable=1 --nmae Anna || code=$?
+    ((code == 2))
+}
+
 try_tool() {
     expect 0 $'Hello, Anna, loud\nHello, Anna, loud\nNote: that was all' \
         "$1" --name Anna --co=2 --tone lou
@@ -33,6 +41,8 @@ try_tool() {
     expect 1 "Value '/etc' is not valid for option 'name' in argument '--name=/etc'" \
         "$1" --name=/etc
     expect 2 "Unknown option: --nmae" "$1" --nmae Anna
+    cannot_be_heard "$1" >&- 2>&- || fail "closed streams change a parse"
+    cannot_be_heard "$1" >/dev/full 2>/dev/full || fail "a full disk changes a parse"
 }
 
 # found_by_cmake COMPILER PREFIX: builds and runs the tool on what is installed in PREFIX.

@@ -1,7 +1,8 @@
 #!/usr/bin/env bash
 # Usage: installed.sh BUILD_DIR COMPILER...
 # Installs BUILD_DIR, moves what was installed, and builds and runs a tool on it with each compiler:
-# through the CMake package, through pkg-config, and with the undefined behaviour sanitizer.
+# through the CMake package, through pkg-config, and with the undefined behaviour sanitizer; then
+# one that loads and unloads the library.
 # shellcheck source-path=SCRIPTDIR
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 
@@ -21,5 +22,8 @@ for compiler in "$@"; do
     found_by_cmake "$compiler" "$work/moved"
     found_by_pkg_config "$compiler" "$work/moved"
     found_by_pkg_config "$compiler" "$work/moved" -fsanitize=undefined -fno-sanitize-recover=all
+    quietly "$compiler" -std=c++17 "${flags[@]}" -I"$here/.." "$here/reload.cpp" \
+        "$here/../support/failing_new.cpp" -o "$work/reload" -ldl
+    quietly "$work/reload" "$(libdir_of_package)/libzarn.so"
     echo "$compiler: the package serves through CMake, pkg-config and with the sanitizer"
 done

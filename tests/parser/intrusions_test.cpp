@@ -1,6 +1,5 @@
-// What the surroundings of a parse do to it while it runs: handlers that take away what it was
-// called with, parsers that hear each other, streams with a will of their own, threads with little
-// room and little time.
+// What the surroundings of a parse do to it while it runs: parsers that hear each other, streams
+// with a will of their own, threads with little room and little time.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -24,60 +23,6 @@ namespace zarn_3_3 {
 namespace {
 
 using testing_support::Tool;
-
-TEST(HandlersThatTakeTheInputAway, LeaveTheParseWhatItWasCalledWith) {
-    Tool tool(flagUnknownIsError | flagPositionalWithoutDash);
-    tool.option("level", vtS32);
-    tool.option("file").positional();
-    std::vector<std::string> texts{"tool", "--foreign", "--level=1", "a", "--", "b"};
-    std::vector<char*> argv;
-    for (std::string& text : texts) {
-        argv.push_back(text.data());
-    }
-    tool.listen().answer = [&](const std::string& event) {
-        argv[1] = argv[2];
-        argv[2] = nullptr;
-        for (std::string& text : texts) {
-            std::fill(text.begin(), text.end(), '?');
-        }
-        return event != "unknown --foreign";
-    };
-    tool.option("number", vtU64).tokenize(0);
-    EXPECT_EQ(tool->parseArgsVector(6, argv.data(), tool.result), resultOk);
-    EXPECT_EQ(tool.stored(), "level=1 file=a -- b");
-
-    auto text = std::make_unique<std::string>("--foreign\n--number=0x10\n# a comment\nc\n--\nd");
-    const char* const given = text->c_str();
-    tool.handler.answer = [&](const std::string& event) {
-        text.reset();
-        return event != "unknown --foreign";
-    };
-    EXPECT_EQ(tool.parseText(given), resultOk);
-    EXPECT_EQ(tool.stored(), "level=1 file=a|c number=0x10 -- b d");
-}
-
-// Every text of the result is asked for behind the end of the parser and of the line.
-TEST(TextsOfAResult, OutliveTheLineThatTheyCameFrom) {
-    auto tool = std::make_unique<Tool>(flagPositionalBehindTerminator);
-    tool->option("n,m", vtS32);
-    tool->option("file", vtU64).positional();
-    IParseResult* result = nullptr;
-    tool->parser->createResult(&result);
-    for (const char* const last : {"7", "08"}) {
-        std::string texts[] = {"tool", "--n=1,2", "--n", "+3", "--", last};
-        const char* const argv[] = {texts[0].c_str(),
-                                    texts[1].c_str(),
-                                    texts[2].c_str(),
-                                    texts[3].c_str(),
-                                    texts[4].c_str(),
-                                    texts[5].c_str()};
-        ASSERT_EQ(tool->parser->parseArgsVector(6, argv, result), resultOk);
-    }
-    std::swap(tool->result, result);
-    EXPECT_EQ(tool->stored(), "n=1|2|+3|1|2|+3(4) file=7|08 -- 7 08");
-    EXPECT_EQ(tool->values("m"), "1|2|+3|1|2|+3");
-    result->destroy();
-}
 
 // A ring of parsers: what the first one parses is heard once by whoever listens anywhere.
 TEST(ParsersThatHearEachOther, PassEachEventOnOnce) {

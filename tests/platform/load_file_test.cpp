@@ -5,7 +5,6 @@
 #include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
 #include <cstring>
 #include <filesystem>
 #include <fstream>
@@ -17,22 +16,13 @@ namespace {
 
 // What the calls of the operating system are to play; otherwise they are the real ones.
 struct Faults {
-    std::string errors;     // one letter a call: an interruption, a failure, or '.' for a real call
-    mode_t statusMode = 0;  // of an open file: its kind has changed since the first look
-    std::size_t longestRead = 1 << 20;
+    mode_t statusMode = 0;          // of an open file: its kind has changed since the first look
     std::size_t inventedBytes = 0;  // read before those of the file
 };
 
 Faults faults;
 int openFiles = 0;
 int opened = 0;
-
-bool fails() {
-    const char letter = faults.errors.empty() ? '.' : faults.errors.front();
-    faults.errors.erase(0, 1);
-    errno = letter == 'i' ? EINTR : EIO;
-    return letter != '.';
-}
 
 }  // namespace
 
@@ -43,22 +33,19 @@ int statusOfPath(const char* path, struct stat* status) noexcept { return ::stat
 int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     const int result = ::fstat(descriptor, status);
     status->st_mode = faults.statusMode != 0 ? faults.statusMode : status->st_mode;
-    return fails() ? -1 : result;
+    return result;
 }
 
 int openForReading(const char* path) {
     ++opened;
-    const int descriptor = fails() ? -1 : ::open(path, O_RDONLY | O_CLOEXEC);
+    const int descriptor = ::open(path, O_RDONLY | O_CLOEXEC);
     openFiles += descriptor != -1 ? 1 : 0;
     return descriptor;
 }
 
 ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
-    if (fails()) {
-        return -1;
-    }
     if (faults.inventedBytes == 0) {
-        return ::read(descriptor, buffer, std::min(size, faults.longestRead));
+        return ::read(descriptor, buffer, size);
     }
     size = std::min(size, faults.inventedBytes);
     faults.inventedBytes -= size;
@@ -125,20 +112,7 @@ TEST_F(LoadFile, RefusesWhatIsNeitherFileNorPipe) {
     EXPECT_EQ(opened, 0) << "opening alone can have effects";
 }
 
-TEST_F(LoadFile, GoesOnAfterInterruptionsAndShortReads) {
-    faults.errors = "ii..i.ii.";  // open, status, reads
-    faults.longestRead = 2;
-    write("\xEF\xBB\xBFshort reads");
-    EXPECT_EQ(load("file"), "short reads");
-    EXPECT_EQ(faults.errors, "");
-}
-
-TEST_F(LoadFile, FailsWithTheOperatingSystemAndWhenAFileChangesMeanwhile) {
-    write("content");
-    for (const char* errors : {"f", ".f", "..f", "...f", "..if"}) {
-        faults.errors = errors;
-        EXPECT_EQ(load("file"), "failed") << errors;
-    }
+TEST_F(LoadFile, FailsWhenAFileChangesMeanwhile) {
     write("");
     for (const std::size_t excess : {0U, 1U}) {
         faults.inventedBytes = largestFile + excess;

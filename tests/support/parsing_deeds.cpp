@@ -74,6 +74,10 @@ EventHandler* handlerNamed(Stage& stage, const std::string& word) {
     if (word == "null" || word == "parser") {
         return word == "null" ? nullptr : stage.parser;
     }
+    const std::string other = settingOf({word}, "parser", "");
+    if (!other.empty()) {
+        return stage.parsers.at(other);
+    }
     return &stage.handlers.at(static_cast<std::size_t>(numberOf(word)));
 }
 

@@ -44,7 +44,7 @@
 //     declared NAME [action] [section=KEY]
 //
 // Handlers have numbers from 0 to 9, in the order of their addresses.
-//     add N, remove N               also of null, and of the parser itself: "add parser"
+//     add N, remove N               also of null, and of parsers: "add parser", "add parser=NAME"
 //     on N [nth=M] EVENT : STEP     what handler N does when it hears EVENT, each time or the M-th.
 //                                   A '*' at the end stands for anything. Not while STEP is done
 //     refuse                        inside an event: the answer is false

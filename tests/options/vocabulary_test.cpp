@@ -1,63 +1,16 @@
-// Declared items: their values as texts, and how they are found by name.
+// How declared items are found by name.
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <iostream>
 #include <random>
 #include <set>
 
 #include "options/registered_option_storage.h"
 #include "options/text_hash.h"
-#include "support/assertion_double.h"
-#include "support/captured_stream.h"
 
 namespace zarn_3_3 {
 namespace {
-
-struct Writing {
-    das_variant_type_t type;
-    const char* typeName;
-    variant_t value;
-    const char* text;
-    const char* assertion;  // empty: the value can be read so
-};
-
-const variant_t lent("lent", true);
-
-const Writing writings[] = {
-    {vtBool,   "undefined", 7,         "1",           ""                        },
-    {vtS32,    "integer",   5LL,       "5",           "can_get<s32_t>()\n"      },
-    {vtDouble, "double",    1234567.0, "1.23457e+06", ""                        },
-    {vtString, "string",    lent,      "lent",        ""                        },
-    {vtString, "string",    5,         "",            "can_get<const char*>()\n"},
-    {vtNull,   "",          5,         "",            ""                        },
-};
-
-TEST(ToString, WritesWhatTheDeclaredTypeReads) {
-    for (const auto& [type, typeName, value, text, assertion] : writings) {
-        OptionDescription option;
-        option.type = type;
-        EXPECT_EQ(option.getTypeName(), typeName);
-        EXPECT_EQ(option.toString(value), text) << typeName;
-        EXPECT_EQ(takeAssertions(), assertion) << typeName;
-    }
-}
-
-TEST(Validate, WarnsOfDeprecatedValues) {
-    OptionDescription option;
-    option.type = vtString;
-    option.synonym("x").allowValue("new").allowDeprecatedValue("old", "new");
-    std::string_view text = "o";
-    variant_t value;
-    std::string error;
-    const CapturedStream warnings(std::cerr);
-    EXPECT_TRUE(option.validate(text, value, error));
-    EXPECT_EQ(text, "old");
-    EXPECT_EQ(warnings.text(),
-              "Warning: 'old' argument is deprecated for the option '-x'. Use the 'new' argument "
-              "instead.\n");
-}
 
 // Compares the lookups with what they are to find, item by item and without an index.
 void expectSlowAnswers(const RegisteredOptionStorage& registry, const std::string& text) {

@@ -1,5 +1,5 @@
-// What the surroundings of a parse do to it while it runs: parsers that hear each other, streams
-// with a will of their own, threads with little room and little time.
+// What the surroundings of a parse do to it while it runs: streams with a will of their own,
+// threads with little room and little time.
 
 #include <fcntl.h>
 #include <gtest/gtest.h>
@@ -23,49 +23,6 @@ namespace zarn_3_3 {
 namespace {
 
 using testing_support::Tool;
-
-// A ring of parsers: what the first one parses is heard once by whoever listens anywhere.
-TEST(ParsersThatHearEachOther, PassEachEventOnOnce) {
-    for (const int count : {1, 2, 3}) {
-        std::vector<std::unique_ptr<Tool>> ring;
-        std::vector<testing_support::Recorder> ears(static_cast<std::size_t>(count));
-        for (testing_support::Recorder& ear : ears) {
-            ring.push_back(std::make_unique<Tool>());
-            ring.back()->option("level", vtS32);
-            (*ring.back())->addHandler(&ear);
-        }
-        for (std::size_t i = 0; i < ring.size(); ++i) {
-            (*ring[i])->addHandler(ring[(i + 1) % ring.size()]->parser);
-        }
-        EXPECT_EQ(ring[0]->parse({"--level=1,1", "-q"}), resultOk);
-        for (const testing_support::Recorder& ear : ears) {
-            EXPECT_EQ(ear.events, "option level; value level=1; value level=1; unknown -q");
-        }
-    }
-}
-
-// The same event, but of another parse, is another one.
-TEST(ParsersThatHearEachOther, PassOnWhatAParseInsideAnEventRaises) {
-    Tool tool;
-    Tool other;
-    tool.option("level", vtS32);
-    other.option("level", vtS32);
-    other->addHandler(tool.parser);
-    int left = 2;
-    tool.listen().answer = [&](const std::string& event) {
-        if (event == "option level" && left > 0) {
-            --left;
-            EXPECT_EQ(other.parse({"--level=2"}), resultOk);
-            EXPECT_EQ(tool.parse({"--level=3"}), resultOk);
-        }
-        return true;
-    };
-    EXPECT_EQ(tool.parse({"--level=1"}), resultOk);
-    EXPECT_EQ(tool.values("level"), "3|3|1");
-    EXPECT_EQ(tool.handler.events,
-              "option level; option level; option level; value level=2; option level; value "
-              "level=3; value level=2; option level; value level=3; value level=1");
-}
 
 // A stream that runs code of the client each time when `cue` was written to it.
 class ActingStream final : public std::streambuf {

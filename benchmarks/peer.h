@@ -10,59 +10,71 @@
 #include <string>
 #include <vector>
 
-#include "checksum.h"
 #include "workload.h"
 
 namespace zarn_benchmarks {
 
 // A declared vocabulary, parsed into once. The constructor of an implementation declares; the
 // vocabulary outlives it.
-class ISession {
+class Session {
 public:
-    virtual ~ISession() = default;
+    virtual ~Session() = default;
+    Session(const Session&) = delete;
+    Session& operator=(const Session&) = delete;
 
     // Throws when the command line is refused.
     virtual void parse(const CommandLine& line) = 0;
 
-    // Adds every value of the asked options.
-    virtual void read(const std::vector<std::size_t>& asked, Checksum* sum) = 0;
+    // Adds every value of one option.
+    virtual void read(std::size_t option, Checksum* sum) = 0;
 
     virtual std::string help() { throw std::logic_error("this peer has no help"); }
+
+    // The checksum over all values of the asked options.
+    std::uint64_t readAll(const std::vector<std::size_t>& asked) {
+        Checksum sum;
+        for (std::size_t option : asked) {
+            read(option, &sum);
+        }
+        return sum.value();
+    }
+
+protected:
+    explicit Session(const Vocabulary& vocabulary) : vocabulary_(vocabulary) {}
+
+    const DeclaredOption& item(std::size_t option) const { return vocabulary_.options[option]; }
+
+    const Vocabulary& vocabulary_;
 };
 
-// What is too slow or impossible for a peer is left out of its runs.
-struct Limits {
-    std::size_t arguments = 1000000;
-    bool abbreviations = false;
-    bool help = true;
-    bool allocationsAreCounted = true;  // false: a C library that calls malloc
+// What a peer can do; what it cannot, or does too slowly, is left out of its runs.
+enum Ability : unsigned {
+    canParse = 0,
+    canAbbreviate = 1,
+    canHelp = 2,
+    canTakeMany = 4,   // more than a thousand arguments, in less than quadratic time
+    canBeCounted = 8,  // allocates with operator new; C libraries call malloc
 };
 
 struct Peer {
     const char* name;
-    Limits limits;
-    std::unique_ptr<ISession> (*declare)(const Vocabulary& vocabulary);
+    unsigned abilities;
+    std::unique_ptr<Session> (*declare)(const Vocabulary& vocabulary);
     // Declares, parses, reads and destroys; the checksum of what was read.
     std::uint64_t (*cycle)(const Workload& workload);
 };
 
-template <typename Session>
-std::unique_ptr<ISession> declareSession(const Vocabulary& vocabulary) {
-    return std::make_unique<Session>(vocabulary);
-}
-
-template <typename Session>
-std::uint64_t runCycle(const Workload& workload) {
-    Checksum sum;
-    Session session(workload.vocabulary);
-    session.parse(workload.line);
-    session.read(workload.asked, &sum);
-    return sum.value();
-}
-
-template <typename Session>
-Peer makePeer(const char* name, const Limits& limits) {
-    return {name, limits, &declareSession<Session>, &runCycle<Session>};
+template <typename Implementation>
+Peer makePeer(const char* name, unsigned abilities) {
+    const auto declare = [](const Vocabulary& vocabulary) -> std::unique_ptr<Session> {
+        return std::make_unique<Implementation>(vocabulary);
+    };
+    const auto cycle = [](const Workload& workload) {
+        Implementation session(workload.vocabulary);
+        session.parse(workload.line);
+        return session.readAll(workload.asked);
+    };
+    return {name, abilities, declare, cycle};
 }
 
 Peer argpPeer();
@@ -77,10 +89,10 @@ Peer tclapPeer();
 Peer zarnPeer();
 Peer zarnTakingRestPeer();  // made with flagPositionalTakesRest
 
-// All of them but the last.
-std::vector<Peer> allPeers();
+// All of them but the last that have all of the abilities.
+std::vector<Peer> peersThat(unsigned abilities);
 
-// Ends the program when a peer read something else than was given.
+// Throws when a peer read something else than was given, which ends the program.
 void requireChecksum(const char* peer, const Workload& workload, std::uint64_t sum);
 
 }  // namespace zarn_benchmarks

@@ -4,9 +4,12 @@
 #define ZARN_BENCHMARKS_TIMING_H
 
 #include <functional>
+#include <memory>
+#include <optional>
 #include <string>
+#include <vector>
 
-#include "workload.h"
+#include "peer.h"
 
 namespace zarn_benchmarks {
 
@@ -15,15 +18,25 @@ double timed(const std::function<void()>& step);
 
 // A workload that is made when the first run asks for it; copies share it.
 using LazyWorkload = std::function<const Workload&()>;
-LazyWorkload lazily(std::function<Workload()> make);
 
-// Registers "name/size/peer". `round` does the work once and answers the seconds that count; the
-// counter "ns" is that time divided by the steps of the workload.
-void addRun(const std::string& name,
-            std::size_t size,
-            const char* peer,
-            const LazyWorkload& workload,
-            std::function<double(const Workload&)> round);
+template <typename Make, typename... Arguments>
+LazyWorkload lazily(Make make, Arguments... arguments) {
+    const auto made = std::make_shared<std::optional<Workload>>();
+    return [=]() -> const Workload& {
+        if (!*made) {
+            *made = make(arguments...);
+        }
+        return **made;
+    };
+}
+
+// Registers "name/size/peer" for each peer. `time` does the work once and answers the seconds that
+// count; the counter "ns" is that time divided by the steps of the workload.
+void addRuns(const std::string& name,
+             std::size_t size,
+             const std::vector<Peer>& peers,
+             const LazyWorkload& workload,
+             double (*time)(const Peer&, const Workload&));
 
 void addPeerRuns();
 void addLibraryRuns();

@@ -1,20 +1,13 @@
 #include <argp.h>
 
-#include <cstdio>
 #include <cstdlib>
+
+#include "client.h"
 
 namespace {
 
-struct Values {
-    const char* name = "world";
-    int count = 1;
-    double ratio = 0.5;
-    int quiet = 0;
-    const char* file = "";
-};
-
 error_t take(int key, char* argument, argp_state* state) {
-    auto* values = static_cast<Values*>(state->input);
+    auto* values = static_cast<Values<const char*>*>(state->input);
     switch (key) {
         case 'n':
             values->name = argument;
@@ -26,7 +19,7 @@ error_t take(int key, char* argument, argp_state* state) {
             values->ratio = std::strtod(argument, nullptr);
             return 0;
         case 'q':
-            values->quiet = 1;
+            values->quiet = true;
             return 0;
         case ARGP_KEY_ARG:
             values->file = argument;
@@ -47,11 +40,6 @@ int main(int argc, char** argv) {
         {nullptr, 0,   nullptr,  0, nullptr,         0},
     };
     const argp definition{options, take, "FILE", "greets", nullptr, nullptr, nullptr};
-    Values values;
-    if (argp_parse(&definition, argc, argv, 0, nullptr, &values) != 0) {
-        return 1;
-    }
-    std::printf(
-        "%s %d %g %d %s\n", values.name, values.count, values.ratio, values.quiet, values.file);
-    return 0;
+    Values<const char*> values;
+    return argp_parse(&definition, argc, argv, 0, nullptr, &values) != 0 ? 1 : values.print();
 }

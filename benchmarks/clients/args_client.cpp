@@ -1,6 +1,7 @@
 #include <args.hxx>
-#include <cstdio>
 #include <string>
+
+#include "client.h"
 
 int main(int argc, char** argv) {
     args::ArgumentParser parser("greets");
@@ -15,11 +16,7 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;
     }
-    std::printf("%s %d %g %d %s\n",
-                args::get(name).c_str(),
-                args::get(count),
-                args::get(ratio),
-                args::get(quiet) ? 1 : 0,
-                args::get(file).c_str());
-    return 0;
+    const Values<std::string> values{
+        args::get(name), args::get(count), args::get(ratio), args::get(quiet), args::get(file)};
+    return values.print();
 }

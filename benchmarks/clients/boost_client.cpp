@@ -1,33 +1,29 @@
 #include <boost/program_options.hpp>
-#include <cstdio>
 #include <string>
+
+#include "client.h"
 
 namespace po = boost::program_options;
 
 int main(int argc, char** argv) {
-    std::string name;
-    std::string file;
-    int count = 0;
-    double ratio = 0;
-    bool quiet = false;
+    Values<std::string> values;
     po::options_description options("Options");
     options.add_options()  //
-        ("name", po::value(&name)->default_value("world"), "whom to greet")(
-            "count", po::value(&count)->default_value(1), "how often")(
-            "ratio", po::value(&ratio)->default_value(0.5), "how loud")(
-            "quiet", po::bool_switch(&quiet), "say nothing")(
-            "file", po::value(&file), "what to read");
+        ("name", po::value(&values.name)->default_value("world"), "whom to greet")(
+            "count", po::value(&values.count)->default_value(1), "how often")(
+            "ratio", po::value(&values.ratio)->default_value(0.5), "how loud")(
+            "quiet", po::bool_switch(&values.quiet), "say nothing")(
+            "file", po::value(&values.file), "what to read");
     po::positional_options_description positional;
     positional.add("file", 1);
     try {
-        po::variables_map values;
+        po::variables_map map;
         po::store(po::command_line_parser(argc, argv).options(options).positional(positional).run(),
-                  values);
-        po::notify(values);
+                  map);
+        po::notify(map);
     } catch (const std::exception& failure) {
         std::fprintf(stderr, "%s\n", failure.what());
         return 1;
     }
-    std::printf("%s %d %g %d %s\n", name.c_str(), count, ratio, quiet ? 1 : 0, file.c_str());
-    return 0;
+    return values.print();
 }

@@ -10,98 +10,65 @@ import statistics
 import subprocess
 import sys
 import time
+from pathlib import Path
 
-PEERS = {
-    "zarn": ("zarn_client.cpp", None),
-    "zarn-typed": ("typed_client.cpp", None),
-    "getopt_long": ("getopt_client.cpp", []),
-    "argp": ("argp_client.cpp", []),
-    "popt": ("popt_client.cpp", ["-lpopt"]),
-    "args": ("args_client.cpp", []),
-    "cxxopts": ("cxxopts_client.cpp", []),
-    "CLI11": ("cli11_client.cpp", []),
-    "TCLAP": ("tclap_client.cpp", []),
-    "Boost": ("boost_client.cpp", ["-lboost_program_options"]),
-}
+PEERS = "zarn zarn-typed getopt_long argp popt args cxxopts CLI11 TCLAP Boost".split()
 ARGUMENTS = ["--name=you", "--count=3", "--ratio=1.25", "--quiet", "here.txt"]
 EXPECTED = "you 3 1.25 1 here.txt\n"
 
 
-def seconds(command):
+def output_of(*command):
+    return subprocess.run(command, check=True, stdout=subprocess.PIPE, text=True).stdout
+
+
+def seconds(action):
     start = time.perf_counter()
-    subprocess.run(command, check=True)
+    action()
     return time.perf_counter() - start
 
 
-def build(compiler, flags, source, program, libraries, compilations):
-    """Compiles, links and strips; answers the median time of the compilation alone."""
-    compile_command = [compiler, "-std=c++17", "-O2", *flags, "-c", source, "-o", program + ".o"]
-    median = statistics.median(seconds(compile_command) for _ in range(compilations))
-    subprocess.run([compiler, program + ".o", "-o", program, *libraries], check=True)
-    subprocess.run(["strip", program], check=True)
-    return median
+def build(peer, compiler, include, libraries, scratch, compilations):
+    """Compiles, links and strips; the program, and the median time of the compilation alone."""
+    source = Path(__file__).parent / f"{peer.lower().replace('-', '_')}_client.cpp"
+    program = os.path.join(scratch, peer)
+    compile_it = [compiler, "-std=c++17", "-O2", "-I", include, "-c", source, "-o", program + ".o"]
+    times = [seconds(lambda: output_of(*compile_it)) for _ in range(int(compilations))]
+    output_of(compiler, program + ".o", "-o", program, "-Wl,--as-needed", *libraries)
+    output_of("strip", program)
+    if output_of(program, *ARGUMENTS) != EXPECTED:
+        sys.exit(f"{program} did not print {EXPECTED!r}")
+    return program, statistics.median(times)
 
 
-def require_same_work(program):
-    output = subprocess.run([program, *ARGUMENTS], check=True, capture_output=True, text=True)
-    if output.stdout != EXPECTED:
-        sys.exit(f"{program} printed {output.stdout!r}, not {EXPECTED!r}")
-
-
-def time_processes(programs, runs):
-    """Median microseconds from the start to the end of a process, the programs in turns."""
+def run(program):
     silent = [(os.POSIX_SPAWN_OPEN, 1, os.devnull, os.O_WRONLY, 0)]
-    times = {name: [] for name in programs}
-    for _ in range(runs):
-        for name, program in programs.items():
-            start = time.perf_counter()
-            child = os.posix_spawn(
-                program, [program, *ARGUMENTS], os.environ, file_actions=silent
-            )
-            os.waitpid(child, 0)
-            times[name].append((time.perf_counter() - start) * 1e6)
-    return {name: statistics.median(values) for name, values in times.items()}
+    child = os.posix_spawn(program, [program, *ARGUMENTS], os.environ, file_actions=silent)
+    os.waitpid(child, 0)
 
 
 def library_bytes(library):
     """Code and read-only data as `size` counts them, and code alone."""
-
-    def size(*options):
-        command = ["size", *options, library]
-        output = subprocess.run(command, check=True, capture_output=True, text=True).stdout
-        return [line.split() for line in output.splitlines()]
-
-    code = next(fields for fields in size("-A") if fields[:1] == [".text"])
-    return {"text": int(size()[1][0]), "code": int(code[1])}
+    sections = [line.split() for line in output_of("size", "-A", library).splitlines()]
+    code = next(fields[1] for fields in sections if fields[:1] == [".text"])
+    return {"text": int(output_of("size", library).splitlines()[1].split()[0]), "code": int(code)}
 
 
 def main():
     compiler, include, library, scratch, compilations, runs = sys.argv[1:]
-    sources = os.path.dirname(os.path.abspath(__file__))
     os.makedirs(scratch, exist_ok=True)
-    library = os.path.abspath(library)
-    zarn = [library, "-Wl,-rpath," + os.path.dirname(library)]
-    results = {}
+    rpath = f"-Wl,-rpath,{os.path.dirname(library)}"
+    libraries = [library, rpath, "-lpopt", "-lboost_program_options"]
+    results = {"library/1/zarn": library_bytes(library)}
     programs = {}
-    for name, (source, libraries) in PEERS.items():
-        programs[name] = os.path.join(scratch, name)
-        flags = ["-I", include] if libraries is None else []
-        compile_seconds = build(
-            compiler,
-            flags,
-            os.path.join(sources, source),
-            programs[name],
-            zarn if libraries is None else libraries,
-            int(compilations),
-        )
-        require_same_work(programs[name])
-        results[f"client/1/{name}"] = {
-            "compile": compile_seconds,
-            "size": os.path.getsize(programs[name]),
-        }
-    for name, median in time_processes(programs, int(runs)).items():
-        results[f"client/1/{name}"]["process"] = median
-    results["library/1/zarn"] = library_bytes(library)
+    for peer in PEERS:
+        programs[peer], median = build(peer, compiler, include, libraries, scratch, compilations)
+        size = os.path.getsize(programs[peer])
+        results[f"client/1/{peer}"] = {"compile": median, "size": size}
+    # Processes from start to end, the programs in turns.
+    turns = [{p: seconds(lambda: run(programs[p])) for p in PEERS} for _ in range(int(runs))]
+    for peer in PEERS:
+        median = statistics.median(turn[peer] for turn in turns)
+        results[f"client/1/{peer}"]["process"] = median * 1e6
     print(json.dumps(results, indent=2))
 
 

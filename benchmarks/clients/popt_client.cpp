@@ -1,7 +1,8 @@
 #include <popt.h>
 
-#include <cstdio>
 #include <cstdlib>
+
+#include "client.h"
 
 int main(int argc, char** argv) {
     char* name = nullptr;
@@ -23,12 +24,8 @@ int main(int argc, char** argv) {
         return 1;
     }
     const char* file = poptGetArg(context);
-    std::printf("%s %d %g %d %s\n",
-                name != nullptr ? name : "world",
-                count,
-                ratio,
-                quiet,
-                file != nullptr ? file : "");
+    const char* greeted = name != nullptr ? name : "world";
+    Values<const char*>{greeted, count, ratio, quiet != 0, file != nullptr ? file : ""}.print();
     std::free(name);
     poptFreeContext(context);
     return 0;

@@ -1,7 +1,8 @@
 #include <tclap/CmdLine.h>
 
-#include <cstdio>
 #include <string>
+
+#include "client.h"
 
 int main(int argc, char** argv) {
     using TCLAP::ValueArg;
@@ -13,11 +14,7 @@ int main(int argc, char** argv) {
     TCLAP::UnlabeledValueArg<std::string> file(
         "file", "what to read", false, "", "text", commandLine);
     commandLine.parse(argc, argv);
-    std::printf("%s %d %g %d %s\n",
-                name.getValue().c_str(),
-                count.getValue(),
-                ratio.getValue(),
-                quiet.getValue() ? 1 : 0,
-                file.getValue().c_str());
-    return 0;
+    const Values<std::string> values{
+        name.getValue(), count.getValue(), ratio.getValue(), quiet.getValue(), file.getValue()};
+    return values.print();
 }

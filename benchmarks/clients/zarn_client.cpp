@@ -1,5 +1,6 @@
-#include <cstdio>
+#include <climits>
 
+#include "client.h"
 #include "zarn/zarn.h"
 
 int main(int argc, char** argv) {
@@ -17,14 +18,13 @@ int main(int argc, char** argv) {
 
     const int code = parser->parseArgsVector(argc, argv, result);
     if (code == zarn::resultOk) {
-        const zarn::Value name = result->get("name", 0, 0x7fffffff);
-        const zarn::Value file = result->get("file", 0, 0x7fffffff);
-        std::printf("%s %d %g %d %s\n",
-                    name.text,
-                    result->get("count", 0, 0x7fffffff).value.get<int>(),
-                    result->get("ratio", 0, 0x7fffffff).value.get<double>(),
-                    result->present("quiet", 0, 0x7fffffff) ? 1 : 0,
-                    file.status == 0 ? file.text : "");
+        const auto value = [result](const char* name) { return result->get(name, 0, INT_MAX); };
+        const Values<const char*> values{value("name").text,
+                                         value("count").value.get<int>(),
+                                         value("ratio").value.get<double>(),
+                                         result->present("quiet", 0, INT_MAX),
+                                         value("file").status == 0 ? value("file").text : ""};
+        values.print();
     } else {
         std::fprintf(stderr, "%s\n", parser->getErrorDesc());
     }

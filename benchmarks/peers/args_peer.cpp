@@ -1,113 +1,99 @@
 // args: one object an option, read through it.
 
 #include <args.hxx>
-#include <sstream>
 #include <unordered_map>
 
 #include "peer.h"
-#include "peers/value_lists.h"
+#include "peers/value_types.h"
 
 namespace zarn_benchmarks {
 
 namespace {
 
 using Text = std::string;
-using ChoiceFlag = args::MapFlag<Text, Text>;
+using Choice = args::MapFlag<Text, Text>;
+using Positional = args::PositionalList<Text>;
 
-class ArgsSession final : public ISession {
+const std::unordered_map<Text, Text> choiceTexts = [] {
+    std::unordered_map<Text, Text> texts;
+    for (const char* choice : choices) {
+        texts[choice] = choice;
+    }
+    return texts;
+}();
+
+// The class of the options whose values have this type.
+template <typename Type>
+struct OptionClass {
+    using Flag = args::ValueFlag<Type>;
+};
+template <typename Item>
+struct OptionClass<std::vector<Item>> {
+    using Flag = args::ValueFlagList<Item>;
+};
+template <>
+struct OptionClass<bool> {
+    using Flag = args::Flag;
+};
+template <typename Type>
+using FlagFor = typename OptionClass<std::decay_t<Type>>::Flag;
+
+class ArgsSession final : public Session {
 public:
-    explicit ArgsSession(const Vocabulary& words) : vocabulary(words), parser("bench") {
-        options.reserve(words.options.size());
-        for (const DeclaredOption& item : words.options) {
-            options.push_back(declare(item));
+    explicit ArgsSession(const Vocabulary& vocabulary) : Session(vocabulary), parser_("bench") {
+        options_.reserve(vocabulary.options.size());
+        for (const DeclaredOption& item : vocabulary.options) {
+            declare(item);
         }
     }
 
     void parse(const CommandLine& line) override {
-        if (!parser.ParseCLI(line.argc(), line.argv())) {
+        if (!parser_.ParseCLI(line.argc(), line.argv())) {
             throw std::runtime_error("args refuses an argument");
         }
     }
 
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
-        for (std::size_t option : asked) {
-            readOne(vocabulary.options[option], *options[option], sum);
+    void read(std::size_t option, Checksum* sum) override {
+        args::Base& found = *options_[option];
+        if (item(option).positional) {
+            sum->add(args::get(static_cast<Positional&>(found)));
+        } else if (item(option).kind == Kind::choice) {
+            sum->add(args::get(static_cast<Choice&>(found)));
+        } else {
+            withTypeOf(item(option), vocabulary_.multiValued, [&](const auto& empty) {
+                sum->add(args::get(static_cast<FlagFor<decltype(empty)>&>(found)));
+            });
         }
     }
 
-    std::string help() override { return parser.Help(); }
+    std::string help() override { return parser_.Help(); }
 
 private:
-    static const std::unordered_map<Text, Text>& choiceMap() {
-        static const std::unordered_map<Text, Text> map = [] {
-            std::unordered_map<Text, Text> texts;
-            for (const char* choice : choices) {
-                texts[choice] = choice;
-            }
-            return texts;
-        }();
-        return map;
+    template <typename Option, typename... More>
+    void add(const DeclaredOption& item, More&&... more) {
+        options_.push_back(std::make_unique<Option>(
+            parser_, item.name, item.description, std::forward<More>(more)...));
     }
 
-    std::unique_ptr<args::Base> declare(const DeclaredOption& item) {
-        const Text& name = item.name;
-        const Text& help = item.description;
+    void declare(const DeclaredOption& item) {
+        args::Matcher matcher{item.name};
         if (item.positional) {
-            return std::make_unique<args::PositionalList<Text>>(parser, name, help);
-        }
-        args::Matcher matcher{name};
-        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            return std::make_unique<args::Flag>(parser, name, help, std::move(matcher));
-        }
-        if (item.kind == Kind::real) {
-            return std::make_unique<args::ValueFlag<double>>(
-                parser, name, help, std::move(matcher));
-        }
-        if (item.kind == Kind::choice) {
-            return std::make_unique<ChoiceFlag>(
-                parser, name, help, std::move(matcher), choiceMap());
-        }
-        if (item.kind == Kind::integer && vocabulary.multiValued) {
-            return std::make_unique<args::ValueFlagList<int>>(
-                parser, name, help, std::move(matcher));
-        }
-        if (item.kind == Kind::integer) {
-            return std::make_unique<args::ValueFlag<int>>(parser, name, help, std::move(matcher));
-        }
-        if (vocabulary.multiValued) {
-            return std::make_unique<args::ValueFlagList<Text>>(
-                parser, name, help, std::move(matcher));
-        }
-        return std::make_unique<args::ValueFlag<Text>>(parser, name, help, std::move(matcher));
-    }
-
-    void readOne(const DeclaredOption& item, args::Base& base, Checksum* sum) const {
-        if (item.positional) {
-            addAll(args::get(static_cast<args::PositionalList<Text>&>(base)), sum);
-        } else if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            sum->addNumber(args::get(static_cast<args::Flag&>(base)) ? 1 : 0);
-        } else if (item.kind == Kind::real) {
-            sum->addReal(args::get(static_cast<args::ValueFlag<double>&>(base)));
+            add<Positional>(item);
         } else if (item.kind == Kind::choice) {
-            sum->addText(args::get(static_cast<ChoiceFlag&>(base)));
-        } else if (item.kind == Kind::integer && vocabulary.multiValued) {
-            addAll(args::get(static_cast<args::ValueFlagList<int>&>(base)), sum);
-        } else if (item.kind == Kind::integer) {
-            sum->addInteger(args::get(static_cast<args::ValueFlag<int>&>(base)));
-        } else if (vocabulary.multiValued) {
-            addAll(args::get(static_cast<args::ValueFlagList<Text>&>(base)), sum);
+            add<Choice>(item, std::move(matcher), choiceTexts);
         } else {
-            sum->addText(args::get(static_cast<args::ValueFlag<Text>&>(base)));
+            withTypeOf(item, vocabulary_.multiValued, [&](const auto& empty) {
+                add<FlagFor<decltype(empty)>>(item, std::move(matcher));
+            });
         }
     }
 
-    const Vocabulary& vocabulary;
-    args::ArgumentParser parser;
-    std::vector<std::unique_ptr<args::Base>> options;
+    args::ArgumentParser parser_;
+    std::vector<std::unique_ptr<args::Base>> options_;
 };
 
 }  // namespace
 
-Peer argsPeer() { return makePeer<ArgsSession>("args", Limits()); }
+Peer argsPeer() { return makePeer<ArgsSession>("args", canHelp | canTakeMany | canBeCounted); }
 
 }  // namespace zarn_benchmarks

@@ -1,87 +1,62 @@
 // CLI11: options bound to the tool's variables.
 
 #include <CLI/CLI.hpp>
+#include <variant>
 
 #include "peer.h"
-#include "peers/value_lists.h"
+#include "peers/value_types.h"
 
 namespace zarn_benchmarks {
 
 namespace {
 
-struct Field {
-    std::string text;
-    int integer = 0;
-    double real = 0;
-    bool flag = false;
-    std::vector<std::string> texts;
-    std::vector<int> integers;
-};
+using Field =
+    std::variant<bool, int, double, std::string, std::vector<int>, std::vector<std::string>>;
 
-class Cli11Session final : public ISession {
+class Cli11Session final : public Session {
 public:
-    explicit Cli11Session(const Vocabulary& words)
-        : vocabulary(words), fields(words.options.size()), app("bench") {
-        for (std::size_t i = 0; i < words.options.size(); ++i) {
-            const DeclaredOption& item = words.options[i];
-            declare(item, item.positional ? item.name : "--" + item.name, &fields[i]);
+    explicit Cli11Session(const Vocabulary& vocabulary)
+        : Session(vocabulary), fields_(vocabulary.options.size()), app_("bench") {
+        for (std::size_t i = 0; i < fields_.size(); ++i) {
+            withTypeOf(item(i), vocabulary.multiValued, [&](const auto& empty) {
+                fields_[i] = empty;
+                declare(item(i), &std::get<std::decay_t<decltype(empty)>>(fields_[i]));
+            });
         }
     }
 
-    void parse(const CommandLine& line) override { app.parse(line.argc(), line.argv()); }
+    void parse(const CommandLine& line) override { app_.parse(line.argc(), line.argv()); }
 
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
-        for (std::size_t option : asked) {
-            readOne(vocabulary.options[option].kind, fields[option], sum);
-        }
+    void read(std::size_t option, Checksum* sum) override {
+        std::visit([sum](const auto& value) { sum->add(value); }, fields_[option]);
     }
 
-    std::string help() override { return app.help(); }
+    std::string help() override { return app_.help(); }
 
 private:
-    void declare(const DeclaredOption& item, const std::string& name, Field* field) {
-        const bool multiValued = vocabulary.multiValued;
-        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            app.add_flag(name, field->flag, item.description);
-        } else if (item.kind == Kind::real) {
-            app.add_option(name, field->real, item.description);
-        } else if (item.kind == Kind::choice) {
-            const std::vector<std::string> members(std::begin(choices), std::end(choices));
-            app.add_option(name, field->text, item.description)->check(CLI::IsMember(members));
-        } else if (item.kind == Kind::integer && multiValued) {
-            app.add_option(name, field->integers, item.description)->allow_extra_args(false);
-        } else if (item.kind == Kind::integer) {
-            app.add_option(name, field->integer, item.description);
-        } else if (multiValued) {
-            app.add_option(name, field->texts, item.description)->allow_extra_args(item.positional);
-        } else {
-            app.add_option(name, field->text, item.description);
+    void declare(const DeclaredOption& item, bool* flag) {
+        app_.add_flag("--" + item.name, *flag, item.description);
+    }
+
+    template <typename Type>
+    void declare(const DeclaredOption& item, Type* value) {
+        const std::string name = item.positional ? item.name : "--" + item.name;
+        CLI::Option* option = app_.add_option(name, *value, item.description);
+        if (item.kind == Kind::choice) {
+            option->check(
+                CLI::IsMember(std::vector<std::string>(std::begin(choices), std::end(choices))));
+        }
+        if (vocabulary_.multiValued) {
+            option->allow_extra_args(item.positional);
         }
     }
 
-    void readOne(Kind kind, const Field& field, Checksum* sum) const {
-        if (kind == Kind::real) {
-            sum->addReal(field.real);
-        } else if (kind == Kind::flag || kind == Kind::toggle) {
-            sum->addNumber(field.flag ? 1 : 0);
-        } else if (kind == Kind::integer && vocabulary.multiValued) {
-            addAll(field.integers, sum);
-        } else if (kind == Kind::integer) {
-            sum->addInteger(field.integer);
-        } else if (vocabulary.multiValued) {
-            addAll(field.texts, sum);
-        } else {
-            sum->addText(field.text);
-        }
-    }
-
-    const Vocabulary& vocabulary;
-    std::vector<Field> fields;
-    CLI::App app;
+    std::vector<Field> fields_;
+    CLI::App app_;
 };
 
 }  // namespace
 
-Peer cli11Peer() { return makePeer<Cli11Session>("CLI11", Limits()); }
+Peer cli11Peer() { return makePeer<Cli11Session>("CLI11", canHelp | canTakeMany | canBeCounted); }
 
 }  // namespace zarn_benchmarks

@@ -5,8 +5,7 @@
 #include <cstring>
 #include <string_view>
 
-#include "peer.h"
-#include "peers/field_store.h"
+#include "peers/field_session.h"
 
 namespace zarn_benchmarks {
 
@@ -15,13 +14,8 @@ namespace {
 constexpr std::uint32_t none = 0xFFFFFFFFu;
 
 struct Entry {
-    const char* text;
-    std::uint32_t size;
+    Field value;
     std::uint32_t next;
-    union {
-        int integer;
-        double real;
-    };
 };
 
 struct Chain {
@@ -29,33 +23,42 @@ struct Chain {
     std::uint32_t last = none;
 };
 
-class FloorSession final : public ISession {
+template <typename Number>
+Number toNumber(const char* text) {
+    Number number{};
+    const char* end = text + std::strlen(text);
+    const std::from_chars_result result = std::from_chars(text, end, number);
+    if (result.ec != std::errc() || result.ptr != end) {
+        throw std::runtime_error("not a number");
+    }
+    return number;
+}
+
+class FloorSession final : public Session {
 public:
-    explicit FloorSession(const Vocabulary& words) : vocabulary(words) {
+    explicit FloorSession(const Vocabulary& vocabulary) : Session(vocabulary) {
         std::size_t size = 16;
-        while (size < words.options.size() * 2) {
+        while (size < vocabulary.options.size() * 2) {
             size *= 2;
         }
-        slots.assign(size, none);
-        for (std::size_t i = 0; i < words.options.size(); ++i) {
-            *find(words.options[i].name) = static_cast<std::uint32_t>(i);
+        slots_.assign(size, none);
+        for (std::size_t i = 0; i < vocabulary.options.size(); ++i) {
+            *find(vocabulary.options[i].name) = static_cast<std::uint32_t>(i);
         }
     }
 
     void parse(const CommandLine& line) override {
-        chains.resize(vocabulary.options.size());
-        entries.reserve(static_cast<std::size_t>(line.argc()));
+        chains_.resize(vocabulary_.options.size());
+        entries_.reserve(static_cast<std::size_t>(line.argc()));
         for (int i = 1; i < line.argc(); ++i) {
             parseOne(line.argv()[i]);
         }
     }
 
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
-        for (std::size_t option : asked) {
-            const std::uint32_t found = *find(vocabulary.options[option].name);
-            for (std::uint32_t i = chains[found].first; i != none; i = entries[i].next) {
-                readOne(vocabulary.options[found].kind, entries[i], sum);
-            }
+    void read(std::size_t option, Checksum* sum) override {
+        const std::uint32_t found = *find(item(option).name);
+        for (std::uint32_t i = chains_[found].first; i != none; i = entries_[i].next) {
+            addField(item(found).kind, entries_[i].value, sum);
         }
     }
 
@@ -66,8 +69,8 @@ private:
             hash = (hash ^ static_cast<unsigned char>(c)) * 0x100000001B3u;
         }
         for (std::size_t i = hash ^ (hash >> 20);; ++i) {
-            std::uint32_t& slot = slots[i & (slots.size() - 1)];
-            if (slot == none || vocabulary.options[slot].name == name) {
+            std::uint32_t& slot = slots_[i & (slots_.size() - 1)];
+            if (slot == none || item(slot).name == name) {
                 return &slot;
             }
         }
@@ -78,70 +81,43 @@ private:
             keep(0, argument);
             return;
         }
-        const std::string_view text = argument + 2;
-        const std::size_t end = text.find('=');
-        const std::uint32_t option = *find(text.substr(0, end));
+        const char* name = argument + 2;
+        const char* end = strchrnul(name, '=');
+        const std::uint32_t option = *find({name, static_cast<std::size_t>(end - name)});
         if (option == none) {
             throw std::runtime_error("unknown option");
         }
-        keep(option, end == std::string_view::npos ? std::string_view() : text.substr(end + 1));
+        keep(option, *end == '=' ? end + 1 : end);
     }
 
-    void keep(std::uint32_t option, std::string_view text) {
-        const auto index = static_cast<std::uint32_t>(entries.size());
-        Chain& chain = chains[option];
-        (chain.first == none ? chain.first : entries[chain.last].next) = index;
+    void keep(std::uint32_t option, const char* text) {
+        const auto index = static_cast<std::uint32_t>(entries_.size());
+        Chain& chain = chains_[option];
+        (chain.first == none ? chain.first : entries_[chain.last].next) = index;
         chain.last = index;
-        Entry entry{text.data(), static_cast<std::uint32_t>(text.size()), none, {0}};
-        const Kind kind = vocabulary.options[option].kind;
-        const char* end = text.data() + text.size();
+        entries_.push_back({valueOf(item(option).kind, text), none});
+    }
+
+    static Field valueOf(Kind kind, const char* text) {
         if (kind == Kind::integer) {
-            requireAll(std::from_chars(text.data(), end, entry.integer), end);
-        } else if (kind == Kind::real) {
-            requireAll(std::from_chars(text.data(), end, entry.real), end);
-        } else if (kind == Kind::choice) {
-            requireChoice(text.data());
+            return toNumber<int>(text);
         }
-        entries.push_back(entry);
+        if (kind == Kind::real) {
+            return toNumber<double>(text);
+        }
+        if (kind == Kind::choice) {
+            requireChoice(text);
+        }
+        return isSwitch(kind) ? Field(1) : Field(text);
     }
 
-    static void requireAll(const std::from_chars_result& result, const char* end) {
-        if (result.ec != std::errc() || result.ptr != end) {
-            throw std::runtime_error("not a number");
-        }
-    }
-
-    static void readOne(Kind kind, const Entry& entry, Checksum* sum) {
-        switch (kind) {
-            case Kind::integer:
-                sum->addInteger(entry.integer);
-                break;
-            case Kind::real:
-                sum->addReal(entry.real);
-                break;
-            case Kind::text:
-            case Kind::choice:
-                sum->addText({entry.text, entry.size});
-                break;
-            case Kind::flag:
-            case Kind::toggle:
-                sum->addNumber(1);
-                break;
-        }
-    }
-
-    const Vocabulary& vocabulary;
-    std::vector<std::uint32_t> slots;
-    std::vector<Chain> chains;
-    std::vector<Entry> entries;
+    std::vector<std::uint32_t> slots_;
+    std::vector<Chain> chains_;
+    std::vector<Entry> entries_;
 };
 
 }  // namespace
 
-Peer floorPeer() {
-    Limits limits;
-    limits.help = false;
-    return makePeer<FloorSession>("floor", limits);
-}
+Peer floorPeer() { return makePeer<FloorSession>("floor", canTakeMany | canBeCounted); }
 
 }  // namespace zarn_benchmarks

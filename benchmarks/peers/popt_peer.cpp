@@ -2,119 +2,95 @@
 
 #include <popt.h>
 
-#include <cstdio>
 #include <cstdlib>
 
-#include "peer.h"
-#include "peers/field_store.h"
+#include "peers/field_session.h"
 
 namespace zarn_benchmarks {
 
 namespace {
 
-class PoptSession final : public ISession {
+class PoptSession final : public FieldSession {
 public:
-    explicit PoptSession(const Vocabulary& words) : vocabulary(words), fields(words) {
-        table.reserve(words.options.size() + 1);
-        for (std::size_t i = 0; i < words.options.size(); ++i) {
-            table.push_back(row(words.options[i], static_cast<int>(i) + 1));
+    explicit PoptSession(const Vocabulary& vocabulary) : FieldSession(vocabulary) {
+        table_.reserve(vocabulary.options.size() + 1);
+        int code = 0;
+        for (const DeclaredOption& item : vocabulary.options) {
+            table_.push_back(row(item, ++code));
         }
-        table.push_back({nullptr, '\0', 0, nullptr, 0, nullptr, nullptr});
+        table_.push_back({nullptr, '\0', 0, nullptr, 0, nullptr, nullptr});
     }
 
     ~PoptSession() override {
-        for (char* text : texts) {
+        for (char* text : texts_) {
             std::free(text);
         }
-        poptFreeContext(context);
+        poptFreeContext(context_);
     }
 
-    PoptSession(const PoptSession&) = delete;
-    PoptSession& operator=(const PoptSession&) = delete;
-
     void parse(const CommandLine& line) override {
-        const auto argv = const_cast<const char**>(line.argv());
-        context = poptGetContext("bench", line.argc(), argv, table.data(), 0);
+        begin(line.argc(), const_cast<const char**>(line.argv()));
         int code = 0;
-        while ((code = poptGetNextOpt(context)) > 0) {
+        while ((code = poptGetNextOpt(context_)) > 0) {
             take(static_cast<std::size_t>(code) - 1);
         }
         if (code != -1) {
             throw std::runtime_error("popt refuses an argument");
         }
-        const char** rest = poptGetArgs(context);
+        const char** rest = poptGetArgs(context_);
         while (rest != nullptr && *rest != nullptr) {
-            fields.keep(0, *rest++);
+            keepArgument(0, *rest++);
         }
-    }
-
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
-        fields.read(asked, sum);
     }
 
     std::string help() override {
         const char* argv[] = {"bench", nullptr};
-        context = poptGetContext("bench", 1, argv, table.data(), 0);
-        char* text = nullptr;
-        std::size_t size = 0;
-        std::FILE* stream = open_memstream(&text, &size);
-        poptPrintHelp(context, stream, 0);
-        std::fclose(stream);
-        std::string copy(text, size);
-        std::free(text);
-        return copy;
+        begin(1, argv);
+        return printed([this](std::FILE* stream) { poptPrintHelp(context_, stream, 0); });
     }
 
 private:
     poptOption row(const DeclaredOption& item, int code) {
-        poptOption option{item.name.c_str(),
-                          '\0',
-                          POPT_ARG_STRING,
-                          nullptr,
-                          code,
-                          item.description.c_str(),
-                          "VALUE"};
+        unsigned type = isSwitch(item.kind) ? POPT_ARG_NONE : POPT_ARG_STRING;
+        void* target = nullptr;
         if (item.kind == Kind::integer) {
-            option.argInfo = POPT_ARG_INT;
-            option.arg = &integer;
+            type = POPT_ARG_INT;
+            target = &integer_;
         } else if (item.kind == Kind::real) {
-            option.argInfo = POPT_ARG_DOUBLE;
-            option.arg = &real;
-        } else if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            option.argInfo = POPT_ARG_NONE;
+            type = POPT_ARG_DOUBLE;
+            target = &real_;
         }
-        return option;
+        const char* help = item.description.c_str();
+        return {item.name.c_str(), '\0', type, target, code, help, "VALUE"};
+    }
+
+    void begin(int argc, const char** argv) {
+        context_ = poptGetContext("bench", argc, argv, table_.data(), 0);
     }
 
     void take(std::size_t option) {
-        const Kind kind = vocabulary.options[option].kind;
+        const Kind kind = item(option).kind;
         if (kind == Kind::integer) {
-            fields.keepInteger(option, integer);
+            keep(option, integer_);
         } else if (kind == Kind::real) {
-            fields.keepReal(option, real);
-        } else if (kind == Kind::flag || kind == Kind::toggle) {
-            fields.keepInteger(option, 1);
+            keep(option, real_);
+        } else if (isSwitch(kind)) {
+            keep(option, 1);
         } else {
-            texts.push_back(poptGetOptArg(context));
-            fields.keep(option, texts.back());
+            texts_.push_back(poptGetOptArg(context_));
+            keepArgument(option, texts_.back());
         }
     }
 
-    const Vocabulary& vocabulary;
-    FieldStore fields;
-    std::vector<poptOption> table;
-    std::vector<char*> texts;
-    poptContext context = nullptr;
-    int integer = 0;
-    double real = 0;
+    std::vector<poptOption> table_;
+    std::vector<char*> texts_;
+    poptContext context_ = nullptr;
+    int integer_ = 0;
+    double real_ = 0;
 };
 
 }  // namespace
 
-Peer poptPeer() {
-    Limits limits;
-    limits.allocationsAreCounted = false;
-    return makePeer<PoptSession>("popt", limits);
-}
+Peer poptPeer() { return makePeer<PoptSession>("popt", canHelp | canTakeMany); }
 
 }  // namespace zarn_benchmarks

@@ -5,13 +5,15 @@
 #include <sstream>
 
 #include "peer.h"
-#include "peers/value_lists.h"
+#include "peers/value_types.h"
 
 namespace zarn_benchmarks {
 
 namespace {
 
 using Text = std::string;
+
+std::vector<Text> choiceTexts(std::begin(choices), std::end(choices));
 
 class HelpText : public TCLAP::StdOutput {
 public:
@@ -22,87 +24,80 @@ public:
     }
 };
 
-class TclapSession final : public ISession {
+class TclapSession final : public Session {
 public:
-    explicit TclapSession(const Vocabulary& words)
-        : vocabulary(words), commandLine("bench", '=', "1", false), allowed(choiceTexts()) {
-        commandLine.setExceptionHandling(false);
-        options.reserve(words.options.size());
-        for (const DeclaredOption& item : words.options) {
-            options.push_back(declare(item));
+    explicit TclapSession(const Vocabulary& vocabulary)
+        : Session(vocabulary), commandLine_("bench", '=', "1", false), allowed_(choiceTexts) {
+        commandLine_.setExceptionHandling(false);
+        options_.reserve(vocabulary.options.size());
+        for (const DeclaredOption& item : vocabulary.options) {
+            declare(item);
         }
     }
 
-    void parse(const CommandLine& line) override { commandLine.parse(line.argc(), line.argv()); }
+    void parse(const CommandLine& line) override { commandLine_.parse(line.argc(), line.argv()); }
 
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override {
-        for (std::size_t option : asked) {
-            readOne(vocabulary.options[option], *options[option], sum);
-        }
+    void read(std::size_t option, Checksum* sum) override {
+        withTypeOf(item(option), vocabulary_.multiValued, [&](const auto& empty) {
+            sum->add(valueOf(*options_[option], empty));
+        });
     }
 
-    std::string help() override { return HelpText().of(commandLine); }
+    std::string help() override { return HelpText().of(commandLine_); }
 
 private:
-    static std::vector<Text>& choiceTexts() {
-        static std::vector<Text> texts(std::begin(choices), std::end(choices));
-        return texts;
+    static bool valueOf(TCLAP::Arg& arg, bool) {
+        return static_cast<TCLAP::SwitchArg&>(arg).getValue();
     }
 
-    std::unique_ptr<TCLAP::Arg> declare(const DeclaredOption& item) {
-        using namespace TCLAP;
-        const Text& name = item.name;
+    template <typename Item>
+    static const std::vector<Item>& valueOf(TCLAP::Arg& arg, const std::vector<Item>&) {
+        return static_cast<TCLAP::MultiArg<Item>&>(arg).getValue();
+    }
+
+    template <typename Type>
+    static const Type& valueOf(TCLAP::Arg& arg, const Type&) {
+        return static_cast<TCLAP::ValueArg<Type>&>(arg).getValue();
+    }
+
+    template <typename Option, typename... More>
+    void add(More&&... more) {
+        options_.push_back(std::make_unique<Option>(std::forward<More>(more)..., commandLine_));
+    }
+
+    void declare(const DeclaredOption& item, bool) {
+        add<TCLAP::SwitchArg>("", item.name, item.description);
+    }
+
+    template <typename Item>
+    void declare(const DeclaredOption& item, const std::vector<Item>&) {
+        add<TCLAP::MultiArg<Item>>("", item.name, item.description, false, "v");
+    }
+
+    template <typename Type>
+    void declare(const DeclaredOption& item, const Type& none) {
+        add<TCLAP::ValueArg<Type>>("", item.name, item.description, false, none, "v");
+    }
+
+    void declare(const DeclaredOption& item) {
         const Text& help = item.description;
         if (item.positional) {
-            return std::make_unique<UnlabeledMultiArg<Text>>(name, help, false, "v", commandLine);
-        }
-        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            return std::make_unique<SwitchArg>("", name, help, commandLine);
-        }
-        if (item.kind == Kind::real) {
-            return std::make_unique<ValueArg<double>>("", name, help, false, 0, "v", commandLine);
-        }
-        if (item.kind == Kind::choice) {
-            return std::make_unique<ValueArg<Text>>(
-                "", name, help, false, "", &allowed, commandLine);
-        }
-        if (item.kind == Kind::integer && vocabulary.multiValued) {
-            return std::make_unique<MultiArg<int>>("", name, help, false, "v", commandLine);
-        }
-        if (item.kind == Kind::integer) {
-            return std::make_unique<ValueArg<int>>("", name, help, false, 0, "v", commandLine);
-        }
-        if (vocabulary.multiValued) {
-            return std::make_unique<MultiArg<Text>>("", name, help, false, "v", commandLine);
-        }
-        return std::make_unique<ValueArg<Text>>("", name, help, false, "", "v", commandLine);
-    }
-
-    void readOne(const DeclaredOption& item, TCLAP::Arg& arg, Checksum* sum) const {
-        using namespace TCLAP;
-        if (item.kind == Kind::flag || item.kind == Kind::toggle) {
-            sum->addNumber(static_cast<SwitchArg&>(arg).getValue() ? 1 : 0);
-        } else if (item.kind == Kind::real) {
-            sum->addReal(static_cast<ValueArg<double>&>(arg).getValue());
-        } else if (item.kind == Kind::integer && vocabulary.multiValued) {
-            addAll(static_cast<MultiArg<int>&>(arg).getValue(), sum);
-        } else if (item.kind == Kind::integer) {
-            sum->addInteger(static_cast<ValueArg<int>&>(arg).getValue());
-        } else if (vocabulary.multiValued) {
-            addAll(static_cast<MultiArg<Text>&>(arg).getValue(), sum);
+            add<TCLAP::UnlabeledMultiArg<Text>>(item.name, help, false, "v");
+        } else if (item.kind == Kind::choice) {
+            add<TCLAP::ValueArg<Text>>("", item.name, help, false, "", &allowed_);
         } else {
-            sum->addText(static_cast<ValueArg<Text>&>(arg).getValue());
+            withTypeOf(
+                item, vocabulary_.multiValued, [&](const auto& empty) { declare(item, empty); });
         }
     }
 
-    const Vocabulary& vocabulary;
-    TCLAP::CmdLine commandLine;
-    TCLAP::ValuesConstraint<Text> allowed;
-    std::vector<std::unique_ptr<TCLAP::Arg>> options;
+    TCLAP::CmdLine commandLine_;
+    TCLAP::ValuesConstraint<Text> allowed_;
+    std::vector<std::unique_ptr<TCLAP::Arg>> options_;
 };
 
 }  // namespace
 
-Peer tclapPeer() { return makePeer<TclapSession>("TCLAP", Limits()); }
+Peer tclapPeer() { return makePeer<TclapSession>("TCLAP", canHelp | canTakeMany | canBeCounted); }
 
 }  // namespace zarn_benchmarks

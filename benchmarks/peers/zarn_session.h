@@ -6,39 +6,104 @@
 #include <climits>
 
 #include "peer.h"
+#include "zarn/typed/owned.h"
 #include "zarn/zarn.h"
 
 namespace zarn_benchmarks {
 
-class ZarnSession : public ISession {
+inline constexpr int wholeLine = INT_MAX;
+
+class ZarnSession : public Session {
 public:
-    explicit ZarnSession(const Vocabulary& vocabulary, int flags = 0);
-    ~ZarnSession() override;
-    ZarnSession(const ZarnSession&) = delete;
-    ZarnSession& operator=(const ZarnSession&) = delete;
+    explicit ZarnSession(const Vocabulary& vocabulary, int flags = 0) : Session(vocabulary) {
+        zarn::IParser* made = nullptr;
+        if (zarn::createParser(&made, flags) != zarn::resultOk) {
+            throw std::runtime_error("no parser");
+        }
+        parser_ = zarn::Owned(made);
+        for (const DeclaredOption& item : vocabulary.options) {
+            declare(item);
+        }
+    }
 
     // Parsing again drops the values of the last time.
-    void parse(const CommandLine& line) override;
-    void parseText(const char* text);
+    void parse(const CommandLine& line) override {
+        beginResult();
+        require(parser_->parseArgsVector(line.argc(), line.argv(), result_.get()));
+    }
 
-    void read(const std::vector<std::size_t>& asked, Checksum* sum) override;
+    void parseText(const char* text) {
+        beginResult();
+        require(parser_->parseStream(text, result_.get()));
+    }
 
-    std::string help() override;
+    void read(std::size_t option, Checksum* sum) override {
+        const DeclaredOption& asked = item(option);
+        const char* name = asked.name.c_str();
+        zarn::Value value = result_->get(name, 0, wholeLine);
+        while (value.status == 0) {
+            add(asked.kind, value, sum);
+            if (!vocabulary_.multiValued) {
+                break;
+            }
+            value = result_->next(name);
+        }
+    }
 
-    zarn::IParser& parser() { return *declared; }
-    zarn::IParseResult& result() { return *parsed; }
+    std::string help() override { return parser_->getGlobalModifiersDescription(false); }
+
+    zarn::IParser& parser() { return parser_; }
+    zarn::IParseResult& result() { return result_; }
 
 private:
-    void beginResult();
-    void dropResult();
-    void require(int code);
+    void declare(const DeclaredOption& item) {
+        constexpr zarn::das_variant_type_t types[] = {zarn::vtString,
+                                                      zarn::vtS32,
+                                                      zarn::vtDouble,
+                                                      zarn::vtString,
+                                                      zarn::vtNull,
+                                                      zarn::vtBool};
+        const auto type = types[static_cast<std::size_t>(item.kind)];
+        zarn::IOption& option =
+            parser_->option(item.name.c_str(), item.description.c_str(), type, "main:Options");
+        if (item.positional) {
+            option.positional().tokenize(0);
+        }
+        if (item.kind == Kind::choice) {
+            for (const char* choice : choices) {
+                option.allowValue(choice);
+            }
+        }
+    }
 
-    const Vocabulary& vocabulary;
-    zarn::IParser* declared = nullptr;
-    zarn::IParseResult* parsed = nullptr;
+    static void add(Kind kind, const zarn::Value& value, Checksum* sum) {
+        if (kind == Kind::integer) {
+            sum->add(value.value.get<int>());
+        } else if (kind == Kind::real) {
+            sum->add(value.value.get<double>());
+        } else if (isSwitch(kind)) {
+            sum->add(kind == Kind::flag || value.value.get<bool>());
+        } else {
+            sum->add(value.text);
+        }
+    }
+
+    void beginResult() {
+        result_ = zarn::Owned<zarn::IParseResult>(nullptr);
+        zarn::IParseResult* made = nullptr;
+        require(parser_->createResult(&made));
+        result_ = zarn::Owned(made);
+    }
+
+    void require(int code) {
+        if (code != zarn::resultOk) {
+            throw std::runtime_error(parser_->getErrorDesc());
+        }
+    }
+
+    zarn::Owned<zarn::IParser> parser_{nullptr};
+    zarn::Owned<zarn::IParseResult> result_{nullptr};
 };
-
-inline constexpr int wholeLine = INT_MAX;
 
 }  // namespace zarn_benchmarks
 

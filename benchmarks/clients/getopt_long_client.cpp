@@ -1,7 +1,8 @@
 #include <getopt.h>
 
-#include <cstdio>
 #include <cstdlib>
+
+#include "client.h"
 
 int main(int argc, char** argv) {
     const option options[] = {
@@ -11,30 +12,28 @@ int main(int argc, char** argv) {
         {"quiet", no_argument,       nullptr, 'q'},
         {nullptr, 0,                 nullptr, 0  },
     };
-    const char* name = "world";
-    int count = 1;
-    double ratio = 0.5;
-    int quiet = 0;
+    Values<const char*> values;
     int code = 0;
     while ((code = getopt_long(argc, argv, "", options, nullptr)) != -1) {
         switch (code) {
             case 'n':
-                name = optarg;
+                values.name = optarg;
                 break;
             case 'c':
-                count = std::atoi(optarg);
+                values.count = std::atoi(optarg);
                 break;
             case 'r':
-                ratio = std::strtod(optarg, nullptr);
+                values.ratio = std::strtod(optarg, nullptr);
                 break;
             case 'q':
-                quiet = 1;
+                values.quiet = true;
                 break;
             default:
                 return 1;
         }
     }
-    const char* file = optind < argc ? argv[optind] : "";
-    std::printf("%s %d %g %d %s\n", name, count, ratio, quiet, file);
-    return 0;
+    if (optind < argc) {
+        values.file = argv[optind];
+    }
+    return values.print();
 }

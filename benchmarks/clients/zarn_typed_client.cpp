@@ -1,5 +1,4 @@
-#include <cstdio>
-
+#include "client.h"
 #include "zarn/typed.h"
 
 int main(int argc, char** argv) {
@@ -18,10 +17,10 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", parsed.text.c_str());
         return parsed.code;
     }
-    std::printf("%s %d %g %d %s\n",
-                zarn::valueOr(parsed.result, "name", ""),
-                zarn::valueOr(parsed.result, "count", 0),
-                zarn::valueOr(parsed.result, "ratio", 0.0),
-                zarn::isGiven(parsed.result, "quiet") ? 1 : 0,
-                zarn::valueOr(parsed.result, "file", ""));
+    const Values<const char*> values{zarn::valueOr(parsed.result, "name", ""),
+                                     zarn::valueOr(parsed.result, "count", 0),
+                                     zarn::valueOr(parsed.result, "ratio", 0.0),
+                                     zarn::isGiven(parsed.result, "quiet"),
+                                     zarn::valueOr(parsed.result, "file", "")};
+    return values.print();
 }

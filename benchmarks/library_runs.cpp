@@ -95,6 +95,7 @@ void addLibraryRuns() {
     addRuns("source-vector", million, self, texts, timeVector);
     addRuns("source-text", million, self, texts, timeText);
     addRuns("source-file", million, self, texts, timeFile);
+    addRuns("pieces", million, self, lazily(pieces, million), timeVector);
     for (std::size_t size : {1u << 14, 1u << 20, 1u << 24}) {
         addRuns("long-value", size, self, lazily(longValue, size), timeVector);
     }
@@ -102,7 +103,6 @@ void addLibraryRuns() {
         const LazyWorkload kept = lazily(manyArguments, count, Kind::text);
         addRuns("query-next", count, self, kept, timeWalk);
         addRuns("query-get", count, self, kept, timeGets);
-        addRuns("pieces", count, self, lazily(pieces, count), timeVector);
     }
 }
 

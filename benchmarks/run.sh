@@ -2,19 +2,6 @@
 # What ./dev bench does when everything is installed.
 set -euo pipefail
 
-usage() {
-    cat <<'TEXT'
-Usage: ./dev bench [--quick]
-       ./dev bench --against REVISION [--help | OPTIONS] [ROWS]
-
-The first builds in build/bench and writes benchmarks/RESULTS.md and benchmarks/results.svg.
-With --quick, fewer and smaller runs, whose results stay in build/bench.
-
-The second measures this library alone: the working tree by turns with REVISION, whose library is
-built in build/against. It takes some minutes, and says more of itself with --help.
-TEXT
-}
-
 here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 root=$(dirname "$here")
 build=$root/build/bench
@@ -26,7 +13,7 @@ build_in() {
     cmake -S "$2" -B "$1" -G Ninja -DCMAKE_BUILD_TYPE=RelWithDebInfo \
         -DZARN_BUILD_BENCHMARKS="$3" -DZARN_BUILD_TESTS=OFF -DZARN_BUILD_EXAMPLES=OFF
     cmake --build "$1" --target "${@:4}"
-}
+} >&2
 
 against() {
     local commit before
@@ -34,19 +21,9 @@ against() {
     before=$root/build/against/$commit
     mkdir -p "$before/source"
     git -C "$root" archive "$commit" | tar -x -C "$before/source"
-    {
-        build_in "$before/build" "$before/source" OFF zarn
-        build_in "$build" "$root" ON zarn timings
-    } >&2
+    build_in "$before/build" "$before/source" OFF zarn
+    build_in "$build" "$root" ON zarn timings
     "$here/against.py" "$programs/timings" "$before/build" "$build" "${@:2}"
-}
-
-# measure FILTER REPETITIONS: medians of interleaved repetitions.
-measure() {
-    "$programs/timings" --benchmark_out="$build/timings.json" --benchmark_out_format=json \
-        --benchmark_min_time=0.02 --benchmark_repetitions="$2" --benchmark_filter="$1" \
-        --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true \
-        >"$build/timings.log"
 }
 
 # beside_peers RESULTS_DIR FILTER REPETITIONS COMPILATIONS PROCESSES
@@ -60,19 +37,22 @@ beside_peers() {
     "$here/clients/measure.py" "$compiler" "$root/include" "$build/libzarn.so" \
         "$build/clients" "$4" "$5" >"$build/clients.json"
     echo "Timing the library and its peers"
-    measure "$2" "$3"
-    "$here/report.py" "$1/RESULTS.md" "$1/results.svg" "$compiler" \
+    "$programs/timings" --benchmark_out="$build/timings.json" --benchmark_out_format=json \
+        --benchmark_min_time=0.02 --benchmark_repetitions="$3" --benchmark_filter="$2" \
+        --benchmark_report_aggregates_only=true --benchmark_enable_random_interleaving=true \
+        >"$build/timings.log"
+    "$here/report.py" "$here/RESULTS.md.in" "$1/RESULTS.md" "$1/results.svg" "$compiler" \
         "$build"/{allocations,clients,timings}.json
     cat "$1/RESULTS.md"
 }
 
+# A quick run is smaller, and leaves its results in the build directory.
 case ${1-} in
     "") beside_peers "$here" . 5 3 200 ;;
     --quick) beside_peers "$build" "-(/1000000/|/10000/(argp|CLI11|TCLAP|Boost)/)" 3 1 50 ;;
     --against) against "${2:?of which revision?}" "${@:3}" ;;
-    -h | --help) usage ;;
     *)
-        usage >&2
+        echo "Usage: ./dev bench [--quick | --against REVISION [--help | OPTIONS] [ROWS]]" >&2
         exit 2
         ;;
 esac

@@ -1,150 +1,87 @@
 #!/usr/bin/env bash
-# Fuzzes every target, or measures what their kept inputs reach.
+# Fuzzes the targets, measures what their kept inputs reach, or renews these. See fuzz/README.md.
+#
+#     fuzz/run.sh SECONDS|--coverage|--renew BUILD_DIR
+#
+# What fuzzing finds stays in BUILD_DIR/fuzz-work.
 set -euo pipefail
 
-usage() {
-    cat <<'TEXT'
-Usage: fuzz/run.sh SECONDS BUILD_DIR      fuzz each target for so long, two at a time
-       fuzz/run.sh --coverage BUILD_DIR   which lines the kept inputs reach of what is aimed at
-
-Targets and aims are those of the table in fuzz/README.md. What fuzzing finds stays in
-BUILD_DIR/fuzz-work; the kept inputs are read, never written.
-TEXT
-}
-
-if (($# != 2)); then
-    usage >&2
-    exit 2
-fi
 mode=$1
 build=$(cd "$2" && pwd)
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 work=$build/fuzz-work
+targets=(scenario texts)
 least_coverage=90
+mkdir -p "$work"/{scenario,texts}/{corpus,finds}
 # What was freed is held back for so long only: the rest of the memory is for the input.
 export ASAN_OPTIONS=quarantine_size_mb=64${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 
-# "target file file..." of each row of the table.
-table() {
-    sed -n 's/^| `\([a-z_]*\)` |.*| \([^|]*\) |$/\1 \2/p' fuzz/README.md | tr -d '`,'
-}
-
-# The folders of the inputs kept for a target.
-kept_inputs() {
-    local folder
-    for folder in "fuzz/corpus/$1" "fuzz/finds/$1"; do
-        if [[ -d $folder ]]; then
-            printf '%s\n' "$folder"
-        fi
-    done
-}
-
 fuzz_target() {
-    local target=$1 kept code=0
-    mapfile -t kept < <(kept_inputs "$target")
-    mkdir -p "$work/$target/corpus" "$work/$target/finds"
-    rm -f "$work/$target/code"
-    "$build/fuzz/targets/fuzz_$target" -max_total_time="$mode" -max_len=4096 \
-        -dict=fuzz/zarn.dict -timeout=5 -rss_limit_mb=512 -print_final_stats=1 \
-        -artifact_prefix="$work/$target/finds/" \
-        "$work/$target/corpus" "${kept[@]}" >"$work/$target/log" 2>&1 || code=$?
-    echo "$code" >"$work/$target/code"
-}
-
-# Whether a target ended well; one that left no code did not.
-is_clean() {
-    [[ $(cat "$work/$1/code" 2>/dev/null) == 0 ]]
-}
-
-# The last number behind a label in the log of a target.
-logged() {
-    grep -o "$2 *[0-9]*" "$work/$1/log" | tail -n 1 | grep -o '[0-9]*$' || echo 0
-}
-
-report_target() {
-    local target=$1 verdict="no find"
-    if ! is_clean "$target"; then
-        verdict=FOUND
-    fi
-    printf '%-16s %10d executions %7d/s %6d edges %6d features  %s\n' "$target" \
-        "$(logged "$target" number_of_executed_units:)" \
-        "$(logged "$target" average_exec_per_sec:)" \
-        "$(logged "$target" cov:)" "$(logged "$target" ft:)" "$verdict"
+    "$build/fuzz/fuzz_$1" -max_total_time="$mode" -max_len=300 -len_control=0 -entropic=0 -timeout=20 \
+        -dict=fuzz/zarn.dict -rss_limit_mb=1024 -print_final_stats=1 \
+        -artifact_prefix="$work/$1/finds/" "$work/$1/corpus" "fuzz/corpus/$1" >"$work/$1/log" 2>&1
 }
 
 report_find() {
-    local target=$1 input
-    grep -E -m 4 '^(Does not hold|Differs)|ERROR: |runtime error: ' "$work/$target/log" || true
-    input=$(sed -n 's/.*Test unit written to //p' "$work/$target/log" | tail -n 1)
-    cat <<TEXT
-  The whole story: $work/$target/log
-  The input:       ${input:-none was written}
-  To keep it, so that every ./dev test replays it:
-    mkdir -p fuzz/finds/$target && cp ${input:-INPUT} fuzz/finds/$target/
-TEXT
+    local input
+    input=$(sed -n 's/.*Test unit written to //p' "$work/$1/log" | tail -n 1)
+    echo "FOUND by $1: ${input:-no input was written}; the whole story: $work/$1/log"
+    grep -E -a -m 4 '^Does not hold|ERROR: |runtime error: ' "$work/$1/log" || true
+    if [[ $1 == scenario && -n $input ]]; then
+        "$build/fuzz/write_scenario" <"$input"
+    fi
 }
 
 fuzz_all() {
-    local target executions=0 found=0
+    local target found=0
+    declare -A runs
     for target in "${targets[@]}"; do
-        while (($(jobs -rp | wc -l) >= 2)); do
-            wait -n
-        done
         fuzz_target "$target" &
+        runs[$target]=$!
     done
-    wait
     for target in "${targets[@]}"; do
-        report_target "$target"
-        executions=$((executions + $(logged "$target" number_of_executed_units:)))
-        if ! is_clean "$target"; then
-            report_find "$target"
-            found=1
-        fi
+        wait "${runs[$target]}" || { found=1 && report_find "$target"; }
+        sed -n "s/^stat::\(number_of_exec\|average_exec\)/$target: \1/p" "$work/$target/log"
     done
-    echo "$executions executions in all"
     return "$found"
 }
 
-# Prints what a target reaches of the files in its row; fails below the least coverage.
-cover_target() {
-    local target=$1 replay=$build/fuzz/targets/replay_$1 kept files
-    shift
-    files=("${@/#/$PWD/}")
-    ls "${files[@]}" >/dev/null || return
-    mapfile -t kept < <(kept_inputs "$target")
-    LLVM_PROFILE_FILE=$work/$target.profraw "$replay" "${kept[@]}" >/dev/null &&
-        llvm-profdata merge -o "$work/$target.profdata" "$work/$target.profraw" &&
-        llvm-cov report "$replay" -instr-profile="$work/$target.profdata" \
-            "${files[@]}" >"$work/$target.report" &&
-        awk -v target="$target" -v least="$least_coverage" '
+# Of src/, what the kept inputs of both targets reach.
+cover() {
+    local target
+    for target in "${targets[@]}"; do
+        LLVM_PROFILE_FILE=$work/$target.profraw \
+            "$build/fuzz/replay_$target" "fuzz/corpus/$target" >/dev/null
+    done
+    llvm-profdata merge -o "$work/both.profdata" "$work"/{scenario,texts}.profraw
+    llvm-cov report "$build/fuzz/replay_scenario" -object "$build/fuzz/replay_texts" \
+        -instr-profile="$work/both.profdata" "$PWD/src" | tee "$work/report" |
+        awk -v least="$least_coverage" '
             $1 == "TOTAL" {
-                reached = $8 - $9
-                percent = 100 * reached / $8
-                printf "%-16s %5d of %5d lines  %5.1f %%\n", target, reached, $8, percent
+                percent = 100 * ($8 - $9) / $8
+                printf "%d of %d lines of src/ reached, %.1f %%\n", $8 - $9, $8, percent
             }
-            END { exit !(percent >= least) }' "$work/$target.report"
+            END { exit !(percent >= least) }'
 }
 
-cover_all() {
-    local row short=0
-    mkdir -p "$work"
-    while read -r -a row; do
-        cover_target "${row[@]}" || short=1
-    done < <(table)
-    echo "By file: $work/*.report"
-    return "$short"
+# The few inputs that reach all that any of them reaches take the place of those that were kept.
+renew() {
+    local target
+    for target in "${targets[@]}"; do
+        mkdir "$work/$target/renewed"
+        find "fuzz/corpus/$target" -name 'found_*' -exec cp -t "$work/$target/renewed" {} +
+        "$build/fuzz/fuzz_$target" -set_cover_merge=1 -use_counters=0 -use_cmp=0 -max_len=300 \
+            "$work/$target/renewed" "fuzz/corpus/$target" "$work/$target/corpus"
+        # Those that reach most come first.
+        find "$work/$target/renewed" -type f -printf '%T@ %p\n' | sort -n | tail -n +101 |
+            cut -d ' ' -f 2- | xargs -r rm
+        rm -r "fuzz/corpus/$target"
+        mv "$work/$target/renewed" "fuzz/corpus/$target"
+    done
 }
 
-mapfile -t targets < <(table | cut -d ' ' -f 1)
-if ((${#targets[@]} == 0)); then
-    echo "fuzz/run.sh: no targets in fuzz/README.md" >&2
-    exit 2
-fi
 case $mode in
-    --coverage) cover_all ;;
-    *[!0-9]* | "")
-        usage >&2
-        exit 2
-        ;;
+    --coverage) cover ;;
+    --renew) renew ;;
     *) fuzz_all ;;
 esac

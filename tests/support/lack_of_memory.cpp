@@ -1,0 +1,170 @@
+#include "support/lack_of_memory.h"
+
+#include <algorithm>
+#include <utility>
+#include <vector>
+
+#include "recognizers/argument_parser.h"
+#include "support/failing_new.h"
+#include "support/stage.h"
+
+namespace zarn_3_3::testing_support {
+namespace {
+
+bool isParse(const std::string& verb) { return verb == "args" || verb == "argv" || verb == "text"; }
+
+bool isDisturbed(const std::string& verb) {
+    return isParse(verb) || verb == "help" || verb == "topic" || verb == "modifiers" ||
+           verb == "globals";
+}
+
+// Plans that count, or change something, go another way when a parse has broken off.
+bool isCountedPlan(const Step& step) {
+    const auto colon = std::find(step.words.begin(), step.words.end(), ":");
+    return step.verb == "on" && (step.words[1].compare(0, 4, "nth=") == 0 ||
+                                 (colon[1] != "refuse" && colon[1] != "throw"));
+}
+
+// What the library takes, and does not get, during one step.
+struct Scarcity {
+    long left;  // allocations up to the one that fails; 0: none does
+    bool isLasting;
+    bool isInForce = false;
+    std::size_t taken = 0;
+
+    void cross(bool isInward) {
+        if (!isInForce) {
+            return;
+        }
+        if (isInward) {
+            taken -= memory.blocks;
+            memory.isLasting = isLasting;
+            memory.left = left;
+        } else {
+            left = std::exchange(memory.left, 0);
+            taken += memory.blocks;
+        }
+    }
+};
+
+std::vector<Answers> play(const Scenario& scenario, std::size_t disturbed, Scarcity& scarcity) {
+    const int before = IArgumentParser::m_idx;
+    std::vector<Answers> answers;
+    {
+        Stage stage({[&scarcity](bool isInward) { scarcity.cross(isInward); }});
+        for (const Step& step : scenario.steps) {
+            scarcity.isInForce = answers.size() == disturbed;
+            stage.perform(step);
+            scarcity.isInForce = false;
+            answers.push_back(std::exchange(stage.observer.answers, {}));
+        }
+    }
+    IArgumentParser::m_idx = before;
+    return answers;
+}
+
+std::string textOf(const Answers& answers, Kind wanted) {
+    std::string text;
+    for (const Answer& answer : answers) {
+        text += answer.kind == wanted ? (text.empty() ? "" : "; ") + answer.text : "";
+    }
+    return text;
+}
+
+bool isEqual(const Answers& one, const Answers& other) {
+    return std::equal(one.begin(), one.end(), other.begin(), other.end(), [](auto& a, auto& b) {
+        return a.kind == b.kind && a.text == b.text;
+    });
+}
+
+// The text of a failure takes memory as well.
+bool saysSo(const std::string& verb, const std::string& found, const std::string& right) {
+    if (isParse(verb)) {
+        return found == "3" || found == "3 std::bad_alloc" || found == right.substr(0, 1);
+    }
+    return found == "(nothing)" || found.find("Unknown error handled.") != std::string::npos;
+}
+
+// Behind the step: what it stored, the step once more on the same result, and on a new one.
+constexpr std::size_t stored = 1;
+constexpr std::size_t goneOn = 2;
+
+Scenario repeated(Scenario scenario, std::size_t index) {
+    const Step again = scenario.steps[index];
+    std::vector<Step> behind{
+        {again.line, "show", {}},
+        again
+    };
+    if (isParse(again.verb)) {
+        behind.push_back({again.line, "left", {"1000000"}});
+        behind.push_back({again.line, "result", {"main"}});
+        behind.push_back(again);
+    }
+    scenario.steps.insert(scenario.steps.begin() + static_cast<std::ptrdiff_t>(index) + 1,
+                          behind.begin(),
+                          behind.end());
+    return scenario;
+}
+
+// What goes on with a result that broke off is its own; and the text of the last failure stays.
+bool isToBeEqual(const Scenario& scenario, std::size_t index, std::size_t other, bool isRight) {
+    const bool isOfResult = isParse(scenario.steps[index].verb) &&
+                            (other == index + goneOn || (other == index + stored && !isRight));
+    return other != index && !isOfResult && scenario.steps[other].verb != "error";
+}
+
+std::string report(const char* what, const Step& step, const Answers& found, const Answers& right) {
+    const auto all = [](const Answers& answers) {
+        return textOf(answers, Kind::event) + "\n" + textOf(answers, Kind::outcome) + "\n";
+    };
+    return std::string(what) + " of '" + step.verb + "' in line " + std::to_string(step.line) +
+           "\n--- expected\n" + all(right) + "--- found\n" + all(found);
+}
+
+std::string judge(const Scenario& scenario,
+                  std::size_t index,
+                  const std::vector<Answers>& found,
+                  const std::vector<Answers>& right) {
+    const Step& step = scenario.steps[index];
+    const std::string outcome = textOf(found[index], Kind::outcome);
+    const std::string rightOutcome = textOf(right[index], Kind::outcome);
+    const std::string events = textOf(found[index], Kind::event);
+    const bool isRight = outcome == rightOutcome;
+    if ((!isRight && !saysSo(step.verb, outcome, rightOutcome)) ||
+        textOf(right[index], Kind::event).compare(0, events.size(), events) != 0) {
+        return report("Without memory, the answer", step, found[index], right[index]);
+    }
+    for (std::size_t i = 0; i < found.size(); ++i) {
+        if (isToBeEqual(scenario, index, i, isRight) && !isEqual(found[i], right[i])) {
+            const Step& other = scenario.steps[i];
+            return report("Behind a lack of memory, the answer", other, found[i], right[i]);
+        }
+    }
+    return "";
+}
+
+}  // namespace
+
+std::string wrongWithoutMemory(const Scenario& scenario, const Outage& outage) {
+    std::vector<std::size_t> indexes;
+    for (std::size_t i = 0; i < scenario.steps.size(); ++i) {
+        if (isDisturbed(scenario.steps[i].verb)) {
+            indexes.push_back(i);
+        }
+    }
+    const bool isCounted = std::any_of(scenario.steps.begin(), scenario.steps.end(), isCountedPlan);
+    if (indexes.empty() || isCounted) {
+        return "";
+    }
+    const std::size_t index = indexes[outage.step % indexes.size()];
+    const Scenario twice = repeated(scenario, index);
+    Scarcity none{0, false};
+    const std::vector<Answers> right = play(twice, index, none);
+    if (none.taken == 0) {
+        return "";
+    }
+    Scarcity scarcity{static_cast<long>(outage.allocation % none.taken) + 1, outage.isLasting};
+    return judge(twice, index, play(twice, index, scarcity), right);
+}
+
+}  // namespace zarn_3_3::testing_support

@@ -56,7 +56,9 @@ void checkReading(View text) {
 }
 
 template <typename Number>
-void checkWriting(Number number) {
+void checkNumber(View text, Bytes bytes) {
+    checkReading<Number>(text);
+    const auto number = bytes.number<Number>();
     std::ostringstream stream;
     stream << number;
     require(textFromNumber(number) == stream.str(), "what a number is written as");
@@ -64,8 +66,7 @@ void checkWriting(Number number) {
 
 template <typename... Numbers>
 void checkNumbers(View text, const Bytes& bytes) {
-    (checkReading<Numbers>(text), ...);
-    (checkWriting(Bytes(bytes).number<Numbers>()), ...);
+    (checkNumber<Numbers>(text, bytes), ...);
     checkReading<bool>(text);
     const std::string found = bitsOf(hexadecimalFromText(text));
     require(found == extracted<unsigned long long>(text, Trailing::ignored, true), "hexadecimal");
@@ -109,20 +110,21 @@ Texts pieces(const std::string& text, char separator) {
     return all;
 }
 
-void checkLines(View text) {
+void checkCuts(const std::string& text, View exact) {
+    checkArgument(text);
     Texts lines;
-    for (std::string line : pieces(std::string(text == "-1" ? "?" : text), '\n')) {
+    for (std::string line : pieces(text == "-1" ? "?" : text, '\n')) {
         line.erase(0, line.find_first_not_of(" \t\v\f\r"));
         if (!line.empty() && line[0] != ';' && line[0] != '#') {
             lines.push_back(line.substr(0, line.find_last_not_of('\r') + 1));
         }
     }
     std::vector<View> found;
-    parseStreamToArgs(text, found);
+    parseStreamToArgs(exact, found);
     require(Texts(found.begin(), found.end()) == lines, "the arguments in the lines of a text");
     Texts cut;
-    split(text, cut);
-    require(cut == pieces(std::string(text), ','), "the pieces between commas");
+    split(exact, cut);
+    require(cut == pieces(text, ','), "the pieces between commas");
 }
 
 // Behind `line`, which takes at most `most` bytes, `rest` goes on.
@@ -163,34 +165,31 @@ void checkParagraph(View text, const std::string& head, std::size_t indent, std:
     require(found.empty(), "nothing follows the text");
 }
 
-// What can be typed, in the order in which it came, and the item that it stands for.
-struct Vocabulary {
+// The vocabulary, with what can be typed in the order in which it came and the items that are
+// meant.
+struct Names {
     OptionList items;
     std::vector<std::pair<std::string, std::size_t>> forms;
     NameIndex index;
     PrefixIndex beginnings;
 };
 
-void addForm(Vocabulary& all, const std::string& form) {
-    const auto isSame = [&](const auto& other) { return other.first == form; };
-    if (std::none_of(all.forms.begin(), all.forms.end(), isSame)) {
-        all.forms.emplace_back(form, all.items.size() - 1);
-    }
-}
-
-void addName(Vocabulary& all, const std::string& name) {
+void addName(Names& all, const std::string& name) {
     if (name.size() % 3 != 0 || all.items.empty()) {
         all.items.emplace_back().type = name.size() % 2 != 0 ? vtBool : vtNull;
     }
-    all.items.back().names.push_back(name);
+    OptionDescription& item = all.items.back();
+    item.names.push_back(name);
     all.index.catchUp(all.items);
-    addForm(all, name);
-    if (all.items.back().type == vtBool) {
-        addForm(all, "no-" + name);
+    for (const std::string& form : item.type == vtBool ? Texts{name, "no-" + name} : Texts{name}) {
+        const auto isSame = [&](const auto& other) { return other.first == form; };
+        if (std::none_of(all.forms.begin(), all.forms.end(), isSame)) {
+            all.forms.emplace_back(form, all.items.size() - 1);
+        }
     }
 }
 
-void checkTyped(Vocabulary& all, const std::string& typed) {
+void checkTyped(Names& all, const std::string& typed) {
     std::size_t meant = NameIndex::none;
     Texts longer;
     for (const auto& [form, item] : all.forms) {
@@ -201,19 +200,21 @@ void checkTyped(Vocabulary& all, const std::string& typed) {
     }
     require(all.index.first(typed) == meant, "the item that a name stands for");
     const PrefixIndex::Found found = all.beginnings.find(typed, all.index.forms());
-    require((found.first == KeptTexts::none) == longer.empty(), "whether names begin so");
-    require(found.isOnly == (longer.size() == 1), "whether only one begins so");
-    require(longer.empty() || all.index.forms()[found.first] == longer[0], "the first one");
+    require(found.isOnly == (longer.size() == 1), "whether one name begins so");
+    const bool isFound = found.first != KeptTexts::none;
+    require((isFound ? all.index.forms()[found.first] : "") == (longer.empty() ? "" : longer[0]),
+            "the first name that begins so");
 }
 
 void checkNames(const std::string& text) {
-    Vocabulary all;
+    Names all;
     for (const std::string& name : pieces(text.substr(0, 100), ' ')) {
         if (!name.empty()) {
             addName(all, name);
-            checkTyped(all, name);
-            checkTyped(all, "no-" + name);
-            checkTyped(all, name.substr(0, 1 + all.forms.size() % name.size()));
+            const std::string beginning = name.substr(0, 1 + all.forms.size() % name.size());
+            for (const std::string& typed : {name, "no-" + name, beginning}) {
+                checkTyped(all, typed);
+            }
         }
     }
 }
@@ -238,8 +239,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     } else if (subject == 1) {
         checkNames(std::string(text));
     } else if (subject == 2) {
-        checkArgument(std::string(text));
-        checkLines(text);
+        checkCuts(std::string(text), text);
     } else {
         checkNumbers<int, unsigned, long long, unsigned long long, double>(text, bytes);
     }

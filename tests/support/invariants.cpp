@@ -17,8 +17,6 @@ using Steps = std::vector<Step>;
 // Steps that a scenario gets in addition have negative lines.
 bool isAdded(int line) { return line < 0; }
 
-bool isParse(const std::string& verb) { return verb == "args" || verb == "argv" || verb == "text"; }
-
 bool startsWith(const std::string& text, const std::string& start) {
     return text.compare(0, start.size(), start) == 0;
 }
@@ -201,7 +199,7 @@ std::string contradictions(const Scenario& scenario, const Answers& seen) {
         };
         const auto last = std::find_if(seen.rbegin(), seen.rend(), isOutcome);
         const std::string wrong =
-            isParse(step.verb) && last != seen.rend() ? contradictionOf(scenario, last->text) : "";
+            isParse(step) && last != seen.rend() ? contradictionOf(scenario, last->text) : "";
         if (!wrong.empty()) {
             return wrong;
         }
@@ -228,12 +226,11 @@ std::string differencesAsText(const Scenario& scenario, const Answers& seen) {
 
 std::string differencesAsOptionFile(const Scenario& scenario) {
     Scenario first = heard(scenario);
-    const auto isParsing = [](const Step& step) { return isParse(step.verb); };
-    const auto begin = std::find_if(first.steps.begin(), first.steps.end(), isParsing);
+    const auto begin = std::find_if(first.steps.begin(), first.steps.end(), isParse);
     if (hasStep(scenario, {"on"}) || begin == first.steps.end() || !canBeLines(*begin)) {
         return "";
     }
-    first.steps.erase(std::find_if(begin + 1, first.steps.end(), isParsing), first.steps.end());
+    first.steps.erase(std::find_if(begin + 1, first.steps.end(), isParse), first.steps.end());
     const auto instead = [&](Steps (*rewrite)(const Step&)) {
         return play(rewritten(first, [rewrite](const Step& step) {
             return step.verb == "args" ? rewrite(step) : Steps{step};

@@ -11,11 +11,9 @@
 namespace zarn_3_3::testing_support {
 namespace {
 
-bool isParse(const std::string& verb) { return verb == "args" || verb == "argv" || verb == "text"; }
-
-bool isDisturbed(const std::string& verb) {
-    return isParse(verb) || verb == "help" || verb == "topic" || verb == "modifiers" ||
-           verb == "globals";
+bool isDisturbed(const Step& step) {
+    return isParse(step) || step.verb == "help" || step.verb == "topic" ||
+           step.verb == "modifiers" || step.verb == "globals";
 }
 
 // Plans that count, or change something, go another way when a parse has broken off.
@@ -78,8 +76,8 @@ bool isEqual(const Answers& one, const Answers& other) {
 }
 
 // The text of a failure takes memory as well.
-bool saysSo(const std::string& verb, const std::string& found, const std::string& right) {
-    if (isParse(verb)) {
+bool saysSo(const Step& step, const std::string& found, const std::string& right) {
+    if (isParse(step)) {
         return found == "3" || found == "3 std::bad_alloc" || found == right.substr(0, 1);
     }
     return found == "(nothing)" || found.find("Unknown error handled.") != std::string::npos;
@@ -95,7 +93,7 @@ Scenario repeated(Scenario scenario, std::size_t index) {
         {again.line, "show", {}},
         again
     };
-    if (isParse(again.verb)) {
+    if (isParse(again)) {
         behind.push_back({again.line, "left", {"1000000"}});
         behind.push_back({again.line, "result", {"main"}});
         behind.push_back(again);
@@ -108,7 +106,7 @@ Scenario repeated(Scenario scenario, std::size_t index) {
 
 // What goes on with a result that broke off is its own; and the text of the last failure stays.
 bool isToBeEqual(const Scenario& scenario, std::size_t index, std::size_t other, bool isRight) {
-    const bool isOfResult = isParse(scenario.steps[index].verb) &&
+    const bool isOfResult = isParse(scenario.steps[index]) &&
                             (other == index + goneOn || (other == index + stored && !isRight));
     return other != index && !isOfResult && scenario.steps[other].verb != "error";
 }
@@ -130,7 +128,7 @@ std::string judge(const Scenario& scenario,
     const std::string rightOutcome = textOf(right[index], Kind::outcome);
     const std::string events = textOf(found[index], Kind::event);
     const bool isRight = outcome == rightOutcome;
-    if ((!isRight && !saysSo(step.verb, outcome, rightOutcome)) ||
+    if ((!isRight && !saysSo(step, outcome, rightOutcome)) ||
         textOf(right[index], Kind::event).compare(0, events.size(), events) != 0) {
         return report("Without memory, the answer", step, found[index], right[index]);
     }
@@ -148,7 +146,7 @@ std::string judge(const Scenario& scenario,
 std::string wrongWithoutMemory(const Scenario& scenario, const Outage& outage) {
     std::vector<std::size_t> indexes;
     for (std::size_t i = 0; i < scenario.steps.size(); ++i) {
-        if (isDisturbed(scenario.steps[i].verb)) {
+        if (isDisturbed(scenario.steps[i])) {
             indexes.push_back(i);
         }
     }

@@ -120,6 +120,10 @@ std::string settingOf(const Words& words, const std::string& key, const std::str
     return otherwise;
 }
 
+bool isParse(const Step& step) {
+    return step.verb == "args" || step.verb == "argv" || step.verb == "text";
+}
+
 std::vector<Scenario> readScenarios(const std::string& text) {
     Reader reader;
     forEachLine(text, [&](const std::string& line, int number) { reader.read(line, number); });

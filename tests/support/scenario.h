@@ -96,6 +96,9 @@ struct Step {
     Words words;
 };
 
+// Whether it is a step that parses.
+bool isParse(const Step& step);
+
 struct Scenario {
     std::string title;
     int line;

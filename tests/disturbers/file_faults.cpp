@@ -1,9 +1,10 @@
-// Calls that read files fail: file_faults FILE...
+// Calls that read files fail: file_faults STRIDE FILE...
 //
-// In every scenario of the files each call fails in its turn, once or from then on, is interrupted,
-// or reads less than was asked for.
+// In every scenario of the files each call (or each of so many) fails in its turn, once or from
+// then on, is interrupted, or reads less than was asked for.
 
 #include <cerrno>
+#include <cstdlib>
 #include <iostream>
 #include <limits>
 
@@ -43,8 +44,9 @@ private:
 }  // namespace
 
 int main(int argc, char** argv) {
+    const long stride = argc > 1 ? std::atol(argv[1]) : 1;
     long failures = 0;
-    const int code = judgeFiles(argc, argv, [&failures](const Scenario& scenario) {
+    const int code = judgeFiles(argc - 1, argv + 1, [&](const Scenario& scenario) {
         const Undisturbed undisturbed(scenario);
         std::string wrong;
         for (const std::size_t longest :
@@ -52,7 +54,7 @@ int main(int argc, char** argv) {
             fileCalls.longestRead = longest;
             for (const int error : {EIO, EACCES, EINTR}) {
                 FailingCalls failing(error);
-                wrong += disturbEach(undisturbed, failing, Until::endOfStep, 1, failures);
+                wrong += disturbEach(undisturbed, failing, Until::endOfStep, stride, failures);
             }
         }
         return wrong;

@@ -13,7 +13,7 @@
 #include "options/name_index.h"
 #include "options/number_text.h"
 #include "options/prefix_index.h"
-#include "parser/argument_texts.h"
+#include "parser/argument_sources.h"
 #include "support/grouping_locale.h"
 
 namespace fuzzing {
@@ -113,14 +113,15 @@ Texts pieces(const std::string& text, char separator) {
 void checkCuts(const std::string& text, View exact) {
     checkArgument(text);
     Texts lines;
-    for (std::string line : pieces(text == "-1" ? "?" : text, '\n')) {
+    for (std::string line : pieces(text, '\n')) {
         line.erase(0, line.find_first_not_of(" \t\v\f\r"));
         if (!line.empty() && line[0] != ';' && line[0] != '#') {
             lines.push_back(line.substr(0, line.find_last_not_of('\r') + 1));
         }
     }
     std::vector<View> found;
-    parseStreamToArgs(exact, found);
+    View rest = exact;
+    parseStreamToArgs(rest, found, exact.size());
     require(Texts(found.begin(), found.end()) == lines, "the arguments in the lines of a text");
     Texts cut;
     split(exact, cut);

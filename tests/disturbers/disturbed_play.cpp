@@ -308,7 +308,7 @@ std::string disturbEach(const Undisturbed& undisturbed,
                         long& failures) {
     const Border border{[&disturbance](bool isInward) { disturbance.cross(isInward); }};
     // Where there are very many, as a thousand files take, not each.
-    for (long nth = 1;; nth += stride + nth / 64) {
+    for (long nth = 1;; nth += stride + nth / 64 * 16) {
         std::string wrong;
         disturbance.begin(nth);
         onStage(border, [&](Stage& stage) {

@@ -19,10 +19,6 @@ Scenario without(Scenario scenario, IsUnwanted isUnwanted) {
     return scenario;
 }
 
-bool isParse(const Step& step) {
-    return step.verb == "args" || step.verb == "argv" || step.verb == "text";
-}
-
 bool isAboutHandlers(const Step& step) {
     return step.verb == "add" || step.verb == "remove" || step.verb == "on";
 }

@@ -4,10 +4,9 @@
 // it writes what is seen into the files instead.
 
 #include <fstream>
-#include <iostream>
-#include <sstream>
+#include <stdexcept>
 
-#include "support/scenario.h"
+#include "disturbers/judged_files.h"
 #include "support/stage.h"
 
 namespace {
@@ -22,64 +21,42 @@ std::string answersAt(int line, const Answers& answers, const char* head) {
     return text.empty() ? std::string(head) + "(no answer)\n" : text;
 }
 
-// Shows the steps that were answered otherwise; how many they are.
-int compare(const std::string& file, const Scenario& scenario, const Answers& seen) {
-    int differences = 0;
+// The steps that were answered otherwise than the file says.
+std::string differences(const Scenario& scenario) {
+    const Answers seen = play(scenario);
+    std::string text;
     int last = 0;
     for (const Step& step : scenario.steps) {
         const std::string expected = answersAt(step.line, scenario.expected, "");
         if (step.line != last && expected != answersAt(step.line, seen, "")) {
-            ++differences;
-            std::cerr << file << ":" << step.line << ": " << scenario.title << ": " << step.verb
-                      << "\n"
-                      << answersAt(step.line, scenario.expected, "  expected > ")
-                      << answersAt(step.line, seen, "  seen     > ");
+            text += "\n" + std::to_string(step.line) + ": " + step.verb + "\n" +
+                    answersAt(step.line, scenario.expected, "  expected > ") +
+                    answersAt(step.line, seen, "  seen     > ");
         }
         last = step.line;
     }
-    return differences;
+    return text;
 }
 
-// How many steps were answered otherwise than the file says.
-int playFile(const std::string& file, bool isRecording) {
-    std::ostringstream text;
-    text << std::ifstream(file, std::ios::binary).rdbuf();
+void record(const char* file) {
+    const std::string text = contentOf(file);
     Answers all;
-    int differences = 0;
-    for (const Scenario& scenario : readScenarios(text.str())) {
+    for (const Scenario& scenario : readScenarios(text)) {
         const Answers seen = play(scenario);
         all.insert(all.end(), seen.begin(), seen.end());
-        if (!isRecording) {
-            differences += compare(file, scenario, seen);
-        }
     }
     if (all.empty()) {
         throw std::invalid_argument("no scenario is answered");
     }
-    if (isRecording) {
-        std::ofstream(file, std::ios::binary) << withAnswers(text.str(), all);
-    }
-    return differences;
+    std::ofstream(file, std::ios::binary) << withAnswers(text, all);
 }
 
 }  // namespace
 
 int main(int argc, char** argv) {
-    std::vector<std::string> files(argv + 1, argv + argc);
-    const bool isRecording = !files.empty() && files[0] == "--record";
-    files.erase(files.begin(), files.begin() + (isRecording ? 1 : 0));
-    if (files.empty()) {
-        std::cerr << "Usage: play [--record] FILE...\n";
-        return 2;
+    const bool isRecording = argc > 1 && std::string(argv[1]) == "--record";
+    for (int i = 2; isRecording && i < argc; ++i) {
+        record(argv[i]);
     }
-    int differences = 0;
-    for (const std::string& file : files) {
-        try {
-            differences += playFile(file, isRecording);
-        } catch (const std::invalid_argument& bad) {
-            std::cerr << file << ":" << bad.what() << "\n";
-            return 2;
-        }
-    }
-    return differences == 0 ? 0 : 1;
+    return judgeFiles(argc - (isRecording ? 1 : 0), argv + (isRecording ? 1 : 0), differences);
 }

@@ -5,14 +5,12 @@
 #include <iterator>
 #include <utility>
 
-#include "recognizers/argument_parser.h"
+#include "disturbers/judged_files.h"
+#include "support/file_calls_double.h"
+#include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
 namespace {
-
-bool isAmong(const std::string& word, std::initializer_list<const char*> words) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
 
 bool isItem(const Step& step) { return isAmong(step.verb, {"option", "action", "modifier"}); }
 
@@ -34,24 +32,22 @@ std::vector<Step> singleSteps(const Step& step) {
     }
     const std::size_t fixed = isItem(step) ? 2 : 0;
     Step declaration{step.line, step.verb, {}};
-    std::vector<Step> all(fixed / 2, declaration);
+    std::vector<Step> settings;
     for (const std::string& word : step.words) {
         const std::string key = word.substr(0, word.find('='));
         if (declaration.words.size() < fixed || isAmong(key, {"help", "section", "of"})) {
             declaration.words.push_back(word);
         } else {
-            all.push_back({step.line, "set", {word}});
+            settings.push_back({step.line, "set", {word}});
         }
     }
-    std::fill_n(all.begin(), fixed / 2, declaration);
-    return all;
+    settings.insert(settings.begin(), fixed / 2, declaration);
+    return settings;
 }
-
-Answers take(Stage& stage) { return std::exchange(stage.observer.answers, {}); }
 
 Answers perform(Stage& stage, const Step& step) {
     stage.perform(step);
-    return take(stage);
+    return std::exchange(stage.observer.answers, {});
 }
 
 // Without the last error that the log quotes: a failure has left its own there.
@@ -65,22 +61,21 @@ std::string textOf(const Answers& answers) {
     return text;
 }
 
-// All that help and questions tell of a vocabulary.
-std::string declared(Stage& stage, const Words& names) {
-    stage.perform({0, "help", {}});
-    stage.perform({0, "help", {"hidden"}});
-    for (const std::string& name : names) {
-        stage.perform({0, "declared", {name}});
-        stage.perform({
-            0, "declared", {name, "action"}
-        });
-    }
-    return textOf(take(stage));
+std::string ask(Stage& stage, const char* verb, const Words& words) {
+    return textOf(perform(stage, {0, verb, words}));
 }
 
-// Each with its values.
-Words occurrences(Stage& stage, const char* name) {
-    IParseResult& result = *stage.result;
+// All that help and questions tell of a vocabulary.
+std::string declared(Stage& stage, const Words& names) {
+    std::string all = ask(stage, "help", {}) + ask(stage, "help", {"hidden"});
+    for (const std::string& name : names) {
+        all += ask(stage, "declared", {name}) + ask(stage, "declared", {name, "action"});
+    }
+    return all;
+}
+
+// Each with its values. A walk may go on behind the last place that it was asked for.
+Words occurrences(IParseResult& result, const Stage& stage, const char* name) {
     std::vector<int> places;
     result.present(name, 0, INT_MAX);
     do {
@@ -98,34 +93,31 @@ Words occurrences(Stage& stage, const char* name) {
     return all;
 }
 
-std::map<std::string, Words> stored(Stage& stage, const Words& names) {
-    std::map<std::string, Words> all;
+// Of each name the occurrences in the result in use.
+std::vector<Words> stored(const Stage& stage, const Words& names) {
+    std::vector<Words> all;
     const auto isInUse = [&stage](const auto& named) { return named.second == stage.result; };
     if (std::any_of(stage.results.begin(), stage.results.end(), isInUse)) {
         for (const std::string& name : names) {
-            all[name] = occurrences(stage, name.c_str());
+            all.push_back(occurrences(*stage.result, stage, name.c_str()));
         }
     }
     return all;
 }
 
 // Whether of every name the first occurrences are there, each as a whole.
-template <typename Stored>
-bool isBeginning(const Stored& part, const Stored& whole) {
-    return std::all_of(part.begin(), part.end(), [&whole](const auto& named) {
-        const Words& all = whole.at(named.first);
-        return named.second.size() <= all.size() &&
-               std::equal(named.second.begin(), named.second.end(), all.begin());
-    });
+bool isBeginning(const std::vector<Words>& part, const std::vector<Words>& whole) {
+    const auto begins = [](const Words& some, const Words& all) {
+        return some.size() <= all.size() && std::equal(some.begin(), some.end(), all.begin());
+    };
+    return std::equal(part.begin(), part.end(), whole.begin(), begins);
 }
 
 // The same parse once more, which does not know of the first one.
-Answers again(Stage& stage, const Step& step) {
+std::string again(Stage& stage, const Step& step) {
     stage.beginNumbers(1);
-    stage.perform({step.line, "result", {"again"}});
-    stage.perform(step);
-    stage.perform({step.line, "show", {}});
-    return take(stage);
+    ask(stage, "result", {"again"});
+    return textOf(perform(stage, step)) + "\n" + ask(stage, "show", {});
 }
 
 // The code and the text of a parse. Assertions stand behind it.
@@ -134,34 +126,23 @@ Answers::const_iterator conclusion(const Answers& answers) {
     return std::find_if(answers.rbegin(), answers.rend(), isLast).base() - 1;
 }
 
-template <typename Act>
-void onStage(const Border& border, Act act) {
-    const int before = IArgumentParser::m_idx;
-    {
-        Stage stage(border);
-        act(stage);
-    }
-    IArgumentParser::m_idx = before;
-}
-
 class DisturbedPlay {
 public:
-    DisturbedPlay(const Undisturbed& undisturbed, Disturbance& disturbing, Stage& played)
-        : reference(undisturbed), disturbance(disturbing), stage(played) {}
+    DisturbedPlay(const Undisturbed& undisturbed, const Disturbance& disturbing)
+        : reference(undisturbed), disturbance(disturbing) {}
 
     // Says what does not hold.
-    std::string run(Until until) {
+    std::string run() {
         for (; index < reference.steps.size() && wrong.empty() && !isOver; ++index) {
             const Answers found = perform(stage, step());
-            if (until == Until::endOfScenario) {
+            if (disturbance.lasts == Lasts::untilEndOfScenario) {
                 expect(isSane(found) || step().verb == "wrap", "answer to the end", textOf(found));
-            } else if (isBehind || !disturbance.hasStruck()) {
-                expect(isRight(found) || (isErrorLost && step().verb == "error"),
-                       "answer",
-                       textOf(found));
+            } else if (isBehind || !disturbance.calls.hasStruck) {
+                const bool isRight = textOf(found) == rightText();
+                expect(isRight || (isErrorLost && step().verb == "error"), "answer", textOf(found));
             } else {
                 isBehind = true;
-                disturbance.end();
+                disturbance.calls.left = 0;
                 judge(found);
             }
         }
@@ -171,47 +152,42 @@ public:
 private:
     const Step& step() const { return reference.steps[index]; }
     const Undisturbed::Right& right() const { return reference.rights[index]; }
-    bool isRight(const Answers& found) const { return textOf(found) == textOf(right().answers); }
+    std::string rightText() const { return textOf(right().answers); }
 
     void expect(bool holds, const char* what, const std::string& found) {
         if (!holds && wrong.empty()) {
             wrong = "'" + step().verb + "' in line " + std::to_string(step().line) + ", " + what +
-                    "\n--- found\n" + found + "\n--- undisturbed\n" + textOf(right().answers);
+                    "\n--- found\n" + found + "\n--- undisturbed\n" + rightText();
         }
     }
 
     // Whatever is lacking, nothing escapes, and no text that was handed out changes.
     bool isSane(const Answers& found) const {
-        const std::string known = textOf(right().answers);
-        return std::none_of(found.begin(), found.end(), [&known](const Answer& answer) {
+        return std::none_of(found.begin(), found.end(), [this](const Answer& answer) {
             const std::string start = answer.text.substr(0, 6);
             const bool isStrange =
                 answer.kind == Kind::assertion || isAmong(start, {"threw ", "the te", "fields"});
-            return isStrange && known.find(answer.text) == std::string::npos;
+            return isStrange && rightText().find(answer.text) == std::string::npos;
         });
     }
 
     void judge(const Answers& found) {
+        const std::string told = textOf(found);
         if (isParse(step())) {
             judgeParse(found);
         } else if (isDeclaration(step())) {
-            judgeDeclaration(found);
-        } else if (!isRight(found)) {
-            const std::string told = textOf(found);
-            expect(mayAnswer(told, textOf(right().answers)), "disturbed answer", told);
+            expect(isSane(found), "disturbed answer", told);
+            finishDeclaration();
+        } else if (told != rightText()) {
+            expect(disturbance.mayAnswer(step().verb, told, rightText()), "disturbed answer", told);
             isErrorLost = isAmong(step().verb, {"help", "topic", "modifiers", "globals"});
             repeat();
         }
     }
 
-    bool mayAnswer(const std::string& found, const std::string& expected) const {
-        return disturbance.mayAnswer(step().verb, found, expected);
-    }
-
     // Nothing tells whether it was done but what is declared then. A declaration that failed may
     // leave its section behind.
-    void judgeDeclaration(const Answers& found) {
-        expect(isSane(found), "disturbed answer", textOf(found));
+    void finishDeclaration() {
         isOver = isItem(step()) && step().words[0].empty();  // nobody sees such an item
         if (declared(stage, reference.names) != right().after || right().before == right().after) {
             repeat();
@@ -221,8 +197,8 @@ private:
     }
 
     void repeat() {
-        const Answers repeated = perform(stage, step());
-        expect(isRight(repeated), "repeated answer", textOf(repeated));
+        const std::string repeated = textOf(perform(stage, step()));
+        expect(repeated == rightText(), "repeated answer", repeated);
     }
 
     // What handlers do may fail where the parse around them does not, and without a word.
@@ -230,7 +206,7 @@ private:
         expect(isSane(found), "disturbed answer", textOf(found));
         const bool isSimple =
             std::all_of(reference.steps.begin(), reference.steps.end(), isSimplePlan);
-        isOver = !isSimple || !isRight(found);
+        isOver = !isSimple || textOf(found) != rightText();
         if (isSimple && isOver) {
             judgeBrokenParse(found);
         }
@@ -239,21 +215,22 @@ private:
     void judgeBrokenParse(const Answers& found) {
         const auto end = conclusion(found);
         const std::string toTell = conclusion(right().answers)->text;
-        expect(mayAnswer(end->text, toTell), "disturbed answer", textOf(found));
+        const bool isKnown = disturbance.mayAnswer(step().verb, end->text, toTell);
+        expect(isKnown, "disturbed answer", textOf(found));
         // A file that could not be told from others may be read once more before it is refused.
         if (end->text[0] != '6' || toTell[0] != '6') {
             const std::string heard = textOf({found.begin(), end});
-            expect(textOf(right().answers).rfind(heard, 0) == 0, "disturbed events", textOf(found));
-            const auto left = stored(stage, reference.ownNames);
-            expect(isBeginning(left, right().stored), "stored", textOf(found));
+            expect(rightText().rfind(heard, 0) == 0, "disturbed events", textOf(found));
+            const bool isWhole = isBeginning(stored(stage, reference.ownNames), right().stored);
+            expect(isWhole, "stored", textOf(found));
         }
-        const std::string repeated = textOf(again(stage, step()));
-        expect(repeated == textOf(right().again), "parsed again", repeated);
+        const std::string repeated = again(stage, step());
+        expect(repeated == right().again, "parsed again", repeated);
     }
 
     const Undisturbed& reference;
-    Disturbance& disturbance;
-    Stage& stage;
+    const Disturbance& disturbance;
+    Stage stage;
     std::size_t index = 0;
     bool isBehind = false;     // the disturbed step
     bool isOver = false;       // what follows depends on what the disturbed step stored
@@ -264,10 +241,19 @@ private:
 }  // namespace
 
 Undisturbed::Undisturbed(const Scenario& scenario) {
-    for (const Step& step : scenario.steps) {
-        for (const Step& single : singleSteps(step)) {
-            steps.push_back(single);
+    addSteps(scenario);
+    playAll();
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        if (isParse(steps[i])) {
+            playUntil(i);
         }
+    }
+}
+
+void Undisturbed::addSteps(const Scenario& scenario) {
+    for (const Step& step : scenario.steps) {
+        const std::vector<Step> singles = singleSteps(step);
+        steps.insert(steps.end(), singles.begin(), singles.end());
         if (isItem(step)) {
             names.push_back(step.words[0].substr(0, step.words[0].find(',')));
         }
@@ -279,48 +265,43 @@ Undisturbed::Undisturbed(const Scenario& scenario) {
         });
     };
     std::remove_copy_if(names.begin(), names.end(), std::back_inserter(ownNames), isSynonym);
-    onStage({}, [this](Stage& stage) {
-        for (const Step& step : steps) {
-            Right& right = rights.emplace_back();
-            const bool isProbed = isDeclaration(step) && stage.parser != nullptr;
-            right.before = isProbed ? declared(stage, names) : "";
-            right.answers = perform(stage, step);
-            right.after = isProbed ? declared(stage, names) : "";
-        }
-    });
-    for (std::size_t i = 0; i < steps.size(); ++i) {
-        if (isParse(steps[i])) {
-            onStage({}, [this, i](Stage& stage) {
-                for (std::size_t before = 0; before <= i; ++before) {
-                    perform(stage, steps[before]);
-                }
-                rights[i].stored = testing_support::stored(stage, ownNames);
-                rights[i].again = testing_support::again(stage, steps[i]);
-            });
-        }
+}
+
+void Undisturbed::playAll() {
+    Stage stage;
+    for (const Step& step : steps) {
+        Right& right = rights.emplace_back();
+        right.before = isDeclaration(step) ? declared(stage, names) : "";
+        right.answers = perform(stage, step);
+        right.after = isDeclaration(step) ? declared(stage, names) : "";
     }
 }
 
+void Undisturbed::playUntil(std::size_t parse) {
+    Stage stage;
+    for (std::size_t i = 0; i <= parse; ++i) {
+        perform(stage, steps[i]);
+    }
+    rights[parse].stored = stored(stage, ownNames);
+    rights[parse].again = again(stage, steps[parse]);
+}
+
 std::string disturbEach(const Undisturbed& undisturbed,
-                        Disturbance& disturbance,
-                        Until until,
+                        const Disturbance& disturbance,
                         long stride,
                         long& failures) {
-    const Border border{[&disturbance](bool isInward) { disturbance.cross(isInward); }};
     // Where there are very many, as a thousand files take, not each.
     for (long nth = 1;; nth += stride + nth / 64 * 16) {
-        std::string wrong;
-        disturbance.begin(nth);
-        onStage(border, [&](Stage& stage) {
-            wrong = DisturbedPlay(undisturbed, disturbance, stage).run(until);
-        });
-        disturbance.end();
-        const long left = disturbance.leftBehind();
-        if (!wrong.empty() || left != 0) {
-            return "call " + std::to_string(nth) + " fails, " + std::to_string(left) +
-                   " are left behind: " + wrong + "\n";
+        const std::size_t blocks = memory.liveBlocks();
+        disturbance.calls = {nth, disturbance.lasts != Lasts::once, false};
+        const std::string wrong = DisturbedPlay(undisturbed, disturbance).run();
+        disturbance.calls.left = 0;
+        const bool isGivenBack = memory.liveBlocks() == blocks && fileCalls.openFiles == 0;
+        if (!wrong.empty() || !isGivenBack) {
+            return "call " + std::to_string(nth) +
+                   " fails: " + (wrong.empty() ? "something is left behind" : wrong) + "\n";
         }
-        if (!disturbance.hasStruck()) {
+        if (!disturbance.calls.hasStruck) {
             return "";
         }
         ++failures;

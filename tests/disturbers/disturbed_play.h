@@ -8,30 +8,25 @@
 #ifndef ZARN_TESTS_DISTURBERS_DISTURBED_PLAY_H
 #define ZARN_TESTS_DISTURBERS_DISTURBED_PLAY_H
 
-#include <map>
 #include <string>
 #include <vector>
 
+#include "support/countdown.h"
 #include "support/scenario.h"
-#include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
 
-// Calls of one kind, of which one fails, and perhaps all that follow.
-class Disturbance {
-public:
-    virtual ~Disturbance() = default;
+// For how long calls fail. Until the end of the scenario little is asked of the answers, but
+// everything is destroyed under it.
+enum class Lasts { once, untilEndOfStep, untilEndOfScenario };
 
-    virtual void begin(long nth) = 0;         // the n-th call from now on fails first
-    virtual void cross(bool /*isInward*/) {}  // the border of the library
-    virtual bool hasStruck() const = 0;
-    virtual void end() = 0;               // everything works again
-    virtual long leftBehind() const = 0;  // what was taken since the beginning, and not given back
+// What goes wrong: calls of one kind, of which one fails, and perhaps all that follow.
+struct Disturbance {
+    Countdown& calls;
+    Lasts lasts;
 
     // Whether a step may give this answer in the place of the right one.
-    virtual bool mayAnswer(const std::string& verb,
-                           const std::string& found,
-                           const std::string& right) const = 0;
+    bool (*mayAnswer)(const std::string& verb, const std::string& found, const std::string& right);
 };
 
 // What is seen in an undisturbed play, and what else is known of it.
@@ -43,24 +38,25 @@ public:
         Answers answers;
         std::string before;  // of a declaration: what is declared, before it and behind it
         std::string after;
-        std::map<std::string, Words> stored;  // by a parse: of each name the occurrences
-        Answers again;                        // of the same parse, with a new result
+        std::vector<Words> stored;  // by a parse: of each name the occurrences
+        std::string again;          // of the same parse, with a new result
     };
 
     std::vector<Step> steps;  // each of one operation
     std::vector<Right> rights;
     Words names;     // of the items
     Words ownNames;  // those that are no synonym as well
+
+private:
+    void addSteps(const Scenario& scenario);
+    void playAll();
+    void playUntil(std::size_t parse);  // for what it stores, and does again
 };
 
-enum class Until { endOfStep, endOfScenario };
-
 // Lets each call fail in its turn, or each of so many, in plays of their own, and counts them. Says
-// what does not hold of the answers. When the disturbance lasts until the end of the scenario,
-// little is asked of them, but everything is destroyed under it.
+// what does not hold of the answers, or of what is given back.
 std::string disturbEach(const Undisturbed& undisturbed,
-                        Disturbance& disturbance,
-                        Until until,
+                        const Disturbance& disturbance,
                         long stride,
                         long& failures);
 

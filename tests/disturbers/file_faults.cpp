@@ -6,7 +6,6 @@
 #include <cerrno>
 #include <cstdlib>
 #include <iostream>
-#include <limits>
 
 #include "disturbers/disturbed_play.h"
 #include "disturbers/judged_files.h"
@@ -16,30 +15,10 @@ namespace {
 
 using namespace zarn_3_3::testing_support;
 
-class FailingCalls final : public Disturbance {
-public:
-    explicit FailingCalls(int number) : error(number) {}
-
-    void begin(long nth) override {
-        fileCalls.hasStruck = false;
-        fileCalls.isLasting = error == EACCES;
-        fileCalls.error = error;
-        fileCalls.left = nth;
-    }
-    bool hasStruck() const override { return fileCalls.hasStruck; }
-    void end() override { fileCalls.left = 0; }
-    long leftBehind() const override { return fileCalls.openFiles; }
-
-    // Interrupted calls are repeated.
-    bool mayAnswer(const std::string&,
-                   const std::string& found,
-                   const std::string&) const override {
-        return error != EINTR && found.rfind("6 Error reading option file '", 0) == 0;
-    }
-
-private:
-    int error;
-};
+// Interrupted calls are repeated.
+bool mayAnswer(const std::string&, const std::string& found, const std::string&) {
+    return fileCalls.error != EINTR && found.rfind("6 Error reading option file '", 0) == 0;
+}
 
 }  // namespace
 
@@ -49,12 +28,12 @@ int main(int argc, char** argv) {
     const int code = judgeFiles(argc - 1, argv + 1, [&](const Scenario& scenario) {
         const Undisturbed undisturbed(scenario);
         std::string wrong;
-        for (const std::size_t longest :
-             {std::numeric_limits<std::size_t>::max(), std::size_t{3}}) {
+        for (const std::size_t longest : {FileCalls().longestRead, std::size_t{3}}) {
             fileCalls.longestRead = longest;
             for (const int error : {EIO, EACCES, EINTR}) {
-                FailingCalls failing(error);
-                wrong += disturbEach(undisturbed, failing, Until::endOfStep, stride, failures);
+                fileCalls.error = error;
+                const Lasts lasts = error == EACCES ? Lasts::untilEndOfStep : Lasts::once;
+                wrong += disturbEach(undisturbed, {fileCalls, lasts, mayAnswer}, stride, failures);
             }
         }
         return wrong;

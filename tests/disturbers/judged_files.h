@@ -1,14 +1,18 @@
-// What programs that judge scenarios have in common.
+// What programs that play and judge scenarios have in common.
 
 #ifndef ZARN_TESTS_DISTURBERS_JUDGED_FILES_H
 #define ZARN_TESTS_DISTURBERS_JUDGED_FILES_H
 
 #include <functional>
+#include <initializer_list>
 #include <string>
 
 #include "support/scenario.h"
 
 namespace zarn_3_3::testing_support {
+
+// Throws std::invalid_argument when there is none.
+std::string contentOf(const char* file);
 
 // `judge` says what does not hold of a scenario, or nothing when all does.
 using Judge = std::function<std::string(const Scenario& scenario)>;
@@ -16,6 +20,9 @@ using Judge = std::function<std::string(const Scenario& scenario)>;
 // Judges every scenario in the files that a command line names, and shows what does not hold.
 // Returns what main returns.
 int judgeFiles(int argc, char** argv, const Judge& judge);
+
+bool isAmong(const std::string& word, std::initializer_list<const char*> words);
+bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs);
 
 }  // namespace zarn_3_3::testing_support
 

@@ -14,50 +14,20 @@ namespace {
 
 using namespace zarn_3_3::testing_support;
 
-class Outage final : public Disturbance {
-public:
-    explicit Outage(bool lasting) : isLasting(lasting) {}
-
-    void begin(long nth) override {
-        memory.hasStruck = false;
-        memory.isLasting = isLasting;
-        left = nth;
-        blocks = memory.liveBlocks();
+// The text of a failure takes memory as well.
+bool mayAnswer(const std::string& verb, const std::string& found, const std::string& right) {
+    if (isParse({0, verb, {}})) {
+        return found == "3" || found == "3 std::bad_alloc" || found == right.substr(0, 1);
     }
-    void cross(bool isInward) override {
-        if (isInward) {
-            memory.left = left;
-        } else {
-            left = std::exchange(memory.left, 0);
-        }
+    if (isAmong(verb, {"help", "topic", "modifiers", "globals"})) {
+        return found == "(nothing)" ||
+               found.find("Unknown error handled. (without") != std::string::npos;
     }
-    bool hasStruck() const override { return memory.hasStruck; }
-    void end() override { left = 0; }
-    long leftBehind() const override { return static_cast<long>(memory.liveBlocks() - blocks); }
-
-    bool mayAnswer(const std::string& verb,
-                   const std::string& found,
-                   const std::string& right) const override {
-        if (verb == "args" || verb == "argv" || verb == "text") {
-            // The text of a failure takes memory as well.
-            return found == "3" || found == "3 std::bad_alloc" || found == right.substr(0, 1);
-        }
-        if (verb == "help" || verb == "topic" || verb == "modifiers" || verb == "globals") {
-            return found == "(nothing)" ||
-                   found.find("Unknown error handled. (without") != std::string::npos;
-        }
-        const bool isMade = verb == "parser" || verb == "result";
-        return found == (isMade            ? "3"
-                         : verb == "error" ? ""
-                         : verb == "wrap"  ? "threw std::bad_alloc"
-                                           : "no");
-    }
-
-private:
-    bool isLasting;
-    long left = 0;
-    std::size_t blocks = 0;
-};
+    return found == (isAmong(verb, {"parser", "result"}) ? "3"
+                     : verb == "error"                   ? ""
+                     : verb == "wrap"                    ? "threw std::bad_alloc"
+                                                         : "no");
+}
 
 }  // namespace
 
@@ -66,11 +36,11 @@ int main(int argc, char** argv) {
     long failures = 0;
     const int code = judgeFiles(argc - 1, argv + 1, [&](const Scenario& scenario) {
         const Undisturbed undisturbed(scenario);
-        Outage once(false);
-        Outage lasting(true);
-        return disturbEach(undisturbed, once, Until::endOfStep, stride, failures) +
-               disturbEach(undisturbed, lasting, Until::endOfStep, stride, failures) +
-               disturbEach(undisturbed, lasting, Until::endOfScenario, stride, failures);
+        std::string wrong;
+        for (const Lasts lasts : {Lasts::once, Lasts::untilEndOfStep, Lasts::untilEndOfScenario}) {
+            wrong += disturbEach(undisturbed, {memory, lasts, mayAnswer}, stride, failures);
+        }
+        return wrong;
     });
     std::cout << failures << " allocations failed\n";
     return code;

@@ -46,18 +46,12 @@ void inThreads(int number, const std::function<void(int)>& task) {
     }
 }
 
-bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs) {
-    return std::any_of(scenario.steps.begin(), scenario.steps.end(), [&verbs](const Step& step) {
-        return std::find(verbs.begin(), verbs.end(), step.verb) != verbs.end();
-    });
-}
-
 enum class Played { here, fromThreadToThread };
 
 // Whatever does not depend on numbers, which may come twice when two parse at once.
 std::string conclusions(const Scenario& scenario, Played played) {
     std::string text;
-    Stage stage({}, Console::untouched);
+    Stage stage(Console::untouched);
     for (const Step& step : scenario.steps) {
         if (played == Played::here) {
             stage.perform(step);
@@ -65,7 +59,7 @@ std::string conclusions(const Scenario& scenario, Played played) {
             std::thread([&] { stage.perform(step); }).join();
         }
         const Answers answers = std::exchange(stage.observer.answers, {});
-        const bool isTold = step.verb == "args" || step.verb == "text" || step.verb == "help";
+        const bool isTold = isAmong(step.verb, {"args", "text", "help"});
         text += isTold && !answers.empty() ? answers.back().text + "\n" : "";
     }
     return text;

@@ -19,12 +19,7 @@ Scenario without(Scenario scenario, IsUnwanted isUnwanted) {
     return scenario;
 }
 
-bool isAboutHandlers(const Step& step) {
-    return step.verb == "add" || step.verb == "remove" || step.verb == "on";
-}
-
-// The defaults of a text are drawn by a parse of their own, which may go well to its end.
-bool usesUpNumbers(const Step& step) { return step.verb == "left"; }
+bool isAboutHandlers(const Step& step) { return isAmong(step.verb, {"add", "remove", "on"}); }
 
 // Each command line on its own: files are read again by every parse behind the one that names them.
 std::string differencesAsOptionFiles(const Scenario& scenario) {
@@ -43,7 +38,8 @@ std::string judge(const Scenario& scenario) {
     for (const Scenario& one : {scenario, without(scenario, isAboutHandlers)}) {
         const Answers seen = play(one);
         differences += differencesWhenHeard(one, seen);
-        if (std::none_of(one.steps.begin(), one.steps.end(), usesUpNumbers)) {
+        // The defaults of a text are drawn by a parse of their own, which may go well to its end.
+        if (!hasStep(one, {"left"})) {
             differences += differencesAsText(one, seen) + differencesAsOptionFiles(one);
         }
     }

@@ -1,6 +1,5 @@
 #include "support/acting_handler.h"
 
-#include "support/restored.h"
 #include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
@@ -14,29 +13,28 @@ bool isLike(const std::string& pattern, const std::string& event) {
 
 }  // namespace
 
-bool ActingHandler::onOptionParse(const char* option) { return hear("option ", option); }
+bool ActingHandler::onOptionParse(const char* option) { return hear("option ", option, nullptr); }
 
 bool ActingHandler::onValueParse(const char* option, const Value& value) {
-    const Crossing outward(stage->border, false);
-    stage->keep(stage->parser, option);
-    const std::string text = value.text == nullptr ? "" : value.text;
-    const std::string head = std::string("value ") + option + "=";
-    return hear(head + text, head + stage->shown(value));
+    return hear("value ", option, &value);
 }
 
-bool ActingHandler::onUknownArgument(const char* argument) { return hear("unknown ", argument); }
+bool ActingHandler::onUknownArgument(const char* argument) {
+    return hear("unknown ", argument, nullptr);
+}
 
 void ActingHandler::plan(long nth, const std::string& event, const Step& step) {
     plans.push_back({nth, event, step});
 }
 
-bool ActingHandler::hear(const char* kind, const char* kept) {
-    const Crossing outward(stage->border, false);
-    const std::string event = std::string(kind) + stage->keep(stage->parser, kept);
-    return hear(event, event);
-}
-
-bool ActingHandler::hear(const std::string& event, const std::string& shown) {
+bool ActingHandler::hear(const char* kind, const char* text, const Value* value) {
+    const Restored spared(memory.isSpared, true);
+    std::string event = std::string(kind) + stage->keep(stage->parser, text);
+    std::string shown = event;
+    if (value != nullptr) {
+        event += std::string("=") + (value->text == nullptr ? "" : value->text);
+        shown += "=" + stage->shown(*value);
+    }
     if (stage->lent != nullptr) {
         stage->lent->takeBack();
     }

@@ -34,8 +34,7 @@ private:
         bool isInProgress = false;
     };
 
-    bool hear(const char* kind, const char* kept);
-    bool hear(const std::string& event, const std::string& shown);
+    bool hear(const char* kind, const char* text, const Value* value);
     void act(Plan& plan, const std::string& event);
 
     std::list<Plan> plans;  // more may come while one is in progress

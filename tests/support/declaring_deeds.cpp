@@ -33,6 +33,7 @@ int flagOf(const std::string& word) {
     return found != flags.end() ? found->second : static_cast<int>(numberOf(word));
 }
 
+// `operation` makes an object, named null one without a place.
 template <typename Object, typename Make>
 void make(Stage& stage,
           std::map<std::string, Object*>& all,
@@ -40,25 +41,21 @@ void make(Stage& stage,
           Object*& used,
           Make operation) {
     stage.destroy(all, name, used);
-    Object* made = nullptr;
-    const int code =
-        stage.call([&] { return operation(pointerTo(name) == nullptr ? nullptr : &made); });
+    used = nullptr;
+    const int code = stage.call(operation, name == "null" ? nullptr : &used);
     if (code == resultOk) {
-        all[name] = made;
+        all[name] = used;
     } else {
         stage.tell(std::to_string(code));
     }
-    used = made;
 }
 
-void makeResultNamed(Stage& stage, const std::string& name) {
-    IParser& parser = *stage.parser;
-    make(stage, stage.results, name, stage.result, [&parser](IParseResult** out) {
-        return parser.createResult(out);
-    });
+void makeResult(Stage& stage, const Step& step) {
+    const auto create = [parser = stage.parser](IParseResult** out) {
+        return parser->createResult(out);
+    };
+    make(stage, stage.results, wordOf(step, 0), stage.result, create);
 }
-
-void makeResult(Stage& stage, const Step& step) { makeResultNamed(stage, wordOf(step.words, 0)); }
 
 void makeParser(Stage& stage, const Step& step) {
     const std::string name = settingOf(step.words, "name", "main");
@@ -66,19 +63,17 @@ void makeParser(Stage& stage, const Step& step) {
     for (const std::string& word : step.words) {
         flags |= word.find('=') == std::string::npos ? flagOf(word) : 0;
     }
-    make(stage, stage.parsers, name, stage.parser, [flags](IParser** out) {
-        return createParser(out, flags);
-    });
+    const auto create = [flags](IParser** out) { return createParser(out, flags); };
+    make(stage, stage.parsers, name, stage.parser, create);
     if (stage.parser != nullptr) {
-        makeResultNamed(stage, name);
+        makeResult(stage, {step.line, "result", {name}});
     }
 }
 
 template <typename Object>
 void useNamed(const std::map<std::string, Object*>& all, const std::string& name, Object*& used) {
     if (!name.empty()) {
-        const auto found = all.find(name);
-        used = found == all.end() ? nullptr : found->second;
+        used = all.count(name) == 0 ? nullptr : all.at(name);
     }
 }
 
@@ -101,65 +96,61 @@ void rememberName(Stage& stage, const std::string& name) {
     }
 }
 
-void applyDeprecated(Stage& stage, const std::string& text) {
-    const std::size_t arrow = text.find("->");
-    if (arrow == std::string::npos) {
-        throw BadStep("no -> in " + text);
-    }
-    const variant_t old = stage.values.make(text.substr(0, arrow), stage.last.type);
-    const variant_t replacement = stage.values.make(text.substr(arrow + 2), stage.last.type);
-    stage.call([&] { stage.last.item->allowDeprecatedValue(old, replacement); });
-}
-
 void apply(Stage& stage, const std::string& key, const std::string& text) {
     IOption& item = *stage.last.item;
-    const bool isValue = key == "allow" || key == "default";
-    const variant_t value = isValue ? stage.values.make(text, stage.last.type) : variant_t();
+    const auto valueOf = [&stage](const std::string& word) {
+        return stage.values.make(word, stage.last.type);
+    };
     if (key == "synonym") {
         rememberName(stage, text);
-        stage.call([&] { item.synonym(pointerTo(text)); });
+        stage.call(&IOption::synonym, item, pointerTo(text));
     } else if (key == "allow") {
-        stage.call([&] { item.allowValue(value); });
-    } else if (key == "deprecated") {
-        applyDeprecated(stage, text);
+        stage.call(&IOption::allowValue, item, valueOf(text));
+    } else if (key == "deprecated" && text.find("->") != std::string::npos) {
+        const std::size_t arrow = text.find("->");
+        const variant_t replacement = valueOf(text.substr(arrow + 2));
+        stage.call(
+            &IOption::allowDeprecatedValue, item, valueOf(text.substr(0, arrow)), replacement);
     } else if (key == "default") {
-        stage.call([&] { item.defaultValue(value); });
+        stage.call(&IOption::defaultValue, item, valueOf(text));
     } else if (key == "tokenize") {
-        stage.call([&] { item.tokenize(text.c_str()[0]); });
+        stage.call(&IOption::tokenize, item, text.c_str()[0]);
     } else if (key == "positional") {
-        stage.call([&] { item.positional(); });
+        stage.call(&IOption::positional, item);
     } else if (key == "tag") {
-        stage.call([&] { item.tag(pointerTo(text)); });
+        stage.call(&IOption::tag, item, pointerTo(text));
     } else if (key != "help" && key != "section" && key != "of") {
-        throw BadStep("unknown setting: " + key);
+        throw BadStep("no setting: " + key + "=" + text);
     }
 }
 
 void applyFrom(Stage& stage, std::size_t begin, const Words& words) {
     for (std::size_t i = begin; i < words.size() && stage.last.item != nullptr; ++i) {
         const std::size_t sign = std::min(words[i].find('='), words[i].size());
-        apply(
-            stage, words[i].substr(0, sign), words[i].substr(std::min(sign + 1, words[i].size())));
+        const std::size_t text = std::min(sign + 1, words[i].size());
+        apply(stage, words[i].substr(0, sign), words[i].substr(text));
     }
 }
 
 void set(Stage& stage, const Step& step) { applyFrom(stage, 0, step.words); }
 
 void declare(Stage& stage, const Step& step) {
-    const std::string helpText = settingOf(step.words, "help", "");
-    const std::string sectionText = settingOf(step.words, "section", "");
+    const std::string help = settingOf(step.words, "help", "");
+    const std::string section = settingOf(step.words, "section", "");
     const std::string actions = settingOf(step.words, "of", "");
-    const char* const names = pointerTo(wordOf(step.words, 0));
-    const char* const help = pointerTo(helpText);
-    const char* const section = pointerTo(sectionText);
-    const das_variant_type_t type = kindNamed(wordOf(step.words, 1));
-    IOption& item = stage.call([&]() -> IOption& {
-        IParser& parser = *stage.parser;
-        return step.verb == "option" ? parser.option(names, help, type, section)
-               : step.verb == "action"
-                   ? parser.action(names, help, type, section)
-                   : parser.modifier(names, pointerTo(actions), help, type, section);
-    });
+    const char* const names = pointerTo(wordOf(step, 0));
+    const das_variant_type_t type = kindNamed(wordOf(step, 1));
+    const auto operation = step.verb == "action" ? &IParser::action : &IParser::option;
+    IOption& item =
+        step.verb == "modifier"
+            ? stage.call(&IParser::modifier,
+                         stage.parser,
+                         names,
+                         pointerTo(actions),
+                         pointerTo(help),
+                         type,
+                         pointerTo(section))
+            : stage.call(operation, stage.parser, names, pointerTo(help), type, pointerTo(section));
     std::istringstream list(step.words[0]);
     for (std::string name; std::getline(list, name, ',');) {
         rememberName(stage, name);
@@ -169,25 +160,26 @@ void declare(Stage& stage, const Step& step) {
 }
 
 void declareOptionFile(Stage& stage, const Step& step) {
-    const std::string help = settingOf(step.words, "help", "");
-    const std::string section = settingOf(step.words, "section", "");
     rememberName(stage, "option-file");
     stage.last = {};
-    stage.tellUnless(stage.call(
-        [&] { return stage.parser->addOptionFileOption(pointerTo(help), pointerTo(section)); }));
+    stage.tellUnless(stage.call(&IParser::addOptionFileOption,
+                                stage.parser,
+                                pointerTo(settingOf(step.words, "help", "")),
+                                pointerTo(settingOf(step.words, "section", ""))));
 }
 
 void allowGroup(Stage& stage, const Step& step) {
     const std::set<std::string> group(step.words.begin(), step.words.end());
-    stage.tellUnless(stage.call([&] { return stage.parser->allowSimultaneousActions(group); }));
+    stage.tellUnless(stage.call(&IParser::allowSimultaneousActions, stage.parser, group));
 }
 
 void askDeclared(Stage& stage, const Step& step) {
     const bool isAction = step.words.size() > 1 && step.words[1] == "action";
-    const std::string section = settingOf(step.words, "section", "null");
-    const char* const name = pointerTo(wordOf(step.words, 0));
-    const bool isDeclared = stage.call(
-        [&] { return stage.parser->isOptionDeclared(name, isAction, pointerTo(section)); });
+    const bool isDeclared = stage.call(&IParser::isOptionDeclared,
+                                       stage.parser,
+                                       pointerTo(wordOf(step, 0)),
+                                       isAction,
+                                       pointerTo(settingOf(step.words, "section", "null")));
     stage.tell(isDeclared ? "yes" : "no");
 }
 

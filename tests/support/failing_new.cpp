@@ -3,13 +3,9 @@
 #include <cstdlib>
 #include <new>
 
-thread_local Memory memory;
-
 // To malloc, so that the sanitizers still see every block.
 void* operator new(std::size_t size, const std::nothrow_t&) noexcept {
-    if (memory.left > 0 && --memory.left == 0) {
-        memory.hasStruck = true;
-        memory.left = memory.isLasting ? 1 : 0;
+    if (!memory.isSpared && memory.strikes()) {
         return nullptr;
     }
     ++memory.blocks;

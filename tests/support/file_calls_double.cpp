@@ -17,20 +17,13 @@ constexpr int onlyDescriptor = 7;
 thread_local const MemoryFile* openFile = nullptr;
 thread_local std::size_t bytesRead = 0;
 
-int fail(int error) {
-    errno = error;
-    return -1;
-}
-
-// Asking for a status waits for nothing that a signal could interrupt.
-bool isToFail(bool waits) {
+// The failure of a call, 0 when it succeeds. Asking for a status waits for nothing that a signal
+// could interrupt.
+int failure(const MemoryFile* file, int errorWithoutFile, bool waits = false) {
     const bool isSpared = fileCalls.error == EINTR && !waits;
-    if (isSpared || fileCalls.left == 0 || --fileCalls.left != 0) {
-        return false;
-    }
-    fileCalls.hasStruck = true;
-    fileCalls.left = fileCalls.isLasting ? 1 : 0;
-    return true;
+    const bool strikes = !isSpared && fileCalls.strikes();
+    errno = file == nullptr ? errorWithoutFile : strikes ? fileCalls.error : errno;
+    return file == nullptr || strikes ? -1 : 0;
 }
 
 const MemoryFile* fileNamed(const char* path) {
@@ -38,30 +31,29 @@ const MemoryFile* fileNamed(const char* path) {
     return found == fileCalls.files.end() ? nullptr : found->second.get();
 }
 
-bool isOpen(int descriptor) { return descriptor == onlyDescriptor && openFile != nullptr; }
-
-mode_t modeOf(FileKind kind) {
-    switch (kind) {
-        case FileKind::pipe:
-            return S_IFIFO;
-        case FileKind::directory:
-            return S_IFDIR;
-        case FileKind::device:
-            return S_IFCHR;
-        default:
-            return S_IFREG;
-    }
+const MemoryFile* fileAt(int descriptor) {
+    return descriptor == onlyDescriptor ? openFile : nullptr;
 }
 
-int tellStatus(const MemoryFile& file, struct stat* status) {
-    const std::size_t size = file.content.size();
-    const bool hasSize = modeOf(file.kind) == S_IFREG;
+mode_t modeOf(FileKind kind) {
+    return kind == FileKind::pipe        ? S_IFIFO
+           : kind == FileKind::directory ? S_IFDIR
+           : kind == FileKind::device    ? S_IFCHR
+                                         : S_IFREG;
+}
+
+int tellStatus(const MemoryFile* file, int errorWithoutFile, struct stat* status) {
+    if (failure(file, errorWithoutFile) != 0) {
+        return -1;
+    }
+    const std::size_t size = file->content.size();
     *status = {};
     status->st_dev = 1;
-    status->st_ino = reinterpret_cast<std::uintptr_t>(&file);
-    status->st_mode = modeOf(file.kind);
-    status->st_size =
-        hasSize ? static_cast<off_t>(file.kind == FileKind::growing ? size / 2 : size) : 0;
+    status->st_ino = reinterpret_cast<std::uintptr_t>(file);
+    status->st_mode = modeOf(file->kind);
+    if (S_ISREG(status->st_mode)) {
+        status->st_size = static_cast<off_t>(file->kind == FileKind::growing ? size / 2 : size);
+    }
     return 0;
 }
 
@@ -73,27 +65,21 @@ namespace TROV_2_18::system::calls {
 using namespace zarn_3_3::testing_support;
 
 int statusOfPath(const char* path, struct stat* status) noexcept {
-    const MemoryFile* const file = fileNamed(path);
-    if (isToFail(false) || file == nullptr) {
-        return fail(file != nullptr ? fileCalls.error : ENOENT);
-    }
-    return tellStatus(*file, status);
+    return tellStatus(fileNamed(path), ENOENT, status);
 }
 
 int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
-    if (isToFail(false) || !isOpen(descriptor)) {
-        return fail(isOpen(descriptor) ? fileCalls.error : EBADF);
-    }
-    return tellStatus(*openFile, status);
+    return tellStatus(fileAt(descriptor), EBADF, status);
 }
 
 int openForReading(const char* path) {
     const MemoryFile* const file = fileNamed(path);
-    if (isToFail(true) || file == nullptr) {
-        return fail(file != nullptr ? fileCalls.error : ENOENT);
+    if (failure(file, ENOENT, true) != 0) {
+        return -1;
     }
     if (file->kind == FileKind::unreadable) {
-        return fail(EACCES);
+        errno = EACCES;
+        return -1;
     }
     openFile = file;
     bytesRead = 0;
@@ -102,17 +88,18 @@ int openForReading(const char* path) {
 }
 
 ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
-    if (isToFail(true) || !isOpen(descriptor)) {
-        return fail(isOpen(descriptor) ? fileCalls.error : EBADF);
+    const MemoryFile* const file = fileAt(descriptor);
+    if (failure(file, EBADF, true) != 0) {
+        return -1;
     }
     const std::size_t wanted = std::min(size, fileCalls.longestRead);
-    const std::size_t got = openFile->content.copy(buffer, wanted, bytesRead);
+    const std::size_t got = file->content.copy(buffer, wanted, bytesRead);
     bytesRead += got;
     return static_cast<ssize_t>(got);
 }
 
 void closeDescriptor(int descriptor) noexcept {
-    fileCalls.openFiles -= isOpen(descriptor) ? 1 : 1000;
+    fileCalls.openFiles -= fileAt(descriptor) != nullptr ? 1 : 1000;
     openFile = nullptr;
 }
 

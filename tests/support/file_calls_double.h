@@ -11,6 +11,8 @@
 #include <memory>
 #include <string>
 
+#include "support/countdown.h"
+
 namespace zarn_3_3::testing_support {
 
 enum class FileKind { regular, pipe, growing, directory, device, unreadable };
@@ -21,15 +23,12 @@ struct MemoryFile {
 };
 
 // Nothing of this takes memory while files are read.
-struct FileCalls {
+struct FileCalls : Countdown {
     using Files = std::map<std::string, std::shared_ptr<const MemoryFile>, std::less<>>;
 
     Files files;  // by each of their names and spellings
 
-    long left = 0;           // calls up to the one that fails, 1 for the next; 0: none will
-    bool isLasting = false;  // whether all that follow fail as well
-    int error = 0;           // its errno; EINTR interrupts the calls that a signal can interrupt
-    bool hasStruck = false;
+    int error = 0;  // of the call that fails; EINTR comes from those that a signal can interrupt
     std::size_t longestRead = std::numeric_limits<std::size_t>::max();
     int openFiles = 0;  // far below 0 when one was closed that was not open
 };

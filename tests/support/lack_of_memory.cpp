@@ -1,10 +1,10 @@
 #include "support/lack_of_memory.h"
 
 #include <algorithm>
+#include <climits>
 #include <utility>
 #include <vector>
 
-#include "recognizers/argument_parser.h"
 #include "support/failing_new.h"
 #include "support/stage.h"
 
@@ -23,41 +23,19 @@ bool isCountedPlan(const Step& step) {
                                  (colon[1] != "refuse" && colon[1] != "throw"));
 }
 
-// What the library takes, and does not get, during one step.
-struct Scarcity {
-    long left;  // allocations up to the one that fails; 0: none does
-    bool isLasting;
-    bool isInForce = false;
-    std::size_t taken = 0;
-
-    void cross(bool isInward) {
-        if (!isInForce) {
-            return;
-        }
-        if (isInward) {
-            taken -= memory.blocks;
-            memory.isLasting = isLasting;
-            memory.left = left;
-        } else {
-            left = std::exchange(memory.left, 0);
-            taken += memory.blocks;
-        }
-    }
-};
-
-std::vector<Answers> play(const Scenario& scenario, std::size_t disturbed, Scarcity& scarcity) {
-    const int before = IArgumentParser::m_idx;
+// The answers to each step, with a shortage in force during one of them.
+std::vector<Answers> play(const Scenario& scenario, std::size_t disturbed, Countdown& shortage) {
     std::vector<Answers> answers;
-    {
-        Stage stage({[&scarcity](bool isInward) { scarcity.cross(isInward); }});
-        for (const Step& step : scenario.steps) {
-            scarcity.isInForce = answers.size() == disturbed;
-            stage.perform(step);
-            scarcity.isInForce = false;
-            answers.push_back(std::exchange(stage.observer.answers, {}));
-        }
+    Stage stage;
+    for (const Step& step : scenario.steps) {
+        const bool isStruck = answers.size() == disturbed;
+        Countdown& failing = memory;
+        failing = isStruck ? shortage : Countdown();
+        stage.perform(step);
+        shortage = isStruck ? failing : shortage;
+        memory.left = 0;
+        answers.push_back(std::exchange(stage.observer.answers, {}));
     }
-    IArgumentParser::m_idx = before;
     return answers;
 }
 
@@ -156,13 +134,15 @@ std::string wrongWithoutMemory(const Scenario& scenario, const Outage& outage) {
     }
     const std::size_t index = indexes[outage.step % indexes.size()];
     const Scenario twice = repeated(scenario, index);
-    Scarcity none{0, false};
+    constexpr long enough = LONG_MAX;
+    Countdown none{enough};
     const std::vector<Answers> right = play(twice, index, none);
-    if (none.taken == 0) {
+    const std::size_t taken = static_cast<std::size_t>(enough - none.left);
+    if (taken == 0) {
         return "";
     }
-    Scarcity scarcity{static_cast<long>(outage.allocation % none.taken) + 1, outage.isLasting};
-    return judge(twice, index, play(twice, index, scarcity), right);
+    Countdown shortage{static_cast<long>(outage.allocation % taken) + 1, outage.isLasting};
+    return judge(twice, index, play(twice, index, shortage), right);
 }
 
 }  // namespace zarn_3_3::testing_support

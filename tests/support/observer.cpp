@@ -3,53 +3,48 @@
 #include <iostream>
 #include <sstream>
 
+#include "support/failing_new.h"
+#include "support/restored.h"
+
 namespace zarn_3_3::testing_support {
 namespace {
 
 std::string escapedByte(char c) {
+    const std::string special = "\n\t\r\\";
+    const std::size_t found = special.find(c);
+    if (found != std::string::npos) {
+        return std::string("\\") + "ntr\\"[found];
+    }
     const char* const digits = "0123456789ABCDEF";
     const auto byte = static_cast<unsigned char>(c);
-    switch (c) {
-        case '\n':
-            return "\\n";
-        case '\t':
-            return "\\t";
-        case '\r':
-            return "\\r";
-        case '\\':
-            return "\\\\";
-        default:
-            return byte >= ' ' && byte < 0x7F
-                       ? std::string(1, c)
-                       : std::string("\\x") + digits[byte / 16] + digits[byte % 16];
-    }
+    return byte >= ' ' && byte < 0x7F ? std::string(1, c)
+                                      : std::string("\\x") + digits[byte / 16] + digits[byte % 16];
 }
 
 }  // namespace
 
-CapturedLines::int_type CapturedLines::overflow(int_type character) {
-    const Crossing outward(border, false);
-    const char c = traits_type::to_char_type(character);
-    if (c == '\n') {
-        take(std::exchange(line, {}));
-    } else {
-        line += c;
-    }
-    return traits_type::not_eof(character);
-}
-
-void CapturedLines::finish() {
-    if (!line.empty()) {
-        take(std::exchange(line, {}) + " (without a line feed)");
-    }
-}
-
-Observer::Observer(const Border& border, Console console) {
+Observer::Observer(Console console) {
     if (console == Console::observed) {
-        const auto takeLog = [this](const std::string& text) { say(Kind::log, "log: " + text); };
-        log.emplace(std::cout, border, takeLog);
-        warnings.emplace(
-            std::cerr, border, [this](const std::string& text) { say(Kind::warning, text); });
+        log.emplace(std::cout, [this](char c) { hear(Kind::log, c); });
+        warnings.emplace(std::cerr, [this](char c) { hear(Kind::warning, c); });
+    }
+}
+
+void Observer::hear(Kind kind, char c) {
+    const Restored spared(memory.isSpared, true);
+    if (c != '\n') {
+        begun[kind] += c;
+    } else {
+        say(kind, (kind == Kind::log ? "log: " : "") + std::exchange(begun[kind], {}));
+    }
+}
+
+void Observer::finishLines() {
+    for (auto& [kind, text] : begun) {
+        if (!text.empty()) {
+            text += " (without a line feed)";
+            hear(kind, '\n');
+        }
     }
 }
 
@@ -71,13 +66,6 @@ void Observer::sayLines(const std::string& text) {
     }
     if (text.empty()) {
         say(Kind::outcome, "(nothing)");
-    }
-}
-
-void Observer::finishLines() {
-    if (log) {
-        log->finish();
-        warnings->finish();
     }
 }
 

@@ -3,13 +3,12 @@
 #ifndef ZARN_TESTS_SUPPORT_OBSERVER_H
 #define ZARN_TESTS_SUPPORT_OBSERVER_H
 
-#include <functional>
+#include <map>
 #include <optional>
-#include <ostream>
-#include <streambuf>
 #include <string>
-#include <utility>
 #include <vector>
+
+#include "support/captured_stream.h"
 
 namespace zarn_3_3::testing_support {
 
@@ -24,70 +23,26 @@ struct Answer {
 
 using Answers = std::vector<Answer>;
 
-// Control goes into the library and comes out of it, by calls and by events inside them. Whoever
-// disturbs the library alone hears of each crossing.
-struct Border {
-    std::function<void(bool isInward)> crossed = [](bool) {};
-};
-
-// Crosses the border, and goes back when it ends.
-class Crossing {
-public:
-    Crossing(const Border& crossed, bool inward) : border(crossed), isInward(inward) {
-        border.crossed(isInward);
-    }
-    Crossing(const Crossing&) = delete;
-    Crossing& operator=(const Crossing&) = delete;
-    ~Crossing() { border.crossed(!isInward); }
-
-private:
-    const Border& border;
-    bool isInward;
-};
-
-// Takes the place of a stream's buffer while it lives, and hands over each line that is written.
-class CapturedLines final : private std::streambuf {
-public:
-    CapturedLines(std::ostream& captured,
-                  const Border& crossed,
-                  std::function<void(const std::string& line)> lineTaker)
-        : border(crossed),
-          take(std::move(lineTaker)),
-          stream(captured),
-          before(stream.rdbuf(this)) {}
-    CapturedLines(const CapturedLines&) = delete;
-    CapturedLines& operator=(const CapturedLines&) = delete;
-    ~CapturedLines() override { stream.rdbuf(before); }
-
-    void finish();  // hands over what stands in a line without an end
-
-private:
-    int_type overflow(int_type character) override;
-
-    const Border& border;
-    std::function<void(const std::string& line)> take;
-    std::ostream& stream;
-    std::streambuf* before;
-    std::string line;
-};
-
 // Whether what is written to the console is observed; only one observer at a time may do so.
 enum class Console { observed, untouched };
 
 class Observer {
 public:
-    Observer(const Border& border, Console console);
+    explicit Observer(Console console);
 
     void say(Kind kind, const std::string& text);
     void sayLines(const std::string& text);  // an outcome of several lines
-    void finishLines();
+    void finishLines();                      // what was written without a line feed
 
     int line = 0;  // of the step that is done
     Answers answers;
 
 private:
-    std::optional<CapturedLines> log;
-    std::optional<CapturedLines> warnings;
+    void hear(Kind kind, char c);
+
+    std::map<Kind, std::string> begun;  // lines of the console
+    std::optional<TappedStream> log;
+    std::optional<TappedStream> warnings;
 };
 
 // `text` with escapes, so that it is one line of readable characters.

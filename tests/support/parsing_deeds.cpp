@@ -6,51 +6,43 @@
 #include <stdexcept>
 
 #include "support/file_calls_double.h"
-#include "support/restored.h"
 #include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
 namespace {
 
 // A parse may begin inside an event of another.
-template <typename Parse>
-void parse(Stage& stage, LentTexts& texts, Parse operation) {
+template <typename Operation, typename... Arguments>
+void parse(Stage& stage, LentTexts& texts, Operation operation, Arguments... arguments) {
     const Restored lent(stage.lent, &texts);
-    IParser& parser = *stage.parser;
-    const int code = stage.call(operation);
-    const std::string error =
-        stage.keep(&parser, stage.call([&parser] { return parser.getErrorDesc(); }));
+    IParser* const parser = stage.parser;
+    const int code = stage.call(operation, parser, arguments..., stage.result);
+    const std::string error = stage.keep(parser, stage.call(&IParser::getErrorDesc, parser));
     stage.tell(std::to_string(code) + (code == resultOk || error.empty() ? "" : " " + error));
 }
 
-void parseVector(Stage& stage, int count, const Words& words, std::vector<const char*> argv) {
+// Words behind "args" stand behind the name of the program, which is never read.
+void parseVector(Stage& stage, const Step& step) {
+    const bool isCounted = step.verb == "argv";
+    const std::size_t size = step.words.size();
+    const long count = isCounted ? numberOf(wordOf(step, 0)) : static_cast<long>(size) + 1;
     LentTexts texts;
-    texts.argv = std::move(argv);
-    for (const std::string& word : words) {
-        texts.argv.push_back(texts.lend(word));
+    texts.argv.resize(isCounted ? 0 : 1);
+    for (std::size_t i = isCounted ? 1 : 0; i < size; ++i) {
+        texts.argv.push_back(texts.lend(step.words[i]));
     }
-    const char* const* const first = texts.argv.empty() ? nullptr : texts.argv.data();
-    parse(stage, texts, [&] { return stage.parser->parseArgsVector(count, first, stage.result); });
-}
-
-// The name of the program is never read.
-void parseArgs(Stage& stage, const Step& step) {
-    parseVector(stage, static_cast<int>(step.words.size()) + 1, step.words, {nullptr});
-}
-
-void parseArgv(Stage& stage, const Step& step) {
-    const int count = static_cast<int>(numberOf(wordOf(step.words, 0)));
-    parseVector(stage, count, Words(step.words.begin() + 1, step.words.end()), {});
+    const char* const* const argv = texts.argv.empty() ? nullptr : texts.argv.data();
+    parse(stage, texts, &IParser::parseArgsVector, static_cast<int>(count), argv);
 }
 
 void parseText(Stage& stage, const Step& step) {
     LentTexts texts;
     const char* const text = texts.lend(joined(step.words, 0, step.words.size(), '\n'));
-    parse(stage, texts, [&] { return stage.parser->parseStream(text, stage.result); });
+    parse(stage, texts, &IParser::parseStream, text);
 }
 
 void tellError(Stage& stage, const Step&) {
-    stage.tell(stage.keep(stage.parser, stage.call([&] { return stage.parser->getErrorDesc(); })));
+    stage.tell(stage.keep(stage.parser, stage.call(&IParser::getErrorDesc, stage.parser)));
 }
 
 void makeFile(Stage&, const Step& step) {
@@ -62,12 +54,12 @@ void makeFile(Stage&, const Step& step) {
         {"device",     FileKind::device    },
         {"unreadable", FileKind::unreadable},
     };
-    fileCalls.files[wordOf(step.words, 0)] = std::make_shared<MemoryFile>(
+    fileCalls.files[wordOf(step, 0)] = std::make_shared<MemoryFile>(
         MemoryFile{kinds.at(step.verb), joined(step.words, 1, step.words.size(), '\n')});
 }
 
 void makeLink(Stage&, const Step& step) {
-    fileCalls.files[wordOf(step.words, 0)] = fileCalls.files[wordOf(step.words, 1)];
+    fileCalls.files[wordOf(step, 0)] = fileCalls.files[wordOf(step, 1)];
 }
 
 EventHandler* handlerNamed(Stage& stage, const std::string& word) {
@@ -82,16 +74,13 @@ EventHandler* handlerNamed(Stage& stage, const std::string& word) {
 }
 
 void changeHandlers(Stage& stage, const Step& step) {
-    EventHandler* const handler = handlerNamed(stage, wordOf(step.words, 0));
-    const bool isAdded = step.verb == "add";
-    stage.tellUnless(stage.call([&] {
-        return isAdded ? stage.parser->addHandler(handler) : stage.parser->removeHandler(handler);
-    }));
+    const auto change = step.verb == "add" ? &IParser::addHandler : &IParser::removeHandler;
+    stage.tellUnless(stage.call(change, stage.parser, handlerNamed(stage, wordOf(step, 0))));
 }
 
 void plan(Stage& stage, const Step& step) {
-    const std::size_t handler = static_cast<std::size_t>(numberOf(wordOf(step.words, 0)));
-    const std::string nth = settingOf({wordOf(step.words, 1)}, "nth", "0");
+    const auto handler = static_cast<std::size_t>(numberOf(wordOf(step, 0)));
+    const std::string nth = settingOf({wordOf(step, 1)}, "nth", "0");
     const auto colon = std::find(step.words.begin(), step.words.end(), ":");
     if (step.words.end() - colon < 2) {
         throw BadStep("no step behind ':'");
@@ -109,7 +98,7 @@ struct SilentException final : std::exception {
 };
 
 void throwSome(Stage&, const Step& step) {
-    const std::string& kind = wordOf(step.words, 0);
+    const std::string& kind = wordOf(step, 0);
     if (kind == "standard") {
         throw std::runtime_error(joined(step.words, 1, step.words.size(), ' '));
     }
@@ -126,44 +115,38 @@ void throwSome(Stage&, const Step& step) {
 }
 
 void setLocale(Stage& stage, const Step& step) {
-    if (wordOf(step.words, 0) == "grouping") {
+    stage.locale.reset();
+    if (wordOf(step, 0) == "grouping") {
         stage.locale.emplace();
-    } else {
-        stage.locale.reset();
     }
 }
 
 void setLeft(Stage& stage, const Step& step) {
-    stage.beginNumbers(static_cast<int>(INT_MAX - numberOf(wordOf(step.words, 0))));
+    stage.beginNumbers(static_cast<int>(INT_MAX - numberOf(wordOf(step, 0))));
 }
 
 }  // namespace
 
 Deeds parsingDeeds() {
     return {
-        {"args",       {Needs::parser, parseArgs} },
-        {"argv",       {Needs::parser, parseArgv} },
-        {"text",       {Needs::parser, parseText} },
-        {"error",      {Needs::parser, tellError} },
-        {"file",       {Needs::nothing, makeFile} },
-        {"pipe",       {Needs::nothing, makeFile} },
-        {"growing",    {Needs::nothing, makeFile} },
-        {"directory",  {Needs::nothing, makeFile} },
-        {"device",     {Needs::nothing, makeFile} },
-        {"unreadable", {Needs::nothing, makeFile} },
-        {"link",       {Needs::nothing, makeLink} },
-        {"locale",     {Needs::nothing, setLocale}},
-        {"left",       {Needs::nothing, setLeft}  },
-    };
-}
-
-Deeds handlerDeeds() {
-    return {
-        {"add",    {Needs::parser, changeHandlers}},
-        {"remove", {Needs::parser, changeHandlers}},
-        {"on",     {Needs::nothing, plan}         },
-        {"refuse", {Needs::nothing, refuse}       },
-        {"throw",  {Needs::nothing, throwSome}    },
+        {"args",       {Needs::parser, parseVector}   },
+        {"argv",       {Needs::parser, parseVector}   },
+        {"text",       {Needs::parser, parseText}     },
+        {"error",      {Needs::parser, tellError}     },
+        {"file",       {Needs::nothing, makeFile}     },
+        {"pipe",       {Needs::nothing, makeFile}     },
+        {"growing",    {Needs::nothing, makeFile}     },
+        {"directory",  {Needs::nothing, makeFile}     },
+        {"device",     {Needs::nothing, makeFile}     },
+        {"unreadable", {Needs::nothing, makeFile}     },
+        {"link",       {Needs::nothing, makeLink}     },
+        {"add",        {Needs::parser, changeHandlers}},
+        {"remove",     {Needs::parser, changeHandlers}},
+        {"on",         {Needs::nothing, plan}         },
+        {"refuse",     {Needs::nothing, refuse}       },
+        {"throw",      {Needs::nothing, throwSome}    },
+        {"locale",     {Needs::nothing, setLocale}    },
+        {"left",       {Needs::nothing, setLeft}      },
     };
 }
 

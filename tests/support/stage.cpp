@@ -12,20 +12,10 @@ namespace zarn_3_3::testing_support {
 namespace {
 
 Deeds allDeeds() {
-    Deeds all;
-    for (const auto deeds : {declaringDeeds, handlerDeeds, parsingDeeds, readingDeeds, helpDeeds}) {
-        all.merge(deeds());
-    }
+    Deeds all = declaringDeeds();
+    all.merge(parsingDeeds());
+    all.merge(readingDeeds());
     return all;
-}
-
-const Deed& deedOf(const Step& step) {
-    static const Deeds deeds = allDeeds();
-    const auto found = deeds.find(step.verb);
-    if (found == deeds.end()) {
-        throw BadStep("unknown step: " + step.verb);
-    }
-    return found->second;
 }
 
 }  // namespace
@@ -47,8 +37,8 @@ void LentTexts::takeBack() {
     argv = {};
 }
 
-Stage::Stage(const Border& crossed, Console console)
-    : border(crossed), observer(border, console), base(IArgumentParser::m_idx - 1) {
+Stage::Stage(Console console)
+    : observer(console), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
     internal::zarnLogEnabled = false;
     takeAssertions();
     for (std::size_t i = 0; i < handlers.size(); ++i) {
@@ -65,6 +55,7 @@ Stage::~Stage() {
         destroy(parsers, parsers.begin()->first, parser);
     }
     fileCalls.files.clear();
+    IArgumentParser::m_idx = numberBefore;
 }
 
 void Stage::perform(const Step& step) {
@@ -88,7 +79,12 @@ void Stage::perform(const Step& step) {
 }
 
 void Stage::act(const Step& step) {
-    const Deed& deed = deedOf(step);
+    static const Deeds deeds = allDeeds();
+    const auto found = deeds.find(step.verb);
+    if (found == deeds.end()) {
+        throw BadStep("unknown step: " + step.verb);
+    }
+    const Deed& deed = found->second;
     if (deed.needs == Needs::parser && parser == nullptr) {
         tell("no parser");
     } else if (deed.needs == Needs::result && result == nullptr) {
@@ -139,11 +135,11 @@ std::string Stage::shown(const Value& value) const {
     return text + converted + "@" + place(value.position);
 }
 
-const std::string& wordOf(const Words& words, std::size_t index) {
-    if (index >= words.size()) {
+const std::string& wordOf(const Step& step, std::size_t index) {
+    if (index >= step.words.size()) {
         throw BadStep("a word is missing");
     }
-    return words[index];
+    return step.words[index];
 }
 
 std::string joined(const Words& words, std::size_t begin, std::size_t end, char separator) {
@@ -154,18 +150,12 @@ std::string joined(const Words& words, std::size_t begin, std::size_t end, char 
     return text;
 }
 
-Answers play(const Scenario& scenario, const Border& border) {
-    const int before = IArgumentParser::m_idx;
-    Answers answers;
-    {
-        Stage stage(border);
-        for (const Step& step : scenario.steps) {
-            stage.perform(step);
-        }
-        answers = stage.observer.answers;
+Answers play(const Scenario& scenario) {
+    Stage stage;
+    for (const Step& step : scenario.steps) {
+        stage.perform(step);
     }
-    IArgumentParser::m_idx = before;
-    return answers;
+    return stage.observer.answers;
 }
 
 }  // namespace zarn_3_3::testing_support

@@ -5,6 +5,7 @@
 #define ZARN_TESTS_SUPPORT_STAGE_H
 
 #include <array>
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,8 +14,10 @@
 #include <vector>
 
 #include "support/acting_handler.h"
+#include "support/failing_new.h"
 #include "support/grouping_locale.h"
 #include "support/observer.h"
+#include "support/restored.h"
 #include "support/scenario.h"
 #include "support/values.h"
 #include "zarn/zarn.h"
@@ -42,11 +45,13 @@ struct LastItem {
     das_variant_type_t type = vtNull;
 };
 
-// A world without parsers and files: each stage begins anew. Only the running sequence number goes
-// on. Every call of the library, but for those that make values, crosses the border.
+// A world without parsers and files: each stage begins anew, and leaves the running number as it
+// was. Memory that runs out does so in the library alone, but not while it makes values.
 class Stage {
+    const Restored<bool> spared{memory.isSpared, true};
+
 public:
-    explicit Stage(const Border& crossed = {}, Console console = Console::observed);
+    explicit Stage(Console console = Console::observed);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
@@ -54,16 +59,16 @@ public:
     // Throws BadStep when the step is none that can be done.
     void perform(const Step& step);
 
-    const Border border;
     Observer observer;
 
     // For the deeds and handlers behind it:
 
-    // The one place through which the library is called.
-    template <typename Call>
-    decltype(auto) call(Call operation) {
-        const Crossing inward(border, true);
-        return operation();
+    // The one way into the library.
+    template <typename Operation, typename... Arguments>
+    static decltype(auto) call(Operation&& operation, Arguments&&... arguments) {
+        const Restored inside(memory.isSpared, false);
+        return std::invoke(std::forward<Operation>(operation),
+                           std::forward<Arguments>(arguments)...);
     }
 
     void tell(const std::string& text) { observer.say(Kind::outcome, text); }
@@ -87,7 +92,7 @@ public:
             Object* const destroyed = node.mapped();
             forget(destroyed);
             used = used == destroyed ? nullptr : used;
-            call([destroyed] { destroyed->destroy(); });
+            call(&Object::destroy, destroyed);
         }
     }
 
@@ -100,7 +105,7 @@ public:
 
     std::array<ActingHandler, 10> handlers;
     LastItem last;
-    std::vector<std::string> names;  // that were declared
+    Words names;  // that were declared
     ValueMaker values;
     std::optional<GroupingLocale> locale;
 
@@ -113,7 +118,9 @@ private:
 
     void checkKept();
     void forget(const void* owner);
+
     std::vector<KeptText> kept;
+    const int numberBefore;
     int base;
 };
 
@@ -126,19 +133,17 @@ struct Deed {
 using Deeds = std::map<std::string, Deed>;
 
 Deeds declaringDeeds();
-Deeds handlerDeeds();
 Deeds parsingDeeds();
 Deeds readingDeeds();
-Deeds helpDeeds();
 
 // The word of this index, or a BadStep.
-const std::string& wordOf(const Words& words, std::size_t index);
+const std::string& wordOf(const Step& step, std::size_t index);
 
 // The words from `begin` to `end`.
 std::string joined(const Words& words, std::size_t begin, std::size_t end, char separator);
 
-// On a stage of its own, from which the running number comes back as it was.
-Answers play(const Scenario& scenario, const Border& border = {});
+// On a stage of its own.
+Answers play(const Scenario& scenario);
 
 }  // namespace zarn_3_3::testing_support
 

@@ -9,10 +9,7 @@
 namespace zarn_3_3::testing_support {
 namespace {
 
-const struct Kind {
-    const char* name;
-    das_variant_type_t code;
-} kinds[] = {
+const std::pair<const char*, das_variant_type_t> kinds[] = {
     {"bool",    vtBool      },
     {"s32",     vtS32       },
     {"u32",     vtU32       },
@@ -26,18 +23,6 @@ const struct Kind {
     {"blob",    vtBlob      },
     {"switch",  vtNull      },
 };
-
-const Kind* findKind(const std::string& name) {
-    const auto isNamed = [&name](const Kind& kind) { return kind.name == name; };
-    const auto* const found = std::find_if(std::begin(kinds), std::end(kinds), isNamed);
-    return found == std::end(kinds) ? nullptr : found;
-}
-
-std::string decimal(double number) {
-    std::array<char, 32> text{};
-    std::snprintf(text.data(), text.size(), "%.15g", number);
-    return text.data();
-}
 
 }  // namespace
 
@@ -53,8 +38,12 @@ long numberOf(const std::string& word) {
 const char* pointerTo(const std::string& word) { return word == "null" ? nullptr : word.c_str(); }
 
 das_variant_type_t kindNamed(const std::string& word) {
-    const Kind* const kind = findKind(word);
-    return kind != nullptr ? kind->code : static_cast<das_variant_type_t>(numberOf(word));
+    for (const auto& [name, code] : kinds) {
+        if (word == name) {
+            return code;
+        }
+    }
+    return static_cast<das_variant_type_t>(numberOf(word));
 }
 
 std::string contentOf(const variant_t& value) {
@@ -69,8 +58,11 @@ std::string contentOf(const variant_t& value) {
             return std::to_string(value.get<long>());
         case vtU64:
             return std::to_string(value.get<unsigned long>());
-        case vtDouble:
-            return decimal(value.get<double>());
+        case vtDouble: {
+            std::array<char, 32> text{};
+            std::snprintf(text.data(), text.size(), "%.15g", value.get<double>());
+            return text.data();
+        }
         case vtString:
         case vtStringRef:
             return value.get<const char*>();
@@ -80,15 +72,21 @@ std::string contentOf(const variant_t& value) {
 }
 
 std::string kindOf(const variant_t& value) {
-    const auto isOfKind = [&value](const Kind& kind) { return kind.code == value.type(); };
-    const auto* const found = std::find_if(std::begin(kinds), std::end(kinds), isOfKind);
-    return found != std::end(kinds) ? found->name : std::to_string(value.type());
+    for (const auto& [name, code] : kinds) {
+        if (value.type() == code) {
+            return name;
+        }
+    }
+    return std::to_string(value.type());
 }
 
 variant_t ValueMaker::make(const std::string& word, das_variant_type_t usual) {
-    const std::size_t colon = word.find(':');
-    const Kind* const kind = colon == std::string::npos ? nullptr : findKind(word.substr(0, colon));
-    return kind != nullptr ? makeOf(kind->code, word.substr(colon + 1)) : makeOf(usual, word);
+    const std::size_t colon = std::min(word.find(':'), word.size());
+    const std::string before = word.substr(0, colon);
+    const bool isKind = std::any_of(
+        std::begin(kinds), std::end(kinds), [&](const auto& kind) { return before == kind.first; });
+    return isKind && colon < word.size() ? makeOf(kindNamed(before), word.substr(colon + 1))
+                                         : makeOf(usual, word);
 }
 
 variant_t ValueMaker::makeOf(das_variant_type_t kind, const std::string& text) {

@@ -91,12 +91,14 @@ TEST(Growth, IsLinearInATextAndItsPieces) {
             while (n-- > 0) {
                 text += piece;
             }
-            return measure([&] { ASSERT_EQ(tool.parseText(text.c_str()), resultOk); });
+            return measure(
+                [&] { ASSERT_EQ(tool->parseStream(text.c_str(), tool.result), resultOk); });
         });
     }
 }
 
-// Each item is declared, found and given a synonym; then defaults, help and queries use them all.
+// Each item is declared, found and given a synonym; then defaults, help and queries use them all,
+// and they are looked for among the actions, where they are not, and in another section.
 TEST(Growth, IsLinearInDeclarations) {
     expectLinear([](std::size_t n) {
         Tool tool;
@@ -111,20 +113,6 @@ TEST(Growth, IsLinearInDeclarations) {
             ASSERT_EQ(tool->getDescription(false), tool->getDescription(false));
             for (std::size_t i = 0; i < n; ++i) {
                 ASSERT_TRUE(tool.result->present(numbered("synonym", i).c_str(), 0, INT_MAX));
-            }
-        });
-    });
-}
-
-// Names that exist, asked for among the actions, where they are not, and in another section.
-TEST(Growth, IsLinearInQuestionsAboutOtherKinds) {
-    expectLinear([](std::size_t n) {
-        Tool tool;
-        for (std::size_t i = 0; i < n; ++i) {
-            tool->option(numbered("name", i).c_str(), "", vtString, "main");
-        }
-        return measure([&] {
-            for (std::size_t i = 0; i < n; ++i) {
                 const std::string name = numbered("name", i);
                 ASSERT_FALSE(tool->isOptionDeclared(name.c_str(), true, nullptr));
                 ASSERT_FALSE(tool->isOptionDeclared(name.c_str(), false, "none"));

@@ -1,32 +1,105 @@
-// Files that are too much for scenarios.
+// Real files: too much of them, and threads with little room and little time.
 
+#include <fcntl.h>
 #include <gtest/gtest.h>
+#include <pthread.h>
+#include <sys/stat.h>
+#include <unistd.h>
 
+#include <algorithm>
+#include <atomic>
+#include <chrono>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
+#include <iterator>
+#include <thread>
 
 #include "support/tool.h"
 
 namespace zarn_3_3 {
 namespace {
 
-TEST(OptionFiles, HaveALimitInSum) {
-    std::string made = testing::TempDir() + "zarn_files_XXXXXX";
-    const std::string folder = std::string(mkdtemp(made.data())) + "/";
-    const std::string quarter = "--option-file=" + folder + "quarter";
+class OptionFiles : public testing::Test {
+protected:
+    OptionFiles() {
+        std::string name = testing::TempDir() + "zarn_files_XXXXXX";
+        folder = ::mkdtemp(name.data()) + std::string("/");
+        tool.option("level", vtS32);
+        tool->addOptionFileOption("", "");
+    }
+    ~OptionFiles() override { std::filesystem::remove_all(folder); }
+
+    std::string naming(const char* file) { return "--option-file=" + folder + file; }
+
+    // What threads do.
+    static void* parse(void* test) {
+        auto& self = *static_cast<OptionFiles*>(test);
+        self.code = self.tool.parse({self.naming("file")});
+        return nullptr;
+    }
+
+    std::string folder;
+    testing_support::Tool tool;
+    std::atomic<int> code{-1};
+};
+
+TEST_F(OptionFiles, HaveALimitInSum) {
+    const std::string quarter = naming("quarter");
     std::ofstream(folder + "quarter") << std::string(64 << 20, '#');
     std::ofstream(folder + "byte") << "#";
-    testing_support::Tool tool;
-    tool->addOptionFileOption("", "");
     EXPECT_EQ(tool.parse({quarter, quarter, quarter, quarter}), resultOk);
     tool.startNewResult();
-    EXPECT_EQ(tool.parse({quarter, quarter, quarter, quarter, "--option-file=" + folder + "byte"}),
+    EXPECT_EQ(tool.parse({quarter, quarter, quarter, quarter, naming("byte")}),
               resultOptionFileUnreadable);
     EXPECT_EQ(tool.error(),
               "Error reading option file '" + folder +
                   "byte': more than 256 MiB of option files in one parse");
-    std::filesystem::remove_all(folder);
+}
+
+TEST_F(OptionFiles, StayOnASmallStack) {
+    std::ofstream(folder + "file") << "--level=1\n";
+    constexpr std::size_t stack = 64 * 1024;
+    alignas(4096) static unsigned char memory[5 * stack];  // the stack, and what is below it
+    pthread_attr_t attributes;
+    pthread_attr_init(&attributes);
+    ASSERT_EQ(pthread_attr_setstack(&attributes, memory + 4 * stack, stack), 0);
+    pthread_t thread{};
+    ASSERT_EQ(pthread_create(&thread, &attributes, parse, this), 0);
+    pthread_join(thread, nullptr);
+    pthread_attr_destroy(&attributes);
+
+    EXPECT_EQ(code, resultOk);
+    const auto* const lowest = std::find_if(
+        std::begin(memory), std::end(memory), [](unsigned char byte) { return byte != 0; });
+    EXPECT_LT(std::end(memory) - lowest, 32 * 1024) << "less than a buffer for the file";
+}
+
+std::ptrdiff_t openDescriptors() {
+    const std::filesystem::directory_iterator all("/proc/self/fd");
+    return std::distance(begin(all), end(all));
+}
+
+// Once while it waits for somebody who writes, once while it waits for what is written.
+TEST_F(OptionFiles, CanBeCancelledWhileTheyAreWaitedFor) {
+    const std::string pipe = folder + "file";
+    ASSERT_EQ(::mkfifo(pipe.c_str(), 0600), 0);
+    for (const bool hasWriter : {false, true}) {
+        const std::ptrdiff_t before = openDescriptors();
+        const int writer = hasWriter ? ::open(pipe.c_str(), O_RDWR) : -1;
+        pthread_t thread{};
+        ASSERT_EQ(pthread_create(&thread, nullptr, parse, this), 0);
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        ASSERT_EQ(pthread_cancel(thread), 0);
+        void* end = nullptr;
+        ASSERT_EQ(pthread_join(thread, &end), 0);
+        EXPECT_EQ(end, PTHREAD_CANCELED);
+        ::close(writer);
+        EXPECT_EQ(openDescriptors(), before);
+    }
+    tool.startNewResult();
+    EXPECT_EQ(tool.parse({"--level=2"}), resultOk);
+    EXPECT_EQ(tool.values("level"), "2");
 }
 
 }  // namespace

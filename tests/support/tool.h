@@ -45,25 +45,13 @@ public:
     Recorder& listen();
 
     int parse(const Words& arguments);
-    int parseText(const char* text) { return parser->parseStream(text, result); }
     std::string error() { return parser->getErrorDesc(); }
+    std::string values(const char* name);  // as "1|2"
     void startNewResult();
-
-    // The texts of the values, as "1|2".
-    std::string values(const char* name);
-
-    // All that stands under names declared by `option`: "level=1|2 dry(2) -- a b". A number in
-    // brackets counts the occurrences where they are not as many as the values.
-    std::string stored();
 
     IParser* parser = nullptr;
     IParseResult* result = nullptr;
     Recorder handler;
-
-private:
-    std::string storedUnder(const char* name);
-
-    Words names;
 };
 
 }  // namespace zarn_3_3::testing_support

@@ -8,8 +8,11 @@ namespace TROV_2_18::system {
 
 // The kernel leaves sixteen random bytes to each process: no call that could fail, or wait.
 ProcessKey::ProcessKey() noexcept {
-    if (const unsigned long address = ::getauxval(AT_RANDOM)) {
-        const char* const bytes = reinterpret_cast<const char*>(address);
+    const unsigned long address = ::getauxval(AT_RANDOM);
+    if (address != 0) {
+        const char* bytes = nullptr;
+        static_assert(sizeof bytes == sizeof address);
+        std::memcpy(&bytes, &address, sizeof bytes);
         std::memcpy(&first, bytes, sizeof first);
         std::memcpy(&second, bytes + sizeof first, sizeof second);
     }

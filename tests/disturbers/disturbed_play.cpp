@@ -56,7 +56,7 @@ std::string textOf(const Answers& answers) {
     for (const Answer& answer : answers) {
         const bool isLog = answer.kind == Kind::log;
         text += (text.empty() ? "" : "\n") +
-                answer.text.substr(0, isLog ? answer.text.find(", message: ") : std::string::npos);
+                answer.text.substr(0, isLog ? answer.text.find(", message:") : std::string::npos);
     }
     return text;
 }

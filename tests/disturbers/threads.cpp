@@ -46,17 +46,15 @@ void inThreads(int number, const std::function<void(int)>& task) {
     }
 }
 
-enum class Played { here, fromThreadToThread };
-
 // Whatever does not depend on numbers, which may come twice when two parse at once.
-std::string conclusions(const Scenario& scenario, Played played) {
+std::string conclusions(const Scenario& scenario, bool goesFromThreadToThread = false) {
     std::string text;
     Stage stage(Console::untouched);
     for (const Step& step : scenario.steps) {
-        if (played == Played::here) {
-            stage.perform(step);
-        } else {
+        if (goesFromThreadToThread) {
             std::thread([&] { stage.perform(step); }).join();
+        } else {
+            stage.perform(step);
         }
         const Answers answers = std::exchange(stage.observer.answers, {});
         const bool isTold = isAmong(step.verb, {"args", "text", "help"});
@@ -68,14 +66,12 @@ std::string conclusions(const Scenario& scenario, Played played) {
 // From thread to thread everything may go (but for the files of the double, of which each thread
 // has its own). At once the contract excludes it: numbers may then repeat, and nothing worse.
 std::string judge(const Scenario& scenario) {
-    const std::string right = conclusions(scenario, Played::here);
+    const std::string right = conclusions(scenario);
     if (!hasStep(scenario, {"file", "pipe", "directory"})) {
-        expect(conclusions(scenario, Played::fromThreadToThread) == right, "one behind the other");
+        expect(conclusions(scenario, true) == right, "one behind the other");
     }
     if (!hasStep(scenario, {"locale", "left"})) {
-        inThreads(4, [&](int) {
-            expect(conclusions(scenario, Played::here) == right, "several at once");
-        });
+        inThreads(4, [&](int) { expect(conclusions(scenario) == right, "several at once"); });
     }
     return "";
 }
@@ -87,7 +83,7 @@ void switchLog() {
         "scenario Log\nparser\ntext zarnoption=zarnlogenable=1 -- a b c d e f\ntext\n")[0];
     inThreads(8, [&scenario](int) {
         for (int round = 0; round < 1000; ++round) {
-            conclusions(scenario, Played::here);
+            conclusions(scenario);
         }
     });
 }

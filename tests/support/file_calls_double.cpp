@@ -35,11 +35,11 @@ const MemoryFile* fileAt(int descriptor) {
     return descriptor == onlyDescriptor ? openFile : nullptr;
 }
 
-mode_t modeOf(FileKind kind) {
-    return kind == FileKind::pipe        ? S_IFIFO
-           : kind == FileKind::directory ? S_IFDIR
-           : kind == FileKind::device    ? S_IFCHR
-                                         : S_IFREG;
+mode_t modeOf(const std::string& kind) {
+    return kind == "pipe"        ? S_IFIFO
+           : kind == "directory" ? S_IFDIR
+           : kind == "device"    ? S_IFCHR
+                                 : S_IFREG;
 }
 
 int tellStatus(const MemoryFile* file, int errorWithoutFile, struct stat* status) {
@@ -52,7 +52,7 @@ int tellStatus(const MemoryFile* file, int errorWithoutFile, struct stat* status
     status->st_ino = reinterpret_cast<std::uintptr_t>(file);
     status->st_mode = modeOf(file->kind);
     if (S_ISREG(status->st_mode)) {
-        status->st_size = static_cast<off_t>(file->kind == FileKind::growing ? size / 2 : size);
+        status->st_size = static_cast<off_t>(file->kind == "growing" ? size / 2 : size);
     }
     return 0;
 }
@@ -77,7 +77,7 @@ int openForReading(const char* path) {
     if (failure(file, ENOENT, true) != 0) {
         return -1;
     }
-    if (file->kind == FileKind::unreadable) {
+    if (file->kind == "unreadable") {
         errno = EACCES;
         return -1;
     }

@@ -15,10 +15,8 @@
 
 namespace zarn_3_3::testing_support {
 
-enum class FileKind { regular, pipe, growing, directory, device, unreadable };
-
 struct MemoryFile {
-    FileKind kind;
+    std::string kind;  // file, pipe, growing, directory, device or unreadable
     std::string content;
 };
 

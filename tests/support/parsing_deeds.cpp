@@ -46,16 +46,8 @@ void tellError(Stage& stage, const Step&) {
 }
 
 void makeFile(Stage&, const Step& step) {
-    static const std::map<std::string, FileKind> kinds{
-        {"file",       FileKind::regular   },
-        {"pipe",       FileKind::pipe      },
-        {"growing",    FileKind::growing   },
-        {"directory",  FileKind::directory },
-        {"device",     FileKind::device    },
-        {"unreadable", FileKind::unreadable},
-    };
     fileCalls.files[wordOf(step, 0)] = std::make_shared<MemoryFile>(
-        MemoryFile{kinds.at(step.verb), joined(step.words, 1, step.words.size(), '\n')});
+        MemoryFile{step.verb, joined(step.words, 1, step.words.size(), '\n')});
 }
 
 void makeLink(Stage&, const Step& step) {

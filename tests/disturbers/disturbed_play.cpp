@@ -178,10 +178,13 @@ private:
         } else if (isDeclaration(step())) {
             expect(isSane(found), "disturbed answer", told);
             finishDeclaration();
-        } else if (told != rightText()) {
-            expect(disturbance.mayAnswer(step().verb, told, rightText()), "disturbed answer", told);
-            isErrorLost = isAmong(step().verb, {"help", "topic", "modifiers", "globals"});
-            repeat();
+        } else {
+            isErrorLost = isAmong(step().verb, {"help", "topic", "modifiers", "globals", "result"});
+            if (told != rightText()) {
+                const bool isKnown = disturbance.mayAnswer(step().verb, told, rightText());
+                expect(isKnown, "disturbed answer", told);
+                repeat();
+            }
         }
     }
 
@@ -234,7 +237,7 @@ private:
     std::size_t index = 0;
     bool isBehind = false;     // the disturbed step
     bool isOver = false;       // what follows depends on what the disturbed step stored
-    bool isErrorLost = false;  // help that fails is the last error
+    bool isErrorLost = false;  // a failure of help or of a result is the last error
     std::string wrong;
 };
 
@@ -256,6 +259,8 @@ void Undisturbed::addSteps(const Scenario& scenario) {
         steps.insert(steps.end(), singles.begin(), singles.end());
         if (isItem(step)) {
             names.push_back(step.words[0].substr(0, step.words[0].find(',')));
+        } else if (step.verb == "optionfile") {
+            names.emplace_back("option-file");
         }
     }
     // What other items store under a synonym may be replaced.

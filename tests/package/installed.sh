@@ -22,6 +22,7 @@ for compiler in "$@"; do
     found_by_cmake "$compiler" "$work/moved"
     found_by_pkg_config "$compiler" "$work/moved"
     found_by_pkg_config "$compiler" "$work/moved" -fsanitize=undefined -fno-sanitize-recover=all
+    flags_of_package --cflags
     quietly "$compiler" -std=c++17 "${flags[@]}" -I"$here/.." "$here/reload.cpp" \
         "$here/../support/failing_new.cpp" -o "$work/reload" -ldl
     quietly "$work/reload" "$(libdir_of_package)/libzarn.so"

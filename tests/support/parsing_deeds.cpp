@@ -60,7 +60,8 @@ EventHandler* handlerNamed(Stage& stage, const std::string& word) {
     }
     const std::string other = settingOf({word}, "parser", "");
     if (!other.empty()) {
-        return stage.parsers.at(other);
+        const auto found = stage.parsers.find(other);
+        return found == stage.parsers.end() ? nullptr : found->second;
     }
     return &stage.handlers.at(static_cast<std::size_t>(numberOf(word)));
 }

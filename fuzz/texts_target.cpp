@@ -170,6 +170,7 @@ void checkParagraph(View text, const std::string& head, std::size_t indent, std:
 // meant.
 struct Names {
     OptionList items;
+    OptionDescription* last = nullptr;
     std::vector<std::pair<std::string, std::size_t>> forms;
     NameIndex index;
     PrefixIndex beginnings;
@@ -177,9 +178,10 @@ struct Names {
 
 void addName(Names& all, const std::string& name) {
     if (name.size() % 3 != 0 || all.items.empty()) {
-        all.items.emplace_back().type = name.size() % 2 != 0 ? vtBool : vtNull;
+        all.last = &all.items.add();
+        all.last->type = name.size() % 2 != 0 ? vtBool : vtNull;
     }
-    OptionDescription& item = all.items.back();
+    OptionDescription& item = *all.last;
     item.names.push_back(name);
     all.index.catchUp(all.items);
     for (const std::string& form : item.type == vtBool ? Texts{name, "no-" + name} : Texts{name}) {

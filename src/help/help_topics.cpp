@@ -18,9 +18,10 @@ template <typename IsWanted>
 std::vector<const OptionDescription*> select(const RegisteredOptionStorage& registry,
                                              IsWanted isWanted) {
     std::vector<const OptionDescription*> selected;
-    for (const OptionDescription& item : registry.items()) {
-        if (isWanted(item)) {
-            selected.push_back(&item);
+    const OptionList& items = registry.items();
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        if (isWanted(items[i])) {
+            selected.push_back(&items[i]);
         }
     }
     return selected;

@@ -15,9 +15,10 @@ bool isIntersected(const std::set<std::string>& a, const std::set<std::string>& 
 void findActionModifiers(std::size_t action,
                          const OptionList& options,
                          std::vector<const OptionDescription*>& out) {
-    const OptionDescription& wanted = options.at(action);
-    for (const OptionDescription& item : options) {
-        if (&item != &wanted && item.kind != kindAction && isIntersected(item.tags, wanted.tags)) {
+    const OptionDescription& wanted = options[action];
+    for (std::size_t i = 0; i < options.size(); ++i) {
+        const OptionDescription& item = options[i];
+        if (i != action && item.kind != kindAction && isIntersected(item.tags, wanted.tags)) {
             out.push_back(&item);
         }
     }

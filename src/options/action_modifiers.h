@@ -8,7 +8,7 @@
 #include <string>
 #include <vector>
 
-#include "options/option_description.h"
+#include "options/option_list.h"
 
 namespace zarn_3_3 {
 

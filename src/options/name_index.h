@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "options/kept_texts.h"
-#include "options/option_description.h"
+#include "options/option_list.h"
 
 namespace zarn_3_3::internal {
 

@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <deque>
 #include <map>
 #include <set>
 #include <string>
@@ -80,9 +79,6 @@ public:
 private:
     static const std::string& noName();
 };
-
-// Items stay where they are: a vocabulary that grows moves and copies none.
-using OptionList = std::deque<OptionDescription>;
 
 }  // namespace zarn_3_3
 

@@ -4,6 +4,16 @@
 #include <numeric>
 
 namespace zarn_3_3::internal {
+namespace {
+
+// Compares a beginning with that of a text in the table, where none is shorter.
+auto beginsSo(std::string_view beginning, const KeptTexts& texts) {
+    return [beginning, &texts](std::uint32_t entry) {
+        return std::string_view(texts[entry / 2].data(), beginning.size()) == beginning;
+    };
+}
+
+}  // namespace
 
 PrefixIndex::Found PrefixIndex::find(std::string_view beginning, const KeptTexts& texts) {
     measure(texts);
@@ -11,14 +21,15 @@ PrefixIndex::Found PrefixIndex::find(std::string_view beginning, const KeptTexts
         return {};
     }
     Length& length = lengths[beginning.size()];
-    if (length.taken != texts.size()) {
+    if (length.taken != candidates(beginning.size())) {
         catchUp(length, beginning.size(), texts);
     }
-    const std::uint32_t found = findIn(length, TextHash::of(beginning), beginning, texts);
+    const std::uint32_t found =
+        length.table.find(TextHash::of(beginning), beginsSo(beginning, texts));
     if (found == TextTable::none) {
         return {};
     }
-    return {length.beginnings[found].first, !length.beginnings[found].isShared};
+    return {found / 2, found % 2 == 0};
 }
 
 void PrefixIndex::measure(const KeptTexts& texts) {
@@ -26,63 +37,44 @@ void PrefixIndex::measure(const KeptTexts& texts) {
         const auto number = static_cast<std::uint32_t>(measured);
         const std::size_t size = texts[number].size();
         if (size > ordinary) {
-            longOnes.emplace(size, number);
+            longOnes.push_back(number);
         }
         ++ofSize[std::min(size, ordinary)];
         longest = std::max(longest, size);
     }
 }
 
-// For all texts of at least `size` bytes, of which some may be in already.
-void PrefixIndex::makeRoom(Length& length, std::size_t size) const {
-    const auto* const from = ofSize.begin() + std::min(size, ordinary);
-    const std::size_t count =
-        size <= ordinary
-            ? std::accumulate(from, ofSize.end(), std::size_t{0})
-            : static_cast<std::size_t>(std::distance(longOnes.lower_bound(size), longOnes.end()));
-    length.beginnings.reserve(count);
-    length.table.makeRoom(count - std::min(count, length.beginnings.size()));
+std::size_t PrefixIndex::candidates(std::size_t size) const {
+    return size > ordinary ? longOnes.size() : measured;
+}
+
+std::uint32_t PrefixIndex::candidate(std::size_t size, std::size_t at) const {
+    return size > ordinary ? longOnes[at] : static_cast<std::uint32_t>(at);
+}
+
+// How many texts have at least `size` bytes.
+std::size_t PrefixIndex::countOf(std::size_t size, const KeptTexts& texts) const {
+    if (size <= ordinary) {
+        return std::accumulate(ofSize.begin() + size, ofSize.end(), std::size_t{0});
+    }
+    const auto isLong = [&](std::uint32_t number) { return texts[number].size() >= size; };
+    return static_cast<std::size_t>(std::count_if(longOnes.begin(), longOnes.end(), isLong));
 }
 
 void PrefixIndex::catchUp(Length& length, std::size_t size, const KeptTexts& texts) const {
-    makeRoom(length, size);
-    if (length.taken == 0 && size > ordinary) {
-        for (auto at = longOnes.lower_bound(size); at != longOnes.end(); ++at) {
-            add(length, size, at->second, texts);
+    length.table.makeRoom(countOf(size, texts) - length.table.size());
+    for (; length.taken < candidates(size); ++length.taken) {
+        const std::uint32_t number = candidate(size, length.taken);
+        if (texts[number].size() < size) {
+            continue;
         }
-        length.taken = texts.size();
-    }
-    for (; length.taken < texts.size(); ++length.taken) {
-        const auto number = static_cast<std::uint32_t>(length.taken);
-        if (texts[number].size() >= size) {
-            add(length, size, number, texts);
+        const std::string_view beginning = texts[number].substr(0, size);
+        std::uint32_t& entry =
+            length.table.findOrAdd(TextHash::of(beginning), 2 * number, beginsSo(beginning, texts));
+        if (entry != 2 * number) {
+            entry |= 1;
         }
     }
-}
-
-// Needs room.
-void PrefixIndex::add(Length& length,
-                      std::size_t size,
-                      std::uint32_t number,
-                      const KeptTexts& texts) {
-    const std::string_view beginning = texts[number].substr(0, size);
-    const std::uint32_t hash = TextHash::of(beginning);
-    const std::uint32_t known = findIn(length, hash, beginning, texts);
-    if (known != TextTable::none) {
-        length.beginnings[known].isShared = true;
-        return;
-    }
-    length.table.add(hash, static_cast<std::uint32_t>(length.beginnings.size()));
-    length.beginnings.push_back({number, false});
-}
-
-std::uint32_t PrefixIndex::findIn(const Length& length,
-                                  std::uint32_t hash,
-                                  std::string_view beginning,
-                                  const KeptTexts& texts) {
-    return length.table.find(hash, [&](std::uint32_t known) {
-        return texts[length.beginnings[known].first].substr(0, beginning.size()) == beginning;
-    });
 }
 
 }  // namespace zarn_3_3::internal

@@ -30,34 +30,27 @@ public:
     Found find(std::string_view beginning, const KeptTexts& texts);
 
 private:
-    struct Beginning {
-        std::uint32_t first;  // the text that had it first
-        bool isShared;        // whether others begin like this one
-    };
-
     // The texts by their beginnings of one length.
     struct Length {
-        std::size_t taken = 0;  // that many texts are in, or are shorter
-        std::vector<Beginning> beginnings;
-        TextTable table;  // beginning to its number there
+        std::size_t taken = 0;  // that many candidates are in, or are shorter
+        TextTable table;  // beginning to twice the text that had it first, and one when shared
     };
 
     // Few names are longer, so a table for those goes through them alone.
     static constexpr std::size_t ordinary = 64;
 
-    void measure(const KeptTexts& texts);
-    void makeRoom(Length& length, std::size_t size) const;
-    void catchUp(Length& length, std::size_t size, const KeptTexts& texts) const;
-    static void add(Length& length, std::size_t size, std::uint32_t number, const KeptTexts& texts);
-    static std::uint32_t findIn(const Length& length,
-                                std::uint32_t hash,
-                                std::string_view beginning,
-                                const KeptTexts& texts);
+    // The texts that are looked through for one length.
+    std::size_t candidates(std::size_t size) const;
+    std::uint32_t candidate(std::size_t size, std::size_t at) const;
 
-    std::size_t measured = 0;                            // that many texts
-    std::array<std::size_t, ordinary + 1> ofSize{};      // how many there are, the long ones last
-    std::multimap<std::size_t, std::uint32_t> longOnes;  // from size to text
-    std::size_t longest = 0;                             // of all texts
+    void measure(const KeptTexts& texts);
+    std::size_t countOf(std::size_t size, const KeptTexts& texts) const;
+    void catchUp(Length& length, std::size_t size, const KeptTexts& texts) const;
+
+    std::size_t measured = 0;                        // that many texts
+    std::array<std::size_t, ordinary + 1> ofSize{};  // how many there are, the long ones last
+    std::vector<std::uint32_t> longOnes;
+    std::size_t longest = 0;  // of all texts
     std::map<std::size_t, Length> lengths;
 };
 

@@ -63,7 +63,7 @@ IOption& RegisteredOptionStorage::declare(const char* names,
         return refused();
     }
     firstPositional();  // the last item stays as it is from now on
-    OptionDescription& item = options.emplace_back();
+    OptionDescription& item = options.add();
     try {
         item.description = descriptions.keep(description);
         if (actionNames != nullptr) {
@@ -73,7 +73,7 @@ IOption& RegisteredOptionStorage::declare(const char* names,
             split(names, item.tags);
         }
     } catch (...) {
-        options.pop_back();
+        options.removeLast();
         throw;
     }
     item.section = sectionIndex;

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "options/name_index.h"
-#include "options/option_description.h"
+#include "options/option_list.h"
 #include "options/prefix_index.h"
 #include "options/text_arena.h"
 #include "options/text_table.h"

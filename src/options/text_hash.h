@@ -32,7 +32,7 @@ public:
         }
         const auto [front, back] = ends(at, left);
         mixed = folded(front ^ key.second, back ^ mixed);
-        return static_cast<std::uint32_t>(folded(mixed ^ key.first, key.second));
+        return static_cast<std::uint32_t>(mixed * (key.first | 1) >> 32);
     }
 
 private:

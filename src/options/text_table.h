@@ -30,6 +30,23 @@ public:
         }
     }
 
+    // The same, but adds `number` where there is none; needs room. Its owner may change what it
+    // gets as long as the same texts answer to it.
+    template <typename IsIt>
+    std::uint32_t& findOrAdd(std::uint32_t hash, std::uint32_t number, IsIt isIt) {
+        std::size_t at = hash & mask();
+        for (; slots[at].number != none; at = (at + 1) & mask()) {
+            if (slots[at].hash == hash && isIt(slots[at].number)) {
+                return slots[at].number;
+            }
+        }
+        slots[at] = {hash, number};
+        ++used;
+        return slots[at].number;
+    }
+
+    std::size_t size() const noexcept { return used; }
+
     // Makes sure that `count` adds will not allocate. Throws std::bad_alloc and changes nothing
     // then.
     void makeRoom(std::size_t count) {

@@ -56,7 +56,8 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
 }
 
 void ParseResult::applyDefault(const OptionList& items) {
-    for (const OptionDescription& item : items) {
+    for (std::size_t i = 0; i < items.size(); ++i) {
+        const OptionDescription& item = items[i];
         if (item.type == vtNull || !item.hasDefault) {
             continue;
         }

@@ -9,7 +9,7 @@
 #include <vector>
 
 #include "options/kept_texts.h"
-#include "options/option_description.h"
+#include "options/option_list.h"
 #include "options/text_arena.h"
 #include "result/result_collector.h"
 #include "result/stored_option.h"

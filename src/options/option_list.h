@@ -1,0 +1,52 @@
+// The items of a vocabulary.
+
+#ifndef ZARN_OPTIONS_OPTION_LIST_H
+#define ZARN_OPTIONS_OPTION_LIST_H
+
+#include <cstddef>
+#include <memory>
+#include <vector>
+
+#include "options/option_description.h"
+
+namespace zarn_3_3 {
+
+// In the order of declaration. A vocabulary that grows moves and copies none of them: they stand in
+// blocks of a few. Every argument asks for some by their indices, so all blocks hold the same
+// number.
+class OptionList {
+public:
+    bool empty() const { return count == 0; }
+    std::size_t size() const { return count; }
+
+    const OptionDescription& operator[](std::size_t index) const {
+        return blocks[index / ofBlock][index % ofBlock];
+    }
+    const OptionDescription& front() const { return (*this)[0]; }
+    const OptionDescription& back() const { return (*this)[count - 1]; }
+
+    // Throws std::bad_alloc and changes nothing then.
+    OptionDescription& add() {
+        if (count == blocks.size() * ofBlock) {
+            blocks.push_back(std::make_unique<OptionDescription[]>(ofBlock));
+        }
+        ++count;
+        return blocks[(count - 1) / ofBlock][(count - 1) % ofBlock];
+    }
+
+    void removeLast() {
+        --count;
+        blocks[count / ofBlock][count % ofBlock] = OptionDescription();
+    }
+
+private:
+    // Below one kilobyte in all: larger ones make the allocator tidy up at each start of a tool.
+    static constexpr std::size_t ofBlock = 4;
+
+    std::vector<std::unique_ptr<OptionDescription[]>> blocks;
+    std::size_t count = 0;
+};
+
+}  // namespace zarn_3_3
+
+#endif  // ZARN_OPTIONS_OPTION_LIST_H

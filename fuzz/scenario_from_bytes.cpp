@@ -166,8 +166,11 @@ private:
 
 std::string scenarioFrom(Bytes bytes) { return Author(bytes).write("scenario"); }
 
-zarn_3_3::testing_support::Outage outageFrom(Bytes& bytes) {
-    return {bytes.below(256), bytes.number<std::uint16_t>(), bytes.below(2) != 0};
+Outage outageFrom(Bytes& bytes) {
+    using zarn_3_3::testing_support::Lasts;
+    const Lasts all[] = {Lasts::once, Lasts::untilEndOfStep, Lasts::untilEndOfScenario};
+    const long nth = 1 + bytes.number<std::uint16_t>() % 4096;
+    return {nth, all[bytes.number<std::uint16_t>() % std::size(all)]};
 }
 
 }  // namespace fuzzing

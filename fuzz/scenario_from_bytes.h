@@ -6,7 +6,7 @@
 #include <string>
 
 #include "bytes.h"
-#include "support/lack_of_memory.h"
+#include "disturbers/disturbed_play.h"
 
 namespace fuzzing {
 
@@ -14,8 +14,12 @@ namespace fuzzing {
 // get deep into a parse: names clash, tie and abbreviate one another, and command lines are made of
 // what was declared.
 //
-// The bytes begin with what fails meanwhile.
-zarn_3_3::testing_support::Outage outageFrom(Bytes& bytes);
+// The bytes begin with the allocation that fails meanwhile.
+struct Outage {
+    long nth;
+    zarn_3_3::testing_support::Lasts lasts;
+};
+Outage outageFrom(Bytes& bytes);
 std::string scenarioFrom(Bytes bytes);
 
 }  // namespace fuzzing

@@ -1,4 +1,4 @@
-// Texts taken apart: numbers, cuts, paragraphs and names, each beside a plain way to do the same.
+// Texts taken apart: numbers, cuts and paragraphs, each beside a plain way to do the same.
 
 #include <algorithm>
 #include <cstdio>
@@ -10,9 +10,7 @@
 
 #include "bytes.h"
 #include "help/paragraph.h"
-#include "options/name_index.h"
 #include "options/number_text.h"
-#include "options/prefix_index.h"
 #include "parser/argument_sources.h"
 #include "support/grouping_locale.h"
 
@@ -166,62 +164,6 @@ void checkParagraph(View text, const std::string& head, std::size_t indent, std:
     require(found.empty(), "nothing follows the text");
 }
 
-// The vocabulary, with what can be typed in the order in which it came and the items that are
-// meant.
-struct Names {
-    OptionList items;
-    OptionDescription* last = nullptr;
-    std::vector<std::pair<std::string, std::size_t>> forms;
-    NameIndex index;
-    PrefixIndex beginnings;
-};
-
-void addName(Names& all, const std::string& name) {
-    if (name.size() % 3 != 0 || all.items.empty()) {
-        all.last = &all.items.add();
-        all.last->type = name.size() % 2 != 0 ? vtBool : vtNull;
-    }
-    OptionDescription& item = *all.last;
-    item.names.push_back(name);
-    all.index.catchUp(all.items);
-    for (const std::string& form : item.type == vtBool ? Texts{name, "no-" + name} : Texts{name}) {
-        const auto isSame = [&](const auto& other) { return other.first == form; };
-        if (std::none_of(all.forms.begin(), all.forms.end(), isSame)) {
-            all.forms.emplace_back(form, all.items.size() - 1);
-        }
-    }
-}
-
-void checkTyped(Names& all, const std::string& typed) {
-    std::size_t meant = NameIndex::none;
-    Texts longer;
-    for (const auto& [form, item] : all.forms) {
-        meant = form == typed ? item : meant;
-        if (form.compare(0, typed.size(), typed) == 0) {
-            longer.push_back(form);
-        }
-    }
-    require(all.index.first(typed) == meant, "the item that a name stands for");
-    const PrefixIndex::Found found = all.beginnings.find(typed, all.index.forms());
-    require(found.isOnly == (longer.size() == 1), "whether one name begins so");
-    const bool isFound = found.first != KeptTexts::none;
-    require((isFound ? all.index.forms()[found.first] : "") == (longer.empty() ? "" : longer[0]),
-            "the first name that begins so");
-}
-
-void checkNames(const std::string& text) {
-    Names all;
-    for (const std::string& name : pieces(text.substr(0, 100), ' ')) {
-        if (!name.empty()) {
-            addName(all, name);
-            const std::string beginning = name.substr(0, 1 + all.forms.size() % name.size());
-            for (const std::string& typed : {name, "no-" + name, beginning}) {
-                checkTyped(all, typed);
-            }
-        }
-    }
-}
-
 }  // namespace
 }  // namespace fuzzing
 
@@ -232,7 +174,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (bytes.below(4) == 3) {
         locale.emplace();
     }
-    const std::size_t subject = bytes.below(4);
+    const std::size_t subject = bytes.below(3);
     const std::size_t indent = bytes.below(48);
     const std::size_t width = 3 + bytes.below(96);
     const std::string head = subject == 0 ? bytes.text(60) : "";
@@ -240,8 +182,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     if (subject == 0) {
         checkParagraph(text, head, indent, width);
     } else if (subject == 1) {
-        checkNames(std::string(text));
-    } else if (subject == 2) {
         checkCuts(std::string(text), text);
     } else {
         checkNumbers<int, unsigned, long long, unsigned long long, double>(text, bytes);

@@ -125,7 +125,7 @@ class Workshop:
 
     def first_failure(self):
         """What notices that something is wrong: a test, a program; None for nothing."""
-        for program in ["parser_test", "options_test", "result_test", "help_test",
+        for program in ["parser_test", "options_test", "help_test",
                         "recognizers_test", "platform_test", "log_test", "growth_test"]:
             if not self.is_built(program):
                 return f"build of {program}"

@@ -291,23 +291,27 @@ void Undisturbed::playUntil(std::size_t parse) {
     rights[parse].again = again(stage, steps[parse]);
 }
 
+std::string disturb(const Undisturbed& undisturbed, const Disturbance& disturbance, long nth) {
+    const std::size_t blocks = memory.liveBlocks();
+    disturbance.calls = {nth, disturbance.lasts != Lasts::once, false};
+    const std::string wrong = DisturbedPlay(undisturbed, disturbance).run();
+    disturbance.calls.left = 0;
+    if (wrong.empty() && memory.liveBlocks() == blocks && fileCalls.openFiles == 0) {
+        return "";
+    }
+    return "call " + std::to_string(nth) +
+           " fails: " + (wrong.empty() ? "something is left behind" : wrong) + "\n";
+}
+
 std::string disturbEach(const Undisturbed& undisturbed,
                         const Disturbance& disturbance,
                         long stride,
                         long& failures) {
     // Where there are very many, as a thousand files take, not each.
     for (long nth = 1;; nth += stride + nth / 64 * 16) {
-        const std::size_t blocks = memory.liveBlocks();
-        disturbance.calls = {nth, disturbance.lasts != Lasts::once, false};
-        const std::string wrong = DisturbedPlay(undisturbed, disturbance).run();
-        disturbance.calls.left = 0;
-        const bool isGivenBack = memory.liveBlocks() == blocks && fileCalls.openFiles == 0;
-        if (!wrong.empty() || !isGivenBack) {
-            return "call " + std::to_string(nth) +
-                   " fails: " + (wrong.empty() ? "something is left behind" : wrong) + "\n";
-        }
-        if (!disturbance.calls.hasStruck) {
-            return "";
+        const std::string wrong = disturb(undisturbed, disturbance, nth);
+        if (!wrong.empty() || !disturbance.calls.hasStruck) {
+            return wrong;
         }
         ++failures;
     }

@@ -53,8 +53,11 @@ private:
     void playUntil(std::size_t parse);  // for what it stores, and does again
 };
 
-// Lets each call fail in its turn, or each of so many, in plays of their own, and counts them. Says
-// what does not hold of the answers, or of what is given back.
+// Lets the nth call fail. Says what does not hold of the answers, or of what is given back.
+std::string disturb(const Undisturbed& undisturbed, const Disturbance& disturbance, long nth);
+
+// Lets each call fail in its turn, or each of so many, in plays of their own, and counts them, up
+// to the first of which something does not hold.
 std::string disturbEach(const Undisturbed& undisturbed,
                         const Disturbance& disturbance,
                         long stride,

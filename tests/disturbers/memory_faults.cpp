@@ -6,30 +6,10 @@
 #include <cstdlib>
 #include <iostream>
 
-#include "disturbers/disturbed_play.h"
 #include "disturbers/judged_files.h"
-#include "support/failing_new.h"
-
-namespace {
+#include "disturbers/lack_of_memory.h"
 
 using namespace zarn_3_3::testing_support;
-
-// The text of a failure takes memory as well.
-bool mayAnswer(const std::string& verb, const std::string& found, const std::string& right) {
-    if (isParse({0, verb, {}})) {
-        return found == "3" || found == "3 std::bad_alloc" || found == right.substr(0, 1);
-    }
-    if (isAmong(verb, {"help", "topic", "modifiers", "globals"})) {
-        return found == "(nothing)" ||
-               found.find("Unknown error handled. (without") != std::string::npos;
-    }
-    return found == (isAmong(verb, {"parser", "result"}) ? "3"
-                     : verb == "error"                   ? ""
-                     : verb == "wrap"                    ? "threw std::bad_alloc"
-                                                         : "no");
-}
-
-}  // namespace
 
 int main(int argc, char** argv) {
     const long stride = argc > 1 ? std::atol(argv[1]) : 1;
@@ -38,7 +18,7 @@ int main(int argc, char** argv) {
         const Undisturbed undisturbed(scenario);
         std::string wrong;
         for (const Lasts lasts : {Lasts::once, Lasts::untilEndOfStep, Lasts::untilEndOfScenario}) {
-            wrong += disturbEach(undisturbed, {memory, lasts, mayAnswer}, stride, failures);
+            wrong += disturbEach(undisturbed, lackOfMemory(lasts), stride, failures);
         }
         return wrong;
     });

@@ -17,12 +17,15 @@ void expectSlowAnswers(const RegisteredOptionStorage& registry, const std::strin
     const std::size_t size = registry.items().size();
     std::size_t first = size;
     bool isDeclared[2] = {false, false};
+    std::vector<std::string> longer;  // what begins so, each once
     for (std::size_t i = 0; i < size; ++i) {
         const OptionDescription& item = registry.items()[i];
         for (const std::string& name : item.names) {
             isDeclared[item.kind] = isDeclared[item.kind] || name == text;
             for (const std::string& form : {name, item.type == vtBool ? "no-" + name : name}) {
                 first = form == text ? std::min(first, i) : first;
+                const bool isNew = std::find(longer.begin(), longer.end(), form) == longer.end();
+                longer.resize(longer.size() + (isNew && form.rfind(text, 0) == 0 ? 1 : 0), form);
             }
         }
     }
@@ -31,6 +34,10 @@ void expectSlowAnswers(const RegisteredOptionStorage& registry, const std::strin
     EXPECT_EQ(code == resultSuccess ? found : size, first) << text;
     EXPECT_EQ(registry.isDeclared(text, true, nullptr), isDeclared[kindAction]) << text;
     EXPECT_EQ(registry.isDeclared(text, false, nullptr), isDeclared[kindOption]) << text;
+    const internal::PrefixIndex::Found beginning = registry.findBeginning(text);
+    EXPECT_EQ(beginning.isOnly, longer.size() == 1) << text;
+    ASSERT_EQ(beginning.first != internal::KeptTexts::none, !longer.empty()) << text;
+    EXPECT_TRUE(longer.empty() || registry.names().forms()[beginning.first] == longer[0]) << text;
 }
 
 // Equal hashes would change no answer, and make every look-up walk.
@@ -50,8 +57,22 @@ TEST(TextHash, TellsTextsApartThatDifferInOneByte) {
 }
 
 TEST(Registry, FindsWhatALinearSearchFinds) {
-    const std::vector<std::string> pool{
-        "", "a", "ab", "abc", "b", "n", "no", "no-", "no-a", "no-b", "nob", "no-no-a"};
+    const std::string longOne(70, 'n');
+    const std::vector<std::string> pool{"",
+                                        "a",
+                                        "ab",
+                                        "abc",
+                                        "b",
+                                        "n",
+                                        "no",
+                                        "no-",
+                                        "no-a",
+                                        "no-b",
+                                        "nob",
+                                        "no-no-a",
+                                        longOne,
+                                        longOne + "n",
+                                        longOne + "x"};
     std::mt19937 dice(42);
     const auto drawn = [&] { return pool[dice() % pool.size()]; };
     for (int round = 0; round < 400 && !testing::Test::HasFailure(); ++round) {

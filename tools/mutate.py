@@ -137,7 +137,7 @@ class Workshop:
             return "scenarios"
         if not self.is_built():
             return "build"
-        if not self.run(["ctest", "--stop-on-failure", "-LE", "docs|package"]):
+        if not self.run(["ctest", "--stop-on-failure", "-LE", "docs"]):
             return "ctest"
         return None
 

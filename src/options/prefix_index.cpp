@@ -36,7 +36,7 @@ void PrefixIndex::measure(const KeptTexts& texts) {
     for (; measured < texts.size(); ++measured) {
         const auto number = static_cast<std::uint32_t>(measured);
         const std::size_t size = texts[number].size();
-        if (size > ordinary) {
+        if (isLong(size)) {
             longOnes.push_back(number);
         }
         ++ofSize[std::min(size, ordinary)];
@@ -45,20 +45,20 @@ void PrefixIndex::measure(const KeptTexts& texts) {
 }
 
 std::size_t PrefixIndex::candidates(std::size_t size) const {
-    return size > ordinary ? longOnes.size() : measured;
+    return isLong(size) ? longOnes.size() : measured;
 }
 
 std::uint32_t PrefixIndex::candidate(std::size_t size, std::size_t at) const {
-    return size > ordinary ? longOnes[at] : static_cast<std::uint32_t>(at);
+    return isLong(size) ? longOnes[at] : static_cast<std::uint32_t>(at);
 }
 
 // How many texts have at least `size` bytes.
 std::size_t PrefixIndex::countOf(std::size_t size, const KeptTexts& texts) const {
-    if (size <= ordinary) {
+    if (!isLong(size)) {
         return std::accumulate(ofSize.begin() + size, ofSize.end(), std::size_t{0});
     }
-    const auto isLong = [&](std::uint32_t number) { return texts[number].size() >= size; };
-    return static_cast<std::size_t>(std::count_if(longOnes.begin(), longOnes.end(), isLong));
+    const auto isOne = [&](std::uint32_t number) { return texts[number].size() >= size; };
+    return static_cast<std::size_t>(std::count_if(longOnes.begin(), longOnes.end(), isOne));
 }
 
 void PrefixIndex::catchUp(Length& length, std::size_t size, const KeptTexts& texts) const {

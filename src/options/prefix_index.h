@@ -39,6 +39,8 @@ private:
     // Few names are longer, so a table for those goes through them alone.
     static constexpr std::size_t ordinary = 64;
 
+    static bool isLong(std::size_t size) { return size > ordinary; }
+
     // The texts that are looked through for one length.
     std::size_t candidates(std::size_t size) const;
     std::uint32_t candidate(std::size_t size, std::size_t at) const;

@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# Usage: installed.sh BUILD_DIR COMPILER...
+# Usage: installed.sh BUILD_DIR COMPILER...   (of an optimised build: others name their sources)
 # Installs BUILD_DIR, moves what was installed, and builds and runs a tool on it with each compiler:
 # through the CMake package, through pkg-config, and with the undefined behaviour sanitizer; then
 # one that loads and unloads the library.
@@ -10,12 +10,7 @@ build_dir=$1
 shift
 quietly cmake --install "$build_dir" --prefix "$work/first"
 mv "$work/first" "$work/moved"
-# Debuggers find the sources of an unoptimised library, so that one names them.
-binary=-a
-if grep -q '^CMAKE_BUILD_TYPE:.*=Debug$' "$build_dir/CMakeCache.txt"; then
-    binary=-I
-fi
-! grep -rl "$binary" -e "$work" -e "$(cd "$build_dir" && pwd)" "$work/moved" ||
+! grep -rla -e "$work" -e "$(cd "$build_dir" && pwd)" "$work/moved" ||
     fail "the files above name the place where they were built or installed"
 
 for compiler in "$@"; do

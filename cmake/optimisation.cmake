@@ -7,15 +7,15 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 set_source_files_properties(
     src/help/help_renderer.cpp
     src/help/help_topics.cpp
-    src/help/word_wrapped_text.cpp
+    src/interface/word_wrapped_text.cpp
     src/log/zarn_log.cpp
     src/options/action_modifiers.cpp
     src/parser/action_groups.cpp
     src/parser/action_rules.cpp
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
-    src/platform/best_match.cpp
     src/platform/load_file.cpp
+    src/text/best_match.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )
 

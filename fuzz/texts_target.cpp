@@ -9,10 +9,12 @@
 #include <vector>
 
 #include "bytes.h"
-#include "help/paragraph.h"
-#include "options/number_text.h"
 #include "parser/argument_sources.h"
 #include "support/grouping_locale.h"
+#include "text/cut_argument.h"
+#include "text/number_text.h"
+#include "text/paragraph.h"
+#include "text/split.h"
 
 namespace fuzzing {
 namespace {

@@ -125,8 +125,8 @@ class Workshop:
 
     def first_failure(self):
         """What notices that something is wrong: a test, a program; None for nothing."""
-        for program in ["parser_test", "options_test", "help_test",
-                        "recognizers_test", "platform_test", "log_test", "growth_test"]:
+        for program in ["parser_test", "options_test", "text_test",
+                        "interface_test", "platform_test", "log_test", "growth_test"]:
             if not self.is_built(program):
                 return f"build of {program}"
             if not self.run([f"tests/{program}"]):

@@ -4,10 +4,10 @@
 #include <cstddef>
 
 #include "help/messages.h"
-#include "help/paragraph.h"
-#include "options/garbage.h"
 #include "options/option_description.h"
 #include "options/registered_option_storage.h"
+#include "text/garbage.h"
+#include "text/paragraph.h"
 
 namespace zarn_3_3::internal {
 namespace {

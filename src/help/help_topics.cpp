@@ -7,8 +7,8 @@
 
 #include "help/messages.h"
 #include "options/action_modifiers.h"
-#include "options/garbage.h"
 #include "options/registered_option_storage.h"
+#include "text/garbage.h"
 
 namespace zarn_3_3::internal {
 namespace {

@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "options/joined.h"
+#include "text/joined.h"
 
 namespace zarn_3_3::internal::messages {
 

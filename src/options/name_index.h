@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "options/kept_texts.h"
 #include "options/option_list.h"
+#include "text/kept_texts.h"
 
 namespace zarn_3_3::internal {
 

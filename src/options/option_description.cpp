@@ -2,6 +2,8 @@
 
 #include <exception>
 
+#include "text/split.h"
+
 namespace zarn_3_3 {
 namespace {
 

@@ -11,7 +11,8 @@
 #include <string_view>
 #include <vector>
 
-#include "recognizers/token_helpers.h"
+#include "text/status.h"
+#include "text/text_locale.h"
 #include "zarn/option.h"
 
 namespace zarn_3_3 {

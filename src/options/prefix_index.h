@@ -10,8 +10,8 @@
 #include <string_view>
 #include <vector>
 
-#include "options/kept_texts.h"
-#include "options/text_table.h"
+#include "text/kept_texts.h"
+#include "text/text_table.h"
 
 namespace zarn_3_3::internal {
 

@@ -5,6 +5,7 @@
 
 #include "log/zarn_log.h"
 #include "options/messages.h"
+#include "text/split.h"
 
 namespace zarn_3_3 {
 

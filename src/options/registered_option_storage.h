@@ -13,9 +13,9 @@
 #include "options/name_index.h"
 #include "options/option_list.h"
 #include "options/prefix_index.h"
-#include "options/text_arena.h"
-#include "options/text_table.h"
-#include "recognizers/token_helpers.h"
+#include "text/status.h"
+#include "text/text_arena.h"
+#include "text/text_table.h"
 
 namespace zarn_3_3 {
 

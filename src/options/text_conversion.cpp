@@ -5,9 +5,9 @@
 #include <string_view>
 #include <utility>
 
-#include "options/number_text.h"
+#include "interface/owned_text.h"
 #include "options/option_description.h"
-#include "platform/owned_text.h"
+#include "text/number_text.h"
 
 namespace zarn_3_3 {
 namespace {

@@ -3,7 +3,7 @@
 #include <algorithm>
 #include <stdexcept>
 
-#include "recognizers/token_helpers.h"
+#include "text/text_locale.h"
 
 namespace zarn_3_3::internal {
 namespace {

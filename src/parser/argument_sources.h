@@ -8,8 +8,8 @@
 #include <string_view>
 #include <vector>
 
-#include "options/text_arena.h"
 #include "recognizers/argument_source.h"
+#include "text/text_arena.h"
 
 namespace zarn_3_3::internal {
 

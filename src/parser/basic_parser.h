@@ -8,11 +8,11 @@
 #include <vector>
 
 #include "help/help_topics.h"
-#include "options/garbage.h"
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
 #include "parser/passing_events.h"
 #include "recognizers/handler_set.h"
+#include "text/garbage.h"
 #include "zarn/parser.h"
 
 namespace zarn_3_3 {

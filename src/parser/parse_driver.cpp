@@ -8,8 +8,8 @@
 #include "parser/messages.h"
 #include "recognizers/abbreviation_parser.h"
 #include "recognizers/positional_options_parser.h"
-#include "recognizers/token_helpers.h"
 #include "result/parse_result.h"
+#include "text/text_locale.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
 

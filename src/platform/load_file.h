@@ -6,10 +6,13 @@
 #include <cstddef>
 #include <cstdint>
 #include <optional>
+#include <string>
 
-#include "platform/utf.h"
+namespace TROV_2_18 {
 
-namespace TROV_2_18::system {
+using ustring8 = std::string;
+
+namespace system {
 
 // More than this is no option file but a mistake.
 constexpr std::size_t largestFile = std::size_t{256} * 1024 * 1024;
@@ -34,6 +37,7 @@ struct FileIdentity {
 // Nothing when the path names nothing that can be reached.
 std::optional<FileIdentity> identify(const ustring8& path) noexcept;
 
-}  // namespace TROV_2_18::system
+}  // namespace system
+}  // namespace TROV_2_18
 
 #endif  // ZARN_PLATFORM_LOAD_FILE_H

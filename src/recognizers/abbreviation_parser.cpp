@@ -4,9 +4,9 @@
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
-#include "platform/best_match.h"
 #include "recognizers/messages.h"
-#include "recognizers/token_helpers.h"
+#include "text/best_match.h"
+#include "text/cut_argument.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
 

@@ -5,6 +5,7 @@
 #include "recognizers/messages.h"
 #include "result/option_data.h"
 #include "result/result_collector.h"
+#include "result/sequence.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
 
@@ -12,7 +13,7 @@ namespace zarn_3_3 {
 
 using namespace internal;
 
-std::atomic<int> IArgumentParser::m_idx{1};
+std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
 
 IArgumentParser::IArgumentParser(EventHandler& eventHandler,
                                  const HandlerSet& whoListens,
@@ -55,7 +56,7 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
                                             const OptionDescription& option,
                                             std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    data->positions.assign(1, drawIndex());
+    data->positions.assign(1, Sequence::draw());
     data->values.clear();
     if (!value.empty()) {
         const Binding binding{value, option.primaryName(), option, args[0], *data, error};
@@ -111,7 +112,7 @@ int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
         binding.error = messages::invalidValue(binding.argument, binding.error);
         return refuse(binding.error);
     }
-    bound.position = drawIndex();
+    bound.position = Sequence::draw();
     return isHeard() ? announce(binding, bound) : resultOk;
 }
 

@@ -1,13 +1,11 @@
-// The base of the recognisers, and the running sequence number.
+// The base of the recognisers.
 
 #ifndef ZARN_RECOGNIZERS_ARGUMENT_PARSER_H
 #define ZARN_RECOGNIZERS_ARGUMENT_PARSER_H
 
 #include <atomic>
 #include <cstddef>
-#include <limits>
 #include <memory>
-#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,7 +14,7 @@
 #include "options/registered_option_storage.h"
 #include "recognizers/argument_source.h"
 #include "recognizers/handler_set.h"
-#include "recognizers/token_helpers.h"
+#include "text/text_locale.h"
 
 namespace zarn_3_3 {
 
@@ -61,20 +59,8 @@ public:
     // Of several recognisers that accept an argument the one with the highest priority parses it.
     virtual int getPriority() = 0;
 
-    // The next number of the sequence; never reset, so that numbers order everything that one
-    // process ever stored. Two parses at once may draw equal numbers, but that is all: the
-    // operations are atomic, though not one together.
-    static std::atomic<int> m_idx;
-
-    // Draws a number. Throws std::overflow_error when there is none left.
-    static int drawIndex() {
-        const int drawn = m_idx.load(std::memory_order_relaxed);
-        if (drawn == std::numeric_limits<int>::max()) {
-            throw std::overflow_error("The sequence numbers are used up");
-        }
-        m_idx.store(drawn + 1, std::memory_order_relaxed);
-        return drawn;
-    }
+    // The next number of the sequence that orders what is stored.
+    static std::atomic<int>& m_idx;
 
 protected:
     // Binds `value`, which may be empty for an occurrence without one, to `option`: cuts, checks

@@ -7,8 +7,8 @@
 #include <utility>
 
 #include "options/option_description.h"
-#include "recognizers/argument_parser.h"
 #include "result/option_data.h"
+#include "result/sequence.h"
 
 namespace zarn_3_3 {
 
@@ -63,7 +63,7 @@ void ParseResult::applyDefault(const OptionList& items) {
         }
         const char* const text = keptDefault(item);
         for (const std::string& name : item.names) {
-            const int position = IArgumentParser::drawIndex();
+            const int position = Sequence::draw();
             StoredOption& entry = findOrAdd(name);
             entry.defaultText = text;
             entry.defaultVariant = item.defaultVal;
@@ -81,7 +81,7 @@ const char* ParseResult::keptDefault(const OptionDescription& item) {
 
 void ParseResult::storeArgument(std::string_view argument) {
     const char* const kept = texts.keep(argument);
-    IArgumentParser::drawIndex();  // the number is part of the order, though no query shows it
+    Sequence::draw();  // the number is part of the order, though no query shows it
     arguments.push_back(kept);
 }
 

@@ -8,11 +8,11 @@
 #include <string_view>
 #include <vector>
 
-#include "options/kept_texts.h"
 #include "options/option_list.h"
-#include "options/text_arena.h"
 #include "result/result_collector.h"
 #include "result/stored_option.h"
+#include "text/kept_texts.h"
+#include "text/text_arena.h"
 #include "zarn/result.h"
 
 namespace zarn_3_3 {

@@ -7,7 +7,7 @@
 #include <set>
 
 #include "options/registered_option_storage.h"
-#include "options/text_hash.h"
+#include "text/text_hash.h"
 
 namespace zarn_3_3 {
 namespace {

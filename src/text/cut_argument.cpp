@@ -1,0 +1,99 @@
+#include "text/cut_argument.h"
+
+#include <array>
+#include <locale>
+#include <stdexcept>
+
+#include "text/utf.h"
+
+namespace zarn_3_3 {
+namespace {
+
+constexpr char hyphen = TROV_2_18::utf32_to_utf8(U'\x002D').view()[0];
+
+// Word processors turn "--" into one of these; a pasted command line must still work.
+constexpr std::array longDashes{
+    TROV_2_18::utf32_to_utf8(U'\x2012'),  // figure dash
+    TROV_2_18::utf32_to_utf8(U'\x2013'),  // en dash
+    TROV_2_18::utf32_to_utf8(U'\x2014'),  // em dash
+    TROV_2_18::utf32_to_utf8(U'\x2015'),  // horizontal bar
+    TROV_2_18::utf32_to_utf8(U'\x2053'),  // swung dash
+};
+
+// With which all of them begin: one byte tells most arguments from dashes.
+constexpr char longDashLead = longDashes[0].view()[0];
+
+std::size_t longDashLength(std::string_view text) {
+    for (const auto& dash : longDashes) {
+        if (text.substr(0, dash.view().size()) == dash.view()) {
+            return dash.view().size();
+        }
+    }
+    return 0;
+}
+
+std::size_t leadingDashLength(std::string_view text) {
+    if (text.empty()) {
+        return 0;
+    }
+    if (text[0] == hyphen) {
+        return 1;
+    }
+    return text[0] == longDashLead ? longDashLength(text) : 0;
+}
+
+// Two leading dashes at most are taken off, a third belongs to the name.
+std::string_view withoutDashes(std::string_view argument) {
+    argument.remove_prefix(leadingDashLength(argument));
+    argument.remove_prefix(leadingDashLength(argument));
+    return argument;
+}
+
+template <typename IsSpace>
+bool splitAt(const std::string& argument,
+             std::string_view* name,
+             std::string_view* value,
+             IsSpace isSpace) {
+    const std::string_view rest = withoutDashes(argument);
+    std::size_t end = 0;
+    while (end < rest.size() && rest[end] != '=' && !isSpace(rest[end])) {
+        ++end;
+    }
+    *name = rest.substr(0, end);
+    if (end == rest.size()) {
+        return false;
+    }
+    std::size_t valueStart = end + 1;
+    if (rest[end] != '=') {
+        while (valueStart < rest.size() && isSpace(rest[valueStart])) {
+            ++valueStart;
+        }
+    }
+    *value = rest.substr(valueStart);
+    return true;
+}
+
+}  // namespace
+
+std::size_t getDashLength(const std::string& text, std::size_t pos) {
+    if (pos > text.size()) {
+        throw std::out_of_range("basic_string::substr: position behind the end");
+    }
+    return leadingDashLength(std::string_view(text).substr(pos));
+}
+
+bool splitOptionValue(const std::string& argument,
+                      std::string_view* name,
+                      std::string_view* value,
+                      internal::TextLocale locale) {
+    if (locale == internal::TextLocale::classic) {
+        return splitAt(argument, name, value, internal::isClassicSpace);
+    }
+    const std::locale global;
+    const auto& classes = std::use_facet<std::ctype<char>>(global);
+    return splitAt(argument, name, value, [&classes](char c) {
+        return classes.is(std::ctype_base::space, c);
+    });
+}
+
+}  // namespace zarn_3_3

@@ -1,0 +1,24 @@
+#include "text/kept_texts.h"
+
+namespace zarn_3_3::internal {
+
+std::uint32_t KeptTexts::keep(std::string_view text) {
+    const std::uint32_t hash = TextHash::of(text);
+    const std::uint32_t known = find(hash, text);
+    if (known != none) {
+        return known;
+    }
+    table.makeRoom(1);
+    texts.emplace_back();
+    try {
+        texts.back() = {arena.keep(text), text.size()};
+    } catch (...) {
+        texts.pop_back();
+        throw;
+    }
+    const auto number = static_cast<std::uint32_t>(texts.size() - 1);
+    table.add(hash, number);
+    return number;
+}
+
+}  // namespace zarn_3_3::internal

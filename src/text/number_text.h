@@ -1,0 +1,49 @@
+// Numbers from texts and back, as streams of the global locale read and write them.
+
+#ifndef ZARN_TEXT_NUMBER_TEXT_H
+#define ZARN_TEXT_NUMBER_TEXT_H
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+#include "text/text_locale.h"
+
+namespace zarn_3_3::internal {
+
+enum class Trailing {
+    refused,  // only white space may follow the number
+    ignored,
+};
+
+// The number in `text`, in the default form of formatted extraction: leading white space skipped,
+// decimal, booleans as 0 and 1. None when there is no number, when it does not fit, or when
+// something but white space follows it and that is refused.
+//
+// T is bool, int, unsigned, long long, unsigned long long or double. Throws std::bad_alloc.
+template <typename T>
+std::optional<T> numberFromText(std::string_view text,
+                                Trailing trailing,
+                                TextLocale locale = globalTextLocale());
+
+// The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
+std::optional<unsigned long long> hexadecimalFromText(std::string_view text,
+                                                      TextLocale locale = globalTextLocale());
+
+// The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
+// Throws std::bad_alloc.
+template <typename T>
+std::string textFromNumber(T number);
+
+// The same by a stream, in whatever locale: what the others must agree with, and what they call
+// where the global locale is not the classic one.
+template <typename T>
+[[gnu::cold]] std::optional<T> numberFromStream(std::string_view text,
+                                                Trailing trailing,
+                                                bool hexadecimal);
+template <typename T>
+[[gnu::cold]] std::string textFromStream(T number);
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_TEXT_NUMBER_TEXT_H

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <iostream>
+#include <locale>
 #include <stdexcept>
 
 #include "support/captured_stream.h"
@@ -64,6 +65,32 @@ TEST(StreamsThatThrow, ChangeNoParse) {
         EXPECT_EQ(tool.error(), "Unknown option: x");
         EXPECT_EQ(tool.values("tone"), "old");
     }
+}
+
+// Reads numbers, and changes a character of the client's when it does.
+struct Meddler final : std::num_get<char> {
+    explicit Meddler(char& ofArgument) : victim(ofArgument) {}
+    iter_type do_get(iter_type at,
+                     iter_type end,
+                     std::ios_base& stream,
+                     std::ios_base::iostate& error,
+                     long& number) const override {
+        victim = '3';
+        return std::num_get<char>::do_get(at, end, stream, error, number);
+    }
+    char& victim;
+};
+
+TEST(LocalesThatChangeAnArgument, DoNotReachIt) {
+    Tool tool;
+    tool.option("level", vtS32);
+    char second[] = "--level=2";
+    const char* const argv[] = {"tool", "--level=1", second};
+    const std::locale before = std::locale::global({std::locale(), new Meddler(second[8])});
+    EXPECT_EQ(tool->parseArgsVector(3, argv, tool.result), resultOk);
+    std::locale::global(before);
+    EXPECT_STREQ(second, "--level=3") << "nobody asked the locale";
+    EXPECT_EQ(tool.values("level"), "1|2");
 }
 
 TEST(Trace, WritesNumbersAsTheFlagsOfTheStreamSay) {

@@ -15,7 +15,6 @@ set_source_files_properties(
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
     src/platform/load_file.cpp
-    src/text/best_match.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )
 

@@ -5,7 +5,6 @@
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/messages.h"
-#include "text/best_match.h"
 #include "text/cut_argument.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
@@ -78,15 +77,12 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
         matchIndex = registry.names().firstWithForm(found.first);
         return 1;
     }
-    // Several: who they are is asked once in a parse, which fails with that.
-    std::vector<std::string> names;
-    makeOptionNamesList(registry, names);
-    plinth2::generic_iterator_t<std::string> best;
-    const int matches = plinth2::find_best_match(
-        plinth2::generic_iterator_t<std::string>(names), std::string(text), best);
-    for (; !best.atEnd(); best.advance()) {
+    // Who they are is asked once in a parse, which fails with that: a walk over all forms will do.
+    std::vector<std::string> tied;
+    makeOptionNamesList(registry, text, tied);
+    for (const std::string& form : tied) {
         candidates += candidates.empty() ? "'" : ", '";
-        candidates += best.current() + "'";
+        candidates += form + "'";
     }
     trace(name,
           ": failed to get best match for '",
@@ -96,7 +92,7 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
           "':",
           messages::ambiguousOptions,
           candidates);
-    return matches;
+    return static_cast<int>(tied.size());
 }
 
 int AbbreviationParser::parse(std::vector<std::string>& args,
@@ -194,10 +190,14 @@ int AbbreviationParser::bind(const OptionDescription& option,
     return parseValueAndAddOption(value, error, option, args, collector);
 }
 
-void makeOptionNamesList(const RegisteredOptionStorage& registry, std::vector<std::string>& names) {
+void makeOptionNamesList(const RegisteredOptionStorage& registry,
+                         std::string_view beginning,
+                         std::vector<std::string>& names) {
     const KeptTexts& forms = registry.names().forms();
     for (std::uint32_t number = 0; number < forms.size(); ++number) {
-        names.emplace_back(forms[number]);
+        if (forms[number].substr(0, beginning.size()) == beginning) {
+            names.emplace_back(forms[number]);
+        }
     }
 }
 

@@ -55,8 +55,11 @@ private:
     bool hasValue = false;       // and whether one was attached
 };
 
-// Appends all names and "no-" forms of booleans, each once, in the order of declaration.
-void makeOptionNamesList(const RegisteredOptionStorage& registry, std::vector<std::string>& names);
+// Appends the names and the "no-" forms of booleans that begin with `beginning`, each once, in the
+// order of declaration.
+void makeOptionNamesList(const RegisteredOptionStorage& registry,
+                         std::string_view beginning,
+                         std::vector<std::string>& names);
 
 }  // namespace zarn_3_3
 

@@ -10,9 +10,11 @@ mode=$1
 build=$(cd "$2" && pwd)
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 work=$build/fuzz-work
-targets=(scenario texts)
+mapfile -t targets < <(find fuzz -name "*_target.cpp" -printf "%f\n" | sed "s/_target.cpp//")
 least_coverage=90
-mkdir -p "$work"/{scenario,texts}/{corpus,finds}
+for target in "${targets[@]}"; do
+    mkdir -p "$work/$target"/{corpus,finds}
+done
 # What was freed is held back for so long only: the rest of the memory is for the input.
 export ASAN_OPTIONS=quarantine_size_mb=64${ASAN_OPTIONS:+:$ASAN_OPTIONS}
 
@@ -53,9 +55,11 @@ cover() {
         LLVM_PROFILE_FILE=$work/$target.profraw \
             "$build/fuzz/replay_$target" "fuzz/corpus/$target" >/dev/null
     done
-    llvm-profdata merge -o "$work/both.profdata" "$work"/{scenario,texts}.profraw
-    llvm-cov report "$build/fuzz/replay_scenario" -object "$build/fuzz/replay_texts" \
-        -instr-profile="$work/both.profdata" "$PWD/src" | tee "$work/report" |
+    llvm-profdata merge -o "$work/all.profdata" "$work"/*.profraw
+    local others=("${targets[@]:1}")
+    llvm-cov report "$build/fuzz/replay_${targets[0]}" \
+        "${others[@]/#/-object=$build/fuzz/replay_}" \
+        -instr-profile="$work/all.profdata" "$PWD/src" | tee "$work/report" |
         awk -v least="$least_coverage" '
             $1 == "TOTAL" {
                 percent = 100 * ($8 - $9) / $8

@@ -90,7 +90,6 @@ def mutants_of(path):
 class Workshop:
     """A copy of the sources with a build of its own."""
 
-    # From the quickest to the slowest; the last ones are whole commands of their own.
     def __init__(self, place):
         self.place = place
         self.build = place / "build"
@@ -124,7 +123,7 @@ class Workshop:
         return self.run(["ninja", *targets])
 
     def first_failure(self):
-        """What notices that something is wrong: a test, a program; None for nothing."""
+        """What notices that something is wrong, the quickest first; None for nothing."""
         for program in ["parser_test", "options_test", "text_test",
                         "interface_test", "platform_test", "log_test", "growth_test"]:
             if not self.is_built(program):

@@ -9,11 +9,6 @@ namespace zarn_3_3::internal {
 
 std::atomic<bool> zarnLogEnabled{false};
 
-ZarnLog::~ZarnLog() {
-    stream.reset();  // before the buffer that it writes to
-    buffer.reset();
-}
-
 std::ostream& ZarnLog::discardingStream() {
     if (stream == nullptr) {
         buffer = std::make_unique<basic_nullbuf<char>>();

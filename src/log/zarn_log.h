@@ -32,13 +32,13 @@ public:
     ZarnLog() = default;
     ZarnLog(const ZarnLog&) = delete;
     ZarnLog& operator=(const ZarnLog&) = delete;
-    ~ZarnLog();
+    ~ZarnLog() = default;
 
     std::ostream& discardingStream();
 
 private:
-    std::unique_ptr<std::ostream> stream;
     std::unique_ptr<basic_nullbuf<char>> buffer;
+    std::unique_ptr<std::ostream> stream;  // writes to the buffer, so it goes first
 };
 
 // Where trace lines go: the console, or nowhere while the log is off.

@@ -79,10 +79,11 @@ int ParseDriver::parseOptions(const std::string& terminator,
 // Of those that take the argument in front, the one with the highest priority; null for none.
 IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
                                                std::vector<std::string>& args) {
+    std::string discarded;  // they are only asked
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
     for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(args, registry, discardedMessage) != 0) {
+        if (recognizer->recognize(args, registry, discarded) != 0) {
             continue;
         }
         const int priority = recognizer->getPriority();

@@ -71,7 +71,6 @@ private:
     ParseResult* result;
     IResultCollector* collector;
     std::string& error;
-    std::string discardedMessage;  // of recognisers, which are only asked
 
     static std::atomic<int> depth;  // of the parse in progress
 };

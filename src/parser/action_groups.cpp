@@ -2,21 +2,16 @@
 
 namespace zarn_3_3::internal {
 
+// Makes room first: when memory runs out, no action is in the group.
 void ActionGroups::add(const std::set<std::string>& actions) {
-    const std::size_t group = groupCount;
-    try {
-        for (const std::string& action : actions) {
-            groupsByAction[action].push_back(group);
+    for (const std::string& action : actions) {
+        std::vector<std::size_t>& groups = groupsByAction[action];
+        if (groups.size() == groups.capacity()) {
+            groups.reserve(2 * groups.size() + 1);
         }
-    } catch (...) {
-        for (const std::string& action : actions) {
-            const auto groups = groupsByAction.find(action);
-            if (groups != groupsByAction.end() && !groups->second.empty() &&
-                groups->second.back() == group) {
-                groups->second.pop_back();
-            }
-        }
-        throw;
+    }
+    for (const std::string& action : actions) {
+        groupsByAction[action].push_back(groupCount);
     }
     ++groupCount;
 }

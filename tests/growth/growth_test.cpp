@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <array>
+#include <set>
 
 #include "support/counted_calls.h"
 #include "support/failing_new.h"
@@ -199,6 +200,23 @@ TEST(Default, IsKeptOnceByAResult) {
             const char* const text = tool.result->get(name, 0, INT_MAX).text;
             EXPECT_EQ(text, kept == nullptr ? kept = text : kept);
         }
+    }
+}
+
+// What failed may be given up, and another group declared.
+TEST(GroupOfActions, IsWholeOrNotThere) {
+    const std::set<std::string> failing{"a", "b"};
+    const std::set<std::string> other{"b", "c"};
+    bool isAdded = false;
+    for (long nth = 1; !isAdded; ++nth) {
+        Tool tool;
+        tool->action("a", "", vtNull, "");
+        tool->action("c", "", vtNull, "");
+        memory.left = nth;
+        isAdded = tool->allowSimultaneousActions(failing);
+        memory.left = 0;
+        tool->allowSimultaneousActions(other);
+        EXPECT_EQ(tool.parse({"-a", "-c"}), resultRuleBroken) << nth;
     }
 }
 

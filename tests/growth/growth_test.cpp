@@ -220,5 +220,18 @@ TEST(GroupOfActions, IsWholeOrNotThere) {
     }
 }
 
+// Better no text than an exception.
+TEST(ErrorText, IsLeftOutWhenItCannotBeKept) {
+    std::string seen;
+    Tool tool;
+    for (long nth = 1; nth <= 3; ++nth) {
+        memory.left = nth;
+        EXPECT_EQ(tool->createResult(nullptr), resultException);
+        memory.left = 0;
+        seen += tool.error() + "|";
+    }
+    EXPECT_EQ(seen, "std::bad_alloc||The pointer to store the object through is null|");
+}
+
 }  // namespace
 }  // namespace zarn_3_3

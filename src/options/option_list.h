@@ -23,20 +23,22 @@ public:
         return blocks[index / ofBlock][index % ofBlock];
     }
     const OptionDescription& front() const { return (*this)[0]; }
-    const OptionDescription& back() const { return (*this)[count - 1]; }
+    const OptionDescription& back() const { return *last; }
 
     // Throws std::bad_alloc and changes nothing then.
     OptionDescription& add() {
         if (count == blocks.size() * ofBlock) {
             blocks.push_back(std::make_unique<OptionDescription[]>(ofBlock));
         }
+        last = &blocks[count / ofBlock][count % ofBlock];
         ++count;
-        return blocks[(count - 1) / ofBlock][(count - 1) % ofBlock];
+        return *last;
     }
 
     void removeLast() {
+        *last = OptionDescription();
         --count;
-        blocks[count / ofBlock][count % ofBlock] = OptionDescription();
+        last = count == 0 ? nullptr : &blocks[(count - 1) / ofBlock][(count - 1) % ofBlock];
     }
 
 private:
@@ -45,6 +47,7 @@ private:
 
     std::vector<std::unique_ptr<OptionDescription[]>> blocks;
     std::size_t count = 0;
+    OptionDescription* last = nullptr;  // every argument asks whether it has changed
 };
 
 }  // namespace zarn_3_3

@@ -3,6 +3,10 @@
 #ifndef ZARN_EXPORT_H
 #define ZARN_EXPORT_H
 
+#if __cplusplus < 201703L
+#error "zarn needs C++17: compile with -std=c++17 or a later standard"
+#endif
+
 // Defined while a static library is built: who links that does not offer it to others.
 #ifdef ZARN_STATIC
 #define ZARN_EXPORT

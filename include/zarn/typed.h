@@ -1,16 +1,17 @@
-// The modern face: the interface of zarn.h with owning handles, typed values, ranges and lambdas.
+// The modern face: what a tool declares lands in its variables, and one line in main does the rest.
 //
-// All of it is made of inline code over the public interface, which stays within reach: a handle
-// gives the plain object with -> and *, and both faces may be mixed. zarn.h does not include it.
+// It stands on the plain interface of zarn.h, which stays within reach: a parser gives the plain
+// object with -> and *, and both faces may be mixed. zarn.h does not include it.
 
 #ifndef ZARN_TYPED_H
 #define ZARN_TYPED_H
 
+#include "zarn/typed/conversion.h"
 #include "zarn/typed/declaration.h"
 #include "zarn/typed/handlers.h"
-#include "zarn/typed/owned.h"
 #include "zarn/typed/parser.h"
-#include "zarn/typed/reading.h"
+#include "zarn/typed/quantities.h"
+#include "zarn/typed/result.h"
 #include "zarn/typed/value.h"
 #include "zarn/zarn.h"
 

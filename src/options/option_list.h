@@ -22,6 +22,9 @@ public:
     const OptionDescription& operator[](std::size_t index) const {
         return blocks[index / ofBlock][index % ofBlock];
     }
+    OptionDescription& operator[](std::size_t index) {
+        return blocks[index / ofBlock][index % ofBlock];
+    }
     const OptionDescription& front() const { return (*this)[0]; }
     const OptionDescription& back() const { return *last; }
 

@@ -138,6 +138,14 @@ PrefixIndex::Found RegisteredOptionStorage::findBeginning(std::string_view begin
     return prefixIndex->find(beginning, names().forms());
 }
 
+void RegisteredOptionStorage::takeAnyText(std::size_t number) {
+    OptionDescription& item = options[number];
+    item.type = vtString;
+    item.allowedValues.clear();
+    item.deprecatedValues.clear();
+    item.tokenizer = 0;
+}
+
 const NameIndex& RegisteredOptionStorage::names() const {
     if (!index.isUpToDate(options)) {
         index.catchUp(options);

@@ -41,6 +41,9 @@ public:
                               das_variant_type_t type,
                               const char* section);
 
+    // Makes an item take texts of any kind, whole.
+    void takeAnyText(std::size_t number);
+
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
 

@@ -70,6 +70,10 @@ public:
 
     ~BasicParser() override = default;
 
+    // For the modern face, which looks names up in it.
+    RegisteredOptionStorage& vocabulary() { return registry; }
+    const RegisteredOptionStorage& vocabulary() const { return registry; }
+
 protected:
     // Slots of the binary interface behind those of IParser. They let exceptions through.
     //

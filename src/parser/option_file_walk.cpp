@@ -14,9 +14,7 @@ constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
 
 }  // namespace
 
-OptionFileWalk::OptionFileWalk(ParseDriver& theDriver,
-                               const ParseResult& filled,
-                               std::string& errorText)
+OptionFileWalk::OptionFileWalk(ParseDriver& theDriver, ParseResult& filled, std::string& errorText)
     : driver(theDriver), result(filled), error(errorText) {}
 
 int OptionFileWalk::run() {
@@ -64,6 +62,7 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
 }
 
 int OptionFileWalk::parse(const std::string& content) {
+    const ParseResult::FromFile numbers(result);
     TextSource source(content, TextSource::Owner::library);
     std::vector<std::string> front;
     const int code = driver.parseOptions(endOfOptions, front, source);

@@ -25,7 +25,7 @@ constexpr const char* optionFileName = "option-file";
 // is named again below itself would make that endless.
 class OptionFileWalk {
 public:
-    OptionFileWalk(ParseDriver& theDriver, const ParseResult& filled, std::string& errorText);
+    OptionFileWalk(ParseDriver& theDriver, ParseResult& filled, std::string& errorText);
 
     // resultOk, resultOptionFileUnreadable, or the code with which a file's arguments failed.
     int run();
@@ -45,7 +45,7 @@ private:
     void noteNewValues(std::size_t namedIn);
 
     ParseDriver& driver;
-    const ParseResult& result;
+    ParseResult& result;
     std::string& error;
     std::vector<File> files;
     std::vector<std::size_t> valueNamedIn;  // for each value the file that named it, or none

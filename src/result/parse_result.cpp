@@ -40,6 +40,22 @@ bool isAscendingFrom(const std::vector<Element>& elements, std::size_t first) {
 
 void ParseResult::destroy() { delete this; }
 
+ParseResult::FromFile::FromFile(ParseResult& result)
+    : result_(result), index_(result.fileNumbers_.size()) {
+    result.fileNumbers_.emplace_back(Sequence::next.load(std::memory_order_relaxed), lastPosition);
+}
+
+// By index: a handler may read further files into the same result meanwhile.
+ParseResult::FromFile::~FromFile() {
+    result_.fileNumbers_[index_].second = Sequence::next.load(std::memory_order_relaxed);
+}
+
+bool ParseResult::isFromFile(int position) const {
+    return std::any_of(fileNumbers_.begin(), fileNumbers_.end(), [position](const auto& numbers) {
+        return numbers.first <= position && position < numbers.second;
+    });
+}
+
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
     const std::size_t primary = findStored(option.names.at(0));
     if (primary == none) {

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <limits>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "options/option_list.h"
@@ -50,6 +51,23 @@ public:
     // Keeps an argument that is not parsed, under the next number of the sequence.
     void storeArgument(std::string_view argument);
 
+    // What is stored while one of these lives comes from an option file. Its constructor throws
+    // std::bad_alloc.
+    class FromFile {
+    public:
+        explicit FromFile(ParseResult& result);
+        FromFile(const FromFile&) = delete;
+        FromFile& operator=(const FromFile&) = delete;
+        ~FromFile();
+
+    private:
+        ParseResult& result_;
+        std::size_t index_;
+    };
+
+    // Whether the number was drawn for a line of an option file.
+    bool isFromFile(int position) const;
+
     // The entry of a name, or null.
     const internal::StoredOption* find(std::string_view name) const;
 
@@ -89,6 +107,9 @@ private:
 
     std::vector<const char*> arguments;  // kept aside behind the terminator
     std::size_t argumentCursor = none;
+
+    // Of each option file the numbers drawn for its lines: from the first to before the second.
+    std::vector<std::pair<int, int>> fileNumbers_;
 
     // What a clash of synonyms replaced: its texts may have been handed out.
     std::vector<internal::StoredValue> replaced;

@@ -1,184 +1,319 @@
 // How a vocabulary is written down: one expression for each item.
 //
-//     parser.declare("main:Main options",
+//     parser.declare("Output",
 //                    {
-//                        zarn::option<int>("jobs,j", "How many at a time.").byDefault(2),
-//                        zarn::option<std::string>("tone", "How loud.").allow({"low", "high"}),
-//                        zarn::option("quiet,q", "Say nothing."),
-//                        zarn::positional("file", "What to work on."),
+//                        zarn::option<int>("jobs,j", "How many at a time.").between(1,
+//                        64).into(jobs), zarn::option<std::string>("tone", "How
+//                        loud.").allow({"low", "high"}), zarn::option("quiet,q", "Say
+//                        nothing.").into(quiet), zarn::positional("file", "What to work
+//                        on.").named("FILE").into(files),
 //                    });
 
 #ifndef ZARN_TYPED_DECLARATION_H
 #define ZARN_TYPED_DECLARATION_H
 
+#include <cstdlib>
 #include <initializer_list>
+#include <limits>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
 #include <type_traits>
 #include <utility>
-#include <vector>
 
-#include "zarn/option.h"
-#include "zarn/parser.h"
+#include "zarn/typed/checks.h"
+#include "zarn/typed/engine.h"
+#include "zarn/typed/target.h"
 #include "zarn/typed/value.h"
 
 namespace zarn_3_3 {
 
-// One item of a vocabulary, with values of whatever type, until it is declared.
-//
-// It keeps pointers to its names, actions and description, which must live until then (literals
-// do), and copies of its values. It is made by option, action, modifier and positional.
+// One item of a vocabulary, with values of whatever type, until it is declared. It is made by
+// option, action, modifier and positional.
 class Item {
 public:
-    enum class Role { option, action, positional };
-
-    // Declares the item in the section, which is "key:Title" or the key alone; see IParser::option,
-    // also about names that are refused. No exception leaves it.
-    void declareOn(IParser& parser, const char* section) const {
-        IOption& item = role == Role::action
-                            ? parser.action(names, description, type, section)
-                            : parser.modifier(names, actionNames, description, type, section);
-        if (role == Role::positional) {
-            item.positional();
-        }
-        for (const AllowedValue& value : allowedValues) {
-            if (value.replacement.type() == vtNull) {
-                item.allowValue(value.value);
-            } else {
-                item.allowDeprecatedValue(value.value, value.replacement);
-            }
-        }
-        if (defaultValue.type() != vtNull) {
-            item.defaultValue(defaultValue);
-        }
-        if (separator) {
-            item.tokenize(*separator);  // last: allowValue has values cut at ','
-        }
-    }
+    // For the parser, which takes out what it keeps.
+    internal::ItemDescription description;
 
 protected:
-    struct AllowedValue {
-        variant_t value;
-        variant_t replacement;  // empty, unless the value is deprecated
-    };
-
-    Item(Role itsRole,
-         das_variant_type_t itsType,
-         const char* itsNames,
-         const char* itsActions,
-         const char* itsDescription) noexcept
-        : role(itsRole),
-          type(itsType),
-          names(itsNames),
-          actionNames(itsActions),
-          description(itsDescription) {}
-
-    Role role;
-    das_variant_type_t type;
-    const char* names;
-    const char* actionNames;
-    const char* description;
-    std::vector<AllowedValue> allowedValues;
-    variant_t defaultValue;  // empty: none
-    std::optional<char> separator;
+    explicit Item(internal::ItemDescription&& begun) noexcept : description(std::move(begun)) {}
 };
-
-namespace internal {
-
-// A text that a setting takes, read in the course of the call.
-class TextSetting {
-public:
-    TextSetting(const char* given) noexcept : text(given) {}
-    TextSetting(const std::string& given) noexcept : text(given.c_str()) {}
-
-    operator variant_t() const { return variant_t(text); }
-
-private:
-    const char* text;
-};
-
-}  // namespace internal
 
 // An item with values of type T, on which its settings are chained, in any order.
 //
-// Exceptions: settings throw std::bad_alloc when memory runs out.
+// Texts that are given as const char* are read when the item is declared, and must live until then;
+// literals do.
+//
+// Exceptions: std::logic_error for a value that does not fit T, and for bounds in the wrong order;
+// std::bad_alloc when memory runs out.
 template <typename T>
-class Declaration final : public Item {
+class [[nodiscard]] Declaration final : public Item {
 public:
-    // What settings take as a value: a T, and for every type of text const char* or std::string.
-    using Setting =
-        std::conditional_t<internal::TypeCode<T>::value == vtString, internal::TextSetting, T>;
-
     // For option, action, modifier and positional below, which say what is what.
-    Declaration(Role itsRole,
-                const char* itsNames,
-                const char* itsActions,
-                const char* itsDescription) noexcept
-        : Item(itsRole, internal::TypeCode<T>::value, itsNames, itsActions, itsDescription) {}
+    Declaration(internal::Role role, const char* names, const char* actions, const char* helpText)
+        : Item({role, internal::typeCode<T>(), names, actions, helpText}) {
+        if constexpr (internal::isNumber<T>) {
+            description.least = internal::plainNumber(std::numeric_limits<T>::lowest());
+            description.greatest = internal::plainNumber(std::numeric_limits<T>::max());
+        }
+        if constexpr (internal::isNamed<T>) {
+            for (const Name<T>& each : Names<T>::table) {
+                description.allowed.push_back({each.name, {}});
+            }
+        } else if constexpr (needsReading) {
+            add(std::make_unique<internal::Readable<T>>());
+        }
+    }
 
-    // What is read when the item is not given. An empty text is no default.
-    Declaration&& byDefault(const Setting& value) && {
-        defaultValue = value;
+    // Where the value goes when the whole parse has gone well; all variables of a vocabulary are
+    // then written, or none. It must live until the last parse.
+    //
+    // A variable of type T, or an optional, takes the value that counts: the last one of the
+    // command line, else the last one of the option files, else that of the environment, else the
+    // default. A vector takes all that were given, in order, else what else counts. A switch goes
+    // into a bool, or as the number of its occurrences into an integer; a text into a path, too.
+    // Without any of these the variable stays as it is.
+    template <typename V>
+    Declaration&& into(V& variable) && {
+        description.target = std::make_unique<internal::TargetOf<T, V>>(variable);
+        return std::move(*this);
+    }
+
+    // What is read when the item is not given. An empty text is no default. One that the item would
+    // refuse is a std::logic_error when the item is declared.
+    template <typename U>
+    Declaration&& byDefault(const U& value) && {
+        description.defaultValue = setting(value);
+        return std::move(*this);
+    }
+
+    // Shows what the variable given to `into` holds when the item is declared, which stays in it.
+    Declaration&& byDefault() && {
+        static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
+        description.showsTarget = true;
         return std::move(*this);
     }
 
     // Adds to the values that are accepted; with none, every value of the type is. Texts may then
     // be abbreviated as long as they stay unambiguous.
-    Declaration&& allow(std::initializer_list<Setting> values) && {
-        for (const Setting& value : values) {
-            allowedValues.push_back({value, {}});
+    template <typename U>
+    Declaration&& allow(std::initializer_list<U> values) && {
+        for (const U& value : values) {
+            description.allowed.push_back({setting(value), {}});
         }
         return std::move(*this);
     }
 
-    // Accepts a former value too, with a warning that names its replacement. Has no effect on an
-    // item without allowed values.
-    Declaration&& deprecate(const Setting& former, const Setting& replacement) && {
-        allowedValues.push_back({former, replacement});
+    // Accepts a former value too, with a warning that names its replacement, as which it is read.
+    // Has no effect on an item without allowed values. The former value of an enumeration is a
+    // text.
+    template <typename U, typename R>
+    Declaration&& deprecate(const U& former, const R& replacement) && {
+        if constexpr (internal::isConverted<T>) {
+            description.allowed.push_back({variant_t(former), setting(replacement)});
+        } else {
+            description.allowed.push_back({setting(former), setting(replacement)});
+        }
         return std::move(*this);
     }
 
-    // Cuts one argument into several values at `mark`. Without this they are cut at ','; only with
-    // flagValuesStayWhole, and no allowed values, they stay whole.
+    // Cuts one argument into several values at `mark`. Without this it is one value, commas and
+    // all.
     Declaration&& cutAt(char mark) && noexcept {
-        separator = mark;
+        description.separator = mark;
         return std::move(*this);
     }
 
-    // Leaves every argument one value, commas and all.
-    Declaration&& whole() && noexcept { return std::move(*this).cutAt('\0'); }
+    // Refuses values below the first and above the second bound, which are allowed themselves.
+    template <typename Low, typename High>
+    Declaration&& between(const Low& least, const High& greatest) && {
+        const T low = bound(least);
+        const T high = bound(greatest);
+        if (high < low) {
+            internal::mistake(description.names, "no value lies between its bounds");
+        }
+        return std::move(*this).check(
+            [low, high](const T& value) { return !(value < low) && !(high < value); },
+            internal::boundsText(internal::plainValue(low), internal::plainValue(high)));
+    }
+
+    // Refuses values below the bound.
+    template <typename U>
+    Declaration&& atLeast(const U& least) && {
+        const T low = bound(least);
+        return std::move(*this).check([low](const T& value) { return !(value < low); },
+                                      internal::boundsText(internal::plainValue(low), {}));
+    }
+
+    // Refuses values above the bound.
+    template <typename U>
+    Declaration&& atMost(const U& greatest) && {
+        const T high = bound(greatest);
+        return std::move(*this).check([high](const T& value) { return !(high < value); },
+                                      internal::boundsText({}, internal::plainValue(high)));
+    }
+
+    // Refuses values for which predicate(value), called with a T, is not true. `reason` is put
+    // behind the message: "it must be even". Checks are asked in the order of the command line and,
+    // for one value, in the order in which they were chained.
+    template <typename Predicate>
+    Declaration&& check(Predicate predicate, std::string reason) && {
+        static_assert(std::is_invocable_r_v<bool, const Predicate&, const T&>,
+                      "a check is called with a value of the option and answers true or false");
+        add(std::make_unique<internal::Holds<T, Predicate>>(std::move(predicate),
+                                                            std::move(reason)));
+        return std::move(*this);
+    }
+
+    // Refuses what is not the path of an existing file (of whatever kind, but no folder), or of an
+    // existing folder. "-" is let through when the parser accepts it (loneDash).
+    Declaration&& existingFile() && {
+        return std::move(*this).exists(internal::Exists::Kind::file);
+    }
+    Declaration&& existingFolder() && {
+        return std::move(*this).exists(internal::Exists::Kind::folder);
+    }
+
+    // Takes the value from the environment when the command line and the option files have none.
+    // It is checked like a typed one. A boolean is 1, true, yes, on, or 0, false, no, off. An empty
+    // variable counts as none.
+    Declaration&& fromEnvironment(const char* variable) && {
+        static_assert(!std::is_same_v<T, Switch>,
+                      "a switch has no value to be taken from the environment: use option<bool>");
+        description.environment = variable;
+        description.readVariable = &std::getenv;
+        return std::move(*this);
+    }
+
+    // Refuses a command line without the item; for a modifier, one with an action of its own.
+    Declaration&& required() && noexcept {
+        description.isRequired = true;
+        return std::move(*this);
+    }
+
+    // For an option that is used by itself, such as one that shows a help text: where it is given,
+    // nothing is required, and no rule asked.
+    Declaration&& alone() && noexcept {
+        description.isAlone = true;
+        return std::move(*this);
+    }
+
+    // How usage lines and messages call a positional item: "FILE".
+    Declaration&& named(const char* name) && noexcept {
+        description.shownName = name;
+        return std::move(*this);
+    }
+
+private:
+    // Types that hold less than the plain interface does, or that it does not know.
+    static constexpr bool needsReading =
+        (internal::isConverted<T> && !internal::isPath<T>) ||
+        (internal::isNumber<T> &&
+         (sizeof(T) < sizeof(int) || std::is_unsigned_v<T> || std::is_same_v<T, float>));
+
+    template <typename U>
+    static constexpr void requireSetting() {
+        static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
+        if constexpr (std::is_same_v<T, bool>) {
+            static_assert(std::is_same_v<U, bool>, "the values of a boolean are true and false");
+        } else if constexpr (internal::isNumber<T>) {
+            static_assert(internal::isNumber<U>, "the values of this option are numbers");
+            static_assert(!(std::is_integral_v<T> && std::is_floating_point_v<U>),
+                          "the values of this option are whole numbers");
+        } else if constexpr (internal::isText<T>) {
+            static_assert(std::is_convertible_v<const U&, std::string_view>,
+                          "the values of this option are texts");
+        } else {
+            static_assert(std::is_convertible_v<const U&, T>,
+                          "the values of this option have the type it is declared with");
+        }
+    }
+
+    // `value` as a T, or as a text. A mistake when a number does not fit.
+    template <typename U>
+    auto fitted(const U& value) const {
+        requireSetting<U>();
+        if constexpr (internal::isNumber<T>) {
+            const std::optional<T> number = internal::numberAs<T>(value);
+            if (!number) {
+                internal::mistake(
+                    description.names,
+                    "a number of its declaration does not fit: " +
+                        internal::boundsText(description.least, description.greatest));
+            }
+            return *number;
+        } else if constexpr (internal::isText<T>) {
+            return std::string(value);
+        } else {
+            return T(value);
+        }
+    }
+
+    template <typename U>
+    variant_t setting(const U& value) const {
+        static_assert(!(std::is_integral_v<T> && std::is_unsigned_v<T> && std::is_signed_v<U>),
+                      "a signed number may not fit this option, which has none: write 3u, not 3");
+        return internal::plainValue(fitted(value));
+    }
+
+    template <typename U>
+    T bound(const U& value) const {
+        static_assert(!internal::isText<T> && !internal::isNamed<T>,
+                      "bounds are for numbers, durations and sizes; see allow and check");
+        return fitted(value);
+    }
+
+    Declaration&& exists(internal::Exists::Kind kind) && {
+        static_assert(internal::isText<T> || internal::isPath<T>,
+                      "only texts and paths name files");
+        add(std::make_unique<internal::Exists>(kind));
+        return std::move(*this);
+    }
+
+    void add(std::unique_ptr<internal::Check> check) {
+        std::unique_ptr<internal::Check>* end = &description.checks;
+        while (*end != nullptr) {
+            end = &(*end)->next;
+        }
+        *end = std::move(check);
+    }
 };
 
 // An option that belongs to no action. Without a type it is a switch, which takes no value; the
 // types of values are those of get<T>(value).
 //
 // names        without dashes, separated by ',': the primary one, a second, and a short third one
+//              of at most two bytes
 // description  its help text
+//
+// Throws std::bad_alloc when memory runs out.
 template <typename T = Switch>
-Declaration<T> option(const char* names, const char* description) noexcept {
-    return {Item::Role::option, names, nullptr, description};
+Declaration<T> option(const char* names, const char* description) {
+    return {internal::Role::option, names, "", description};
 }
 
 // An action: what the tool is to do. Names, description and types as for option.
 template <typename T = Switch>
-Declaration<T> action(const char* names, const char* description) noexcept {
-    return {Item::Role::action, names, nullptr, description};
+Declaration<T> action(const char* names, const char* description) {
+    return {internal::Role::action, names, "", description};
 }
 
 // An option that belongs to the actions with these primary names, separated by ',', and is refused
 // with any other. Names, description and types as for option.
 template <typename T = Switch>
-Declaration<T> modifier(const char* names,
-                        const char* actionNames,
-                        const char* description) noexcept {
-    return {Item::Role::option, names, actionNames, description};
+Declaration<T> modifier(const char* names, const char* actionNames, const char* description) {
+    return {internal::Role::option, names, actionNames, description};
 }
 
-// Takes the arguments that are no options; of several such items the one declared first takes them
-// all. Names and description as for option.
+// Takes the arguments that are no options. Several are filled in the order in which they are
+// declared, one argument each; the last takes the rest, unless its variable has a place for one
+// value only. Names and description as for option.
 template <typename T = std::string>
-Declaration<T> positional(const char* names, const char* description) noexcept {
-    return {Item::Role::positional, names, nullptr, description};
+Declaration<T> positional(const char* names, const char* description) {
+    static_assert(!std::is_same_v<T, Switch> && !std::is_same_v<T, bool>,
+                  "a positional item takes values");
+    return {internal::Role::positional, names, "", description};
 }
 
 }  // namespace zarn_3_3

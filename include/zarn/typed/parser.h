@@ -1,120 +1,202 @@
-// The parser and its results as handles that own them.
+// The parser of the modern face.
 
 #ifndef ZARN_TYPED_PARSER_H
 #define ZARN_TYPED_PARSER_H
 
+#include <cstddef>
+#include <cstdio>
 #include <initializer_list>
-#include <new>
+#include <memory>
+#include <optional>
 #include <string>
 #include <utility>
+#include <vector>
 
 #include "zarn/parser.h"
-#include "zarn/result.h"
 #include "zarn/typed/declaration.h"
-#include "zarn/typed/owned.h"
+#include "zarn/typed/engine.h"
+#include "zarn/typed/result.h"
 
 namespace zarn_3_3 {
 
-// What a parse found; it may outlive its parser. How it is read: zarn/typed/reading.h.
-class Result final : public Owned<IParseResult> {
-public:
-    // Takes over a result that IParser::createResult made.
-    using Owned<IParseResult>::Owned;
+// What most tools with file names want: an argument that nothing declared takes is an error; a
+// positional argument does not begin with a dash, so that a misspelt option is not taken for one,
+// but behind "--" it may; the paths of option files hold commas.
+constexpr int usualFlags = flagUnknownIsError | flagPositionalWithoutDash |
+                           flagPositionalBehindTerminator | flagValuesStayWhole;
 
-    // An empty result of the parser. Throws std::bad_alloc when memory runs out.
-    explicit Result(IParser& parser) : Owned(make(parser)) {}
+// What the arguments of a command line may look like beside the family's own way. What is a name,
+// or begins one, stays that. Combine with |.
+enum Habit : unsigned {
+    bundles = 0x1,          // "-xvf a.tar" is "-x -v -f a.tar" when each letter is a name
+    gluedValues = 0x2,      // "-k2" is "-k=2" when the letter is a name
+    negativeNumbers = 0x4,  // "-5" behind an option of a number with sign, or for a positional item
+                            // of one, is its value
+    loneDash = 0x8,         // "-" is a value, or a positional argument: the standard input
+};
+constexpr unsigned unixHabits = bundles | gluedValues | negativeNumbers | loneDash;
 
-private:
-    static IParseResult* make(IParser& parser) {
-        IParseResult* made = nullptr;
-        if (parser.createResult(&made) != resultOk) {
-            throw std::bad_alloc();
-        }
-        return made;
-    }
+// What `Parser::run` answers.
+enum ExitCode : int {
+    exitAnswered = 0,    // help or the version was printed
+    exitUsage = 2,       // the command line is wrong
+    exitUnreadable = 3,  // an option file could not be read
+    exitInternal = 4,    // memory ran out, or a handler threw
 };
 
-// How a parse ended. True when it went well.
+// A vocabulary, and what it takes to parse command lines of it.
 //
-//     const zarn::ParseOutcome outcome = parser.parse(argc, argv);
-//     if (!outcome) {
-//         std::cerr << outcome.text << '\n';
-//         return outcome.code;
+//     zarn::Parser parser({"sonde", "2.1", "look into archives"});
+//     parser.declare("Output", {zarn::option<int>("jobs,j", "How many at a time.").into(jobs)});
+//     if (const auto ended = parser.run(argc, argv)) {
+//         return *ended;
 //     }
-struct ParseOutcome {
-    explicit operator bool() const noexcept { return code == resultOk; }
-
-    int code;          // a ResultCode
-    std::string text;  // why it failed, as IParser::getErrorDesc has it; empty when it did not
-    Result result;     // what was found; after a failure, what was found until then
-};
-
-// A parser that is owned. Everything that IParser offers is reached with ->.
 //
-// What outlives it: results. What must not: handlers that are registered, so declare them behind
-// it.
-class Parser final : public Owned<IParser> {
+// Everything that IParser offers is reached with ->. Handlers that are registered must outlive the
+// last parse, and so must the variables given to `into`. Moving leaves the source to be destroyed
+// or assigned to, and nothing else.
+//
+// Mistakes of the author are a std::logic_error that says what and where, thrown when an item is
+// declared or, where that is too early, by the first parse. Exceptions beside it: std::bad_alloc
+// when memory runs out, and what a handler throws that does not derive from std::exception. With an
+// exception no variable is written.
+class Parser final {
 public:
-    // Takes over a parser that createParser made.
-    using Owned<IParser>::Owned;
-
+    // tool   who is parsing; what is left out is not shown
     // flags  any combination of ParserFlag values, or 0
-    //
-    // Throws std::bad_alloc when memory runs out.
-    explicit Parser(int flags = 0) : Owned(make(flags)) {}
+    explicit Parser(const Tool& tool = {}, int flags = usualFlags)
+        : vocabulary_(internal::createVocabulary(tool, flags)) {}
+
+    IParser* operator->() const noexcept { return internal::plainParser(vocabulary_.get()); }
+    operator IParser&() const noexcept { return *internal::plainParser(vocabulary_.get()); }
 
     // Declares the items, in order, in the section of the help that is given as "key:Title" or as
-    // the key alone; without one, in a section without heading. What is refused (see
-    // IParser::option) is left out. No exception leaves it.
-    void declare(const char* section, std::initializer_list<Item> items) {
-        for (const Item& item : items) {
-            item.declareOn(*get(), section);
+    // the key alone; without one, in a section without heading.
+    //
+    // A mistake is: a name that is taken, is empty, has a dash in front, a blank or a "=" in it;
+    // more than three names, or a third of more than two bytes; a default that the item would
+    // refuse; a variable that another item has. At the first parse: an action that is not declared.
+    template <std::size_t count>
+    void declare(const char* section, Item (&&items)[count]) {
+        for (Item& item : items) {
+            internal::declareItem(vocabulary_.get(), section, item.description);
         }
     }
-    void declare(std::initializer_list<Item> items) { declare("", items); }
-
-    // Parses a command line as main has it into a result of its own; see IParser::parseArgsVector.
-    // A failure is told in the outcome, not thrown: code is
-    //   resultOk
-    //   resultVetoed                a handler answered false to a value
-    //   resultRuleBroken            an argument, a value or a combination of actions is wrong
-    //   resultException             a standard exception inside, thrown by a handler perhaps
-    //   resultOptionFileUnreadable  an option file could not be read
-    //
-    // Throws std::bad_alloc when there is no memory for the outcome, and what a handler throws that
-    // does not derive from std::exception.
-    ParseOutcome parse(int argc, const char* const* argv) {
-        Result into(*get());
-        const int code = get()->parseArgsVector(argc, argv, into.get());
-        return conclude(code, std::move(into));
+    template <std::size_t count>
+    void declare(Item (&&items)[count]) {
+        declare("", std::move(items));
     }
 
-    // Parses a text of one argument a line; see IParser::parseStream. Outcome and exceptions are
-    // those of parse; an exception takes `into` with it.
+    // Declares "option-file", whose values name files of further arguments; see
+    // IParser::addOptionFileOption.
+    void readOptionFiles(const char* description, const char* section = "") {
+        (*this)->addOptionFileOption(description, section);
+    }
+
+    // Takes arguments in the habits of Unix, too: any combination of Habit values, as unixHabits.
+    // Only command lines are taken so, no texts and option files.
+    void accept(unsigned habits) noexcept { internal::acceptHabits(vocabulary_.get(), habits); }
+
+    // One of these options must be given, and no other of them.
+    void exactlyOne(std::initializer_list<const char*> names) {
+        addRule(internal::RuleKind::exactlyOne, names.begin(), names.size());
+    }
+
+    // At most one of these options may be given.
+    void atMostOne(std::initializer_list<const char*> names) {
+        addRule(internal::RuleKind::atMostOne, names.begin(), names.size());
+    }
+
+    // All of these options must be given, or none.
+    void together(std::initializer_list<const char*> names) {
+        addRule(internal::RuleKind::together, names.begin(), names.size());
+    }
+
+    // Where the option is given, the others must be, too.
+    void needs(const char* name, std::initializer_list<const char*> others) {
+        std::vector<const char*> names{name};
+        names.insert(names.end(), others.begin(), others.end());
+        addRule(internal::RuleKind::needs, names.data(), names.size());
+    }
+
+    // Parses a command line as main has it; see IParser::parseArgsVector. When it goes well, the
+    // variables are written. When it does not, the result says so; nothing is thrown for what users
+    // type. The codes are
+    //   resultOk
+    //   resultVetoed                a check or a handler refused a value
+    //   resultRuleBroken            an argument, a value or a combination of options is wrong
+    //   resultException             a standard exception inside, thrown by a handler perhaps
+    //   resultOptionFileUnreadable  an option file could not be read
+    Result parse(int argc, const char* const* argv) {
+        return Result(internal::parseLine(vocabulary_.get(), argc, argv));
+    }
+
+    // Parses a text of one argument a line; see IParser::parseStream. Otherwise as parse; an
+    // exception takes `into` with it.
     //
     // text  null for an empty text
     // into  what is found is added to what it holds; without one, a new result. It has to come
     //       from this parser. Option files that it names are read again
-    //
-    //     outcome = parser.parseStream(std::getenv("TOOL_OPTIONS"), std::move(outcome.result));
-    ParseOutcome parseStream(const char* text, Result into) {
-        const int code = get()->parseStream(text, into.get());
-        return conclude(code, std::move(into));
+    Result parseStream(const char* text, Result into) {
+        return Result(internal::parseText(vocabulary_.get(), text, into.release()));
     }
-    ParseOutcome parseStream(const char* text) { return parseStream(text, Result(*get())); }
+    Result parseStream(const char* text) {
+        return Result(internal::parseText(vocabulary_.get(), text, nullptr));
+    }
+
+    // Parses a command line, and does what tools do behind that:
+    // - Help and the version are printed to the standard output when they are asked for, whatever
+    //   else is wrong: "--help", perhaps with an option or an action behind it, and "--version".
+    //   Each is left to the tool when that declares an option of this name.
+    // - A failure is printed to the standard error as "sonde: text", control characters made
+    //   visible.
+    //
+    // The exit code (see ExitCode) when the tool should end. Nothing when it should go on: the
+    // variables are then written, and result() tells the rest.
+    [[nodiscard]] std::optional<int> run(int argc, const char* const* argv) {
+        internal::Answer answer;
+        result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
+        print(stdout, answer.output);
+        print(stderr, answer.error);
+        return answer.exitCode;
+    }
+
+    // What the last run found; it must have been called, and answered nothing.
+    const Result& result() const noexcept { return *result_; }
+
+    // The usage line, the summary and what is declared, as run prints it; the help of an option or
+    // an action; of an action with its modifiers. For a name that is not declared, a text that says
+    // so.
+    std::string help() const { return page(internal::Page::whole, nullptr); }
+    std::string help(const char* topic) const { return page(internal::Page::topic, topic); }
+    std::string helpOfAction(const char* action) const {
+        return page(internal::Page::action, action);
+    }
 
 private:
-    static IParser* make(int flags) {
-        IParser* made = nullptr;
-        if (createParser(&made, flags) != resultOk) {
-            throw std::bad_alloc();
+    struct Release {
+        void operator()(internal::Vocabulary* vocabulary) const noexcept {
+            releaseVocabulary(vocabulary);
         }
-        return made;
+    };
+
+    static void print(std::FILE* stream, const std::string& text) {
+        if (!text.empty()) {
+            std::fwrite(text.data(), 1, text.size(), stream);
+            std::fflush(stream);
+        }
     }
 
-    ParseOutcome conclude(int code, Result filled) {
-        return {code, code == resultOk ? "" : get()->getErrorDesc(), std::move(filled)};
+    void addRule(internal::RuleKind kind, const char* const* names, std::size_t count) {
+        internal::addRule(vocabulary_.get(), kind, names, count);
     }
+
+    std::string page(internal::Page page, const char* topic) const {
+        return internal::pageOf(vocabulary_.get(), page, topic);
+    }
+
+    std::unique_ptr<internal::Vocabulary, Release> vocabulary_;
+    std::optional<Result> result_;
 };
 
 }  // namespace zarn_3_3

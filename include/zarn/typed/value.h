@@ -1,4 +1,4 @@
-// The C++ types of values: the type code of each, and how a stored value is read as one.
+// The C++ types of values: the type code of each, and how a value is read as one.
 
 #ifndef ZARN_TYPED_VALUE_H
 #define ZARN_TYPED_VALUE_H
@@ -9,6 +9,9 @@
 #include <string_view>
 #include <type_traits>
 
+#include "zarn/typed/conversion.h"
+#include "zarn/typed/engine.h"
+#include "zarn/typed/numbers.h"
 #include "zarn/value.h"
 
 namespace zarn_3_3 {
@@ -18,63 +21,35 @@ struct Switch {};
 
 namespace internal {
 
-template <das_variant_type_t code>
-using Code = std::integral_constant<das_variant_type_t, code>;
+template <typename T>
+inline constexpr bool isText =
+    std::is_same_v<T, const char*> || std::is_same_v<T, std::string_view> ||
+    std::is_same_v<T, std::string>;
+
+template <typename T>
+constexpr bool canBeValue() {
+    return std::is_same_v<T, Switch> || std::is_same_v<T, bool> || isNumber<T> || isText<T> ||
+           isConverted<T>;
+}
 
 // The code under which an option with values of type T is declared.
 template <typename T>
-struct TypeCode {
-    static_assert(!std::is_same_v<T, T>,
-                  "values are bool, int, unsigned, long, unsigned long, long long, "
-                  "unsigned long long, double, const char*, std::string_view or std::string");
-};
-
-// clang-format off
-template <> struct TypeCode<Switch> : Code<vtNull> {};
-template <> struct TypeCode<bool> : Code<vtBool> {};
-template <> struct TypeCode<int> : Code<vtS32> {};
-template <> struct TypeCode<unsigned> : Code<vtU32> {};
-template <> struct TypeCode<long> : Code<vtS64> {};
-template <> struct TypeCode<unsigned long> : Code<vtU64> {};
-template <> struct TypeCode<long long> : Code<vtS64> {};
-template <> struct TypeCode<unsigned long long> : Code<vtU64> {};
-template <> struct TypeCode<double> : Code<vtDouble> {};
-template <> struct TypeCode<const char*> : Code<vtString> {};
-template <> struct TypeCode<std::string_view> : Code<vtString> {};
-template <> struct TypeCode<std::string> : Code<vtString> {};
-// clang-format on
-
-template <typename T>
-constexpr bool isNegative(T number) {
-    if constexpr (std::is_signed_v<T>) {
-        return number < 0;
-    }
-    return false;
-}
-
-// Whether `number` becomes the same number as a To.
-template <typename To, typename From>
-constexpr bool isKept(From number) {
-    if constexpr (std::is_same_v<To, From>) {
-        return true;  // NaN too
-    } else if constexpr (std::is_same_v<From, double>) {
-        using limits = std::numeric_limits<To>;
-        // The greatest To need not be a double; one more is a power of two.
-        constexpr double end = 2.0 * static_cast<double>(To{1} << (limits::digits - 1));
-        return number >= static_cast<double>(limits::min()) && number < end &&
-               static_cast<double>(static_cast<To>(number)) == number;
-    } else if constexpr (std::is_same_v<To, double>) {
-        const double copy = static_cast<double>(number);
-        return isKept<From>(copy) && static_cast<From>(copy) == number;
+constexpr das_variant_type_t typeCode() {
+    static_assert(canBeValue<T>(),
+                  "no values have this type: an enumeration needs a table zarn::Names<E>, another "
+                  "type of your own a zarn::Conversion<T>");
+    if constexpr (std::is_same_v<T, Switch>) {
+        return vtNull;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return vtBool;
+    } else if constexpr (std::is_floating_point_v<T>) {
+        return vtDouble;
+    } else if constexpr (isNumber<T>) {
+        constexpr bool isWide = sizeof(T) > sizeof(int);
+        return std::is_signed_v<T> ? (isWide ? vtS64 : vtS32) : (isWide ? vtU64 : vtU32);
     } else {
-        const To copy = static_cast<To>(number);
-        return static_cast<From>(copy) == number && isNegative(copy) == isNegative(number);
+        return vtString;
     }
-}
-
-template <typename To, typename From>
-std::optional<To> numberAs(From number) {
-    return isKept<To>(number) ? std::optional<To>(static_cast<To>(number)) : std::nullopt;
 }
 
 template <typename T>
@@ -94,13 +69,44 @@ std::optional<T> numberOf(const variant_t& value) {
     }
 }
 
+// What get says. When it is nothing, and a reason is known, `*reason` receives it.
+template <typename T>
+std::optional<T> read(const Value& value, std::string* reason) {
+    if constexpr (isText<T>) {
+        return value.text != nullptr ? std::optional<T>(value.text) : std::nullopt;
+    } else if constexpr (isConverted<T>) {
+        std::string ignored;
+        return value.text != nullptr
+                   ? Conversion<T>::read(value.text, reason != nullptr ? *reason : ignored)
+                   : std::nullopt;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return value.text != nullptr ? numberOf<bool>(value.value) : true;
+    } else {
+        return numberOf<T>(value.value);
+    }
+}
+
+// The value as settings of the plain interface take it.
+template <typename T>
+variant_t plainValue(const T& value) {
+    if constexpr (std::is_same_v<T, std::string_view>) {
+        return variant_t(std::string(value));
+    } else if constexpr (isConverted<T>) {
+        return variant_t(std::string(Conversion<T>::write(value)));
+    } else if constexpr (isNumber<T>) {
+        return plainNumber(value);
+    } else {
+        return variant_t(value);
+    }
+}
+
 }  // namespace internal
 
 // The value as a T, when nothing is lost by it.
 //
-// bool, int, unsigned, long, unsigned long, long long, unsigned long long, double: a number of
-// whatever type, if T holds exactly that number. 3 reads as a double and 3.0 as an int; 3.5, or -1
-// as an unsigned, do not. A boolean counts as 0 or 1. An occurrence without a value, as of a
+// bool, float, double and integers of every width: a number of whatever type, if T holds exactly
+// that number; a float holds what lies in its range. 3 reads as a double and 3.0 as an int; 3.5,
+// or -1 as an unsigned, do not. A boolean counts as 0 or 1. An occurrence without a value, as of a
 // switch, reads as the bool true.
 //
 // const char*, std::string_view, std::string: the text of a value of whatever type, as it was typed
@@ -108,22 +114,16 @@ std::optional<T> numberOf(const variant_t& value) {
 // long as `value.text`: until the result is destroyed, or in a handler during the call. Both end
 // with a NUL.
 //
+// What has a Conversion: what that makes of the text.
+//
 // std::nullopt: not found, or not readable as a T. Texts are not read as numbers.
 //
-// Throws std::bad_alloc for std::string, and nothing else.
+// Throws std::bad_alloc and what a Conversion of your own throws.
 template <typename T>
 std::optional<T> get(const Value& value) {
     static_assert(!std::is_same_v<T, Switch>, "a switch has no value: ask isGiven, or for a bool");
-    if (value.status != statusFound) {
-        return std::nullopt;
-    }
-    if constexpr (internal::TypeCode<T>::value == vtString) {
-        return value.text != nullptr ? std::optional<T>(value.text) : std::nullopt;
-    } else if constexpr (std::is_same_v<T, bool>) {
-        return value.text != nullptr ? internal::numberOf<bool>(value.value) : true;
-    } else {
-        return internal::numberOf<T>(value.value);
-    }
+    static_assert(internal::canBeValue<T>(), "no values have this type");
+    return value.status == statusFound ? internal::read<T>(value, nullptr) : std::nullopt;
 }
 
 }  // namespace zarn_3_3

@@ -1,0 +1,85 @@
+// What a value of an option is asked beyond its type.
+
+#ifndef ZARN_TYPED_CHECKS_H
+#define ZARN_TYPED_CHECKS_H
+
+#include <sys/stat.h>
+
+#include <limits>
+#include <optional>
+#include <string>
+#include <utility>
+
+#include "zarn/typed/engine.h"
+#include "zarn/typed/value.h"
+
+namespace zarn_3_3::internal {
+
+// That the value can be read as a T, which the plain interface does not see to.
+template <typename T>
+class Readable final : public Check {
+public:
+    bool holds(const Value& value, std::string& reason) const override {
+        const bool isRead = read<T>(value, &reason).has_value();
+        if constexpr (isNumber<T>) {
+            // Streams read "-1" as the greatest of an unsigned type.
+            const bool isNegated =
+                std::is_unsigned_v<T> && value.text != nullptr && *value.text == '-';
+            if (!isRead || isNegated) {
+                using limits = std::numeric_limits<T>;
+                reason = boundsText(plainNumber(limits::lowest()), plainNumber(limits::max()));
+                return false;
+            }
+        }
+        return isRead;
+    }
+};
+
+// That predicate(value as a T) is true.
+template <typename T, typename Predicate>
+class Holds final : public Check {
+public:
+    Holds(Predicate predicate, std::string reason)
+        : predicate_(std::move(predicate)), reason_(std::move(reason)) {}
+
+    bool holds(const Value& value, std::string& reason) const override {
+        const std::optional<T> asked = read<T>(value, &reason);
+        if (asked && !predicate_(*asked)) {
+            reason = reason_;
+            return false;
+        }
+        return asked.has_value();
+    }
+
+private:
+    Predicate predicate_;
+    std::string reason_;
+};
+
+// That the text is the path of an existing file, or folder. What a link leads to counts.
+class Exists final : public Check {
+public:
+    enum class Kind { file, folder };
+
+    explicit Exists(Kind kind) : kind_(kind) {}
+
+    bool holds(const Value& value, std::string& reason) const override {
+        struct stat found {};
+        const bool isThere = value.text != nullptr && stat(value.text, &found) == 0;
+        if (isThere && S_ISDIR(found.st_mode) == (kind_ == Kind::folder)) {
+            return true;
+        }
+        reason =
+            kind_ == Kind::folder ? "it must be an existing folder" : "it must be an existing file";
+        return false;
+    }
+
+    bool isLasting() const override { return false; }
+
+private:
+    Kind kind_;
+};
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_TYPED_CHECKS_H

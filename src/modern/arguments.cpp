@@ -1,0 +1,204 @@
+#include "modern/arguments.h"
+
+#include "modern/messages.h"
+#include "parser/parse_driver.h"
+#include "text/cut_argument.h"
+#include "text/joined.h"
+#include "zarn/typed/parser.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+bool isAtArgument(CommandLine line, int index) {
+    return index < line.argc && line.argv[index] != nullptr;
+}
+
+// The item whose value the next argument is; null when it is none.
+const ItemRecord* takesNext(const Vocabulary& vocabulary, const std::string& argument) {
+    const CutArgument cut = cutArgument(argument);
+    if (!cut.isOption || !cut.value.empty()) {
+        return nullptr;
+    }
+    const ItemRecord* const item = vocabulary.resolve(cut.name);
+    return item != nullptr && item->takesValue() ? item : nullptr;
+}
+
+bool hasSign(const ItemRecord& item) {
+    return item.type == vtS32 || item.type == vtS64 || item.type == vtDouble;
+}
+
+bool isDigit(char c) { return c >= '0' && c <= '9'; }
+
+bool looksNegative(const std::string& text) {
+    const std::size_t first = text.size() > 1 && text[1] == '.' ? 2 : 1;
+    return text.size() > first && text[0] == '-' && isDigit(text[first]);
+}
+
+// Takes the arguments of one command line.
+class Adapting {
+public:
+    explicit Adapting(const Vocabulary& vocabulary) : vocabulary_(vocabulary) {}
+
+    void add(const std::string& argument, const ItemRecord* waiting) {
+        if (waiting != nullptr && isValue(argument, hasSign(*waiting))) {
+            join(argument);
+        } else if (isPositional(argument)) {
+            const std::string& name = vocabulary_.positionals().front()->primaryName();
+            words_.push_back({joined({"--", name, "=", argument}), argument});
+        } else if (!addLetters(argument)) {
+            words_.push_back({argument, ""});
+        }
+    }
+
+    std::vector<Word> take() { return std::move(words_); }
+    const std::string& last() const { return words_.back().text; }
+
+private:
+    bool has(Habit habit) const { return (vocabulary_.habits() & habit) != 0; }
+
+    bool isName(const std::string& argument) const {
+        return vocabulary_.isBeginning(cutArgument(argument).name);
+    }
+
+    // Whether the argument, though it begins with a dash, is a value where numbers may stand.
+    bool isValue(const std::string& argument, bool isForNumbers) const {
+        if (argument == "-") {
+            return has(loneDash);
+        }
+        return has(negativeNumbers) && isForNumbers && looksNegative(argument) && !isName(argument);
+    }
+
+    bool isPositional(const std::string& argument) const {
+        const auto& items = vocabulary_.positionals();
+        bool isForNumbers = false;
+        for (const ItemRecord* const item : items) {
+            isForNumbers = isForNumbers || hasSign(*item);
+        }
+        return !items.empty() && isValue(argument, isForNumbers);
+    }
+
+    // The argument is the value of the one before it.
+    void join(const std::string& argument) {
+        Word& option = words_.back();
+        option.typed = joined({option.typed.empty() ? option.text : option.typed, " ", argument});
+        option.text += option.text.back() == '=' ? argument : "=" + argument;
+    }
+
+    // "-xvf" and "-k2". False when the argument is neither.
+    bool addLetters(const std::string& argument) {
+        const bool isShort = argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
+        if (!isShort || isName(argument)) {
+            return false;
+        }
+        std::vector<Word> letters;
+        std::string_view rest = std::string_view(argument).substr(1);
+        while (!rest.empty()) {
+            const std::string_view letter = rest.substr(0, 1);
+            const ItemRecord* const item = vocabulary_.find(letter);
+            rest.remove_prefix(1);
+            if (item == nullptr || (!letters.empty() && !has(bundles))) {
+                return false;
+            }
+            std::string text = joined({"-", letter});
+            if (item->takesValue() && !rest.empty()) {
+                if (rest[0] != '=' && !has(gluedValues)) {
+                    return false;
+                }
+                text.append("=").append(rest.substr(rest[0] == '=' ? 1 : 0));
+                rest = {};
+            } else if (!rest.empty() && !has(bundles)) {
+                return false;
+            }
+            letters.push_back({text, argument});
+        }
+        words_.insert(words_.end(), letters.begin(), letters.end());
+        return true;
+    }
+
+    const Vocabulary& vocabulary_;
+    std::vector<Word> words_;
+};
+
+}  // namespace
+
+bool hasDash(const std::string& argument) { return getDashLength(argument, 0) != 0; }
+
+CutArgument cutArgument(const std::string& argument) {
+    CutArgument cut;
+    cut.isOption = argument.size() > 1 && hasDash(argument);
+    if (cut.isOption) {
+        splitOptionValue(argument, &cut.name, &cut.value);
+    }
+    return cut;
+}
+
+OptionWalk::OptionWalk(const Vocabulary& vocabulary, CommandLine line)
+    : vocabulary_(vocabulary), line_(line) {}
+
+bool OptionWalk::isAtEnd() const {
+    if (!isAtArgument(line_, index_) || argument() == endOfOptions) {
+        return true;
+    }
+    return vocabulary_.has(flagPositionalTakesRest) && !vocabulary_.positionals().empty() &&
+           waiting_ == nullptr && !hasDash(argument());
+}
+
+void OptionWalk::next(const std::string& parsed) {
+    waiting_ = takesNext(vocabulary_, parsed);
+    ++index_;
+}
+
+std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
+    const auto& positionals = vocabulary.positionals();
+    OptionWalk walk(vocabulary, line);
+    for (; !walk.isAtEnd(); walk.next(walk.argument())) {
+        const std::string argument = walk.argument();
+        if (argument.empty() && walk.waiting() == nullptr && !positionals.empty()) {
+            return messages::emptyArgument(positionals.front()->primaryName());
+        }
+        const ItemRecord* const item = takesNext(vocabulary, argument);
+        const std::string_view name = cutArgument(argument).name;
+        const bool isCut = name.data() + name.size() != argument.data() + argument.size();
+        if (item != nullptr && isCut) {
+            return messages::emptyValue(item->primaryName(), argument);
+        }
+    }
+    const bool isTaken = !positionals.empty() && (vocabulary.has(flagPositionalBehindTerminator) ||
+                                                  vocabulary.has(flagPositionalTakesRest));
+    for (int i = walk.index(); isTaken && isAtArgument(line, i); ++i) {
+        if (*line.argv[i] == '\0') {
+            return messages::emptyArgument(positionals.front()->primaryName());
+        }
+    }
+    return "";
+}
+
+std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line) {
+    Adapting adapting(vocabulary);
+    OptionWalk walk(vocabulary, line);
+    for (; !walk.isAtEnd(); walk.next(adapting.last())) {
+        adapting.add(walk.argument(), walk.waiting());
+    }
+    std::vector<Word> words = adapting.take();
+    for (int i = walk.index(); isAtArgument(line, i); ++i) {
+        words.push_back({line.argv[i], ""});
+    }
+    return words;
+}
+
+void quoteTyped(std::string& message, const std::vector<Word>& words) {
+    for (const Word& word : words) {
+        for (const std::string_view before : {"argument '", "argument: '"}) {
+            const std::size_t at = message.find(joined({before, word.text, "'"}));
+            if (at == std::string::npos) {
+                continue;
+            }
+            if (!word.typed.empty()) {
+                message.replace(at + before.size(), word.text.size(), word.typed);
+            }
+            return;
+        }
+    }
+}
+
+}  // namespace zarn_3_3::internal

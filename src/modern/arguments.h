@@ -1,0 +1,73 @@
+// The arguments in front of a parse: empty ones, and the habits of Unix.
+
+#ifndef ZARN_MODERN_ARGUMENTS_H
+#define ZARN_MODERN_ARGUMENTS_H
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "modern/vocabulary.h"
+
+namespace zarn_3_3::internal {
+
+// A command line as main has it.
+struct CommandLine {
+    int argc;
+    const char* const* argv;
+};
+
+// An argument as it is parsed, and, where that differs, as it was typed.
+struct Word {
+    std::string text;
+    std::string typed;
+};
+
+// An argument cut as the parse cuts it. `isOption` is false for what has no dash in front.
+struct CutArgument {
+    std::string_view name;
+    std::string_view value;
+    bool isOption = false;
+};
+
+CutArgument cutArgument(const std::string& argument);
+
+// Whether the argument begins with any of the dashes.
+bool hasDash(const std::string& argument);
+
+// Goes through the arguments that may be options: up to the terminator "--", or to the first that a
+// positional item takes with all the rest.
+class OptionWalk {
+public:
+    OptionWalk(const Vocabulary& vocabulary, CommandLine line);
+
+    bool isAtEnd() const;
+    int index() const { return index_; }
+    std::string argument() const { return line_.argv[index_]; }
+
+    // The item of which the argument is the value, as far as it may be one; or null.
+    const ItemRecord* waiting() const { return waiting_; }
+
+    // `parsed`: the argument, or what has been made of it.
+    void next(const std::string& parsed);
+
+private:
+    const Vocabulary& vocabulary_;
+    CommandLine line_;
+    int index_ = 1;
+    const ItemRecord* waiting_ = nullptr;
+};
+
+// What is wrong with the first empty argument that would vanish, or would have the next argument
+// taken for a value. Empty when there is none.
+std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line);
+
+// The arguments behind the first, taken apart by the habits that the vocabulary accepts.
+std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);
+
+// Has the message quote what was typed.
+void quoteTyped(std::string& message, const std::vector<Word>& words);
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_MODERN_ARGUMENTS_H

@@ -1,0 +1,155 @@
+#include "modern/behind_parse.h"
+
+#include <memory>
+#include <string_view>
+
+#include "modern/messages.h"
+#include "text/joined.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+// "--name=text"; of a boolean "--name" or "--no-name". Empty for a text that is no boolean.
+std::string argumentFor(const ItemRecord& item, std::string_view text) {
+    if (item.type != vtBool) {
+        return joined({"--", item.primaryName(), "=", text});
+    }
+    for (const std::string_view yes : {"1", "true", "yes", "on"}) {
+        if (text == yes) {
+            return joined({"--", item.primaryName()});
+        }
+    }
+    for (const std::string_view no : {"0", "false", "no", "off"}) {
+        if (text == no) {
+            return joined({"--no-", item.primaryName()});
+        }
+    }
+    return "";
+}
+
+// The value of the variable of an item that was not given; null when there is none.
+const char* variableFor(const ItemRecord& item, const StoredOutcome& outcome) {
+    if (item.environment.empty() || outcome.origin(item) > Origin::byDefault) {
+        return nullptr;
+    }
+    const char* const text = item.readVariable(item.environment.c_str());
+    return text == nullptr || *text == '\0' ? nullptr : text;
+}
+
+int takeVariable(const ItemRecord& item,
+                 const char* text,
+                 StoredOutcome& outcome,
+                 std::string& error) {
+    const std::string assignment = joined({item.environment, "=", text});
+    const std::string argument = argumentFor(item, text);
+    if (argument.empty()) {
+        error = messages::invalidVariable(assignment, messages::noBoolean);
+        return resultRuleBroken;
+    }
+    Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};
+    const int code = outcome.vocabulary().parseAside(item, argument, *aside.result, error);
+    outcome.asides().push_back(std::move(aside));
+    const std::size_t quoted = error.find(argument);
+    if (quoted != std::string::npos) {
+        error.replace(quoted, argument.size(), assignment);
+    }
+    return code;
+}
+
+// The action of a modifier that was given; null when none was.
+const ItemRecord* actionGiven(const StoredOutcome& outcome,
+                              Vocabulary& vocabulary,
+                              const ItemRecord& modifier) {
+    for (const std::string& name : modifier.actions) {
+        const ItemRecord* const action = vocabulary.find(name);
+        if (action != nullptr && outcome.isGiven(name)) {
+            return action;
+        }
+    }
+    return nullptr;
+}
+
+std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
+    if (item.role == Role::positional) {
+        return messages::argumentRequired(item.called());
+    }
+    if (item.actions.empty()) {
+        return messages::optionRequired(item.called());
+    }
+    const ItemRecord* const action = actionGiven(outcome, outcome.vocabulary(), item);
+    return action == nullptr ? "" : messages::actionRequires(action->called(), item.called());
+}
+
+// The options of a rule, as messages call them.
+struct RuleState {
+    std::vector<std::string> given;
+    std::vector<std::string> others;
+    std::string all;
+};
+
+RuleState stateOf(const Rule& rule, StoredOutcome& outcome) {
+    RuleState state;
+    for (const std::string& name : rule.names) {
+        const ItemRecord* const item = outcome.vocabulary().find(name);
+        const std::string called = item == nullptr ? typedName(name) : item->called();
+        state.all += joined({state.all.empty() ? "'" : ", '", called, "'"});
+        (outcome.isGiven(name) ? state.given : state.others).push_back(called);
+    }
+    return state;
+}
+
+// Why the rule is broken; empty when it is not.
+std::string broken(const Rule& rule, StoredOutcome& outcome) {
+    const RuleState state = stateOf(rule, outcome);
+    const bool wantsOne = rule.kind == RuleKind::exactlyOne || rule.kind == RuleKind::atMostOne;
+    if (wantsOne && state.given.size() > 1) {
+        return messages::optionsExclude(state.given[0], state.given[1]);
+    }
+    if (rule.kind == RuleKind::exactlyOne && state.given.empty()) {
+        return messages::oneRequired(state.all);
+    }
+    const bool isAsked =
+        rule.kind == RuleKind::needs ? outcome.isGiven(rule.names[0]) : !state.given.empty();
+    if (!wantsOne && isAsked && !state.others.empty()) {
+        return messages::optionRequires(state.given[0], state.others[0]);
+    }
+    return "";
+}
+
+}  // namespace
+
+int readEnvironment(StoredOutcome& outcome, std::string& error) {
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (const char* const text = variableFor(*item, outcome)) {
+            const int code = takeVariable(*item, text, outcome, error);
+            if (code != resultOk) {
+                return code;
+            }
+        }
+    }
+    return resultOk;
+}
+
+int checkRequired(StoredOutcome& outcome, std::string& error) {
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->isRequired && outcome.origin(*item) == Origin::absent) {
+            error = missing(*item, outcome);
+        }
+        if (!error.empty()) {
+            return resultRuleBroken;
+        }
+    }
+    return resultOk;
+}
+
+int checkRules(StoredOutcome& outcome, std::string& error) {
+    for (const Rule& rule : outcome.vocabulary().rules()) {
+        error = broken(rule, outcome);
+        if (!error.empty()) {
+            return resultRuleBroken;
+        }
+    }
+    return resultOk;
+}
+
+}  // namespace zarn_3_3::internal

@@ -1,0 +1,244 @@
+// The exported functions of the modern face.
+
+#include "zarn/typed/engine.h"
+
+#include <cstddef>
+#include <iterator>
+#include <memory>
+#include <stdexcept>
+#include <utility>
+
+#include "modern/arguments.h"
+#include "modern/behind_parse.h"
+#include "modern/messages.h"
+#include "modern/outcome.h"
+#include "modern/pages.h"
+#include "modern/vocabulary.h"
+#include "parser/messages.h"
+#include "text/number_text.h"
+#include "zarn/typed/parser.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+StoredOutcome& stored(Outcome* outcome) { return static_cast<StoredOutcome&>(*outcome); }
+const StoredOutcome& stored(const Outcome* outcome) {
+    return static_cast<const StoredOutcome&>(*outcome);
+}
+
+bool isAloneGiven(StoredOutcome& outcome) {
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->isAlone && outcome.origin(*item) > Origin::byDefault) {
+            return true;
+        }
+    }
+    return false;
+}
+
+// What there is to say when the plain parse has ended with this code.
+void conclude(StoredOutcome& outcome, int code) {
+    Vocabulary& vocabulary = outcome.vocabulary();
+    outcome.asides() = vocabulary.endParse();
+    std::string error;
+    if (code != resultOk) {
+        error = vocabulary.explained(vocabulary.plain().getErrorDesc());
+    }
+    const bool isAlone = isAloneGiven(outcome);
+    if (isAlone && code == resultRuleBroken && error == messages::noAction) {
+        code = resultOk;
+    }
+    if (code == resultOk) {
+        code = readEnvironment(outcome, error);
+    }
+    if (code == resultOk && !isAlone) {
+        code = checkRequired(outcome, error);
+    }
+    if (code == resultOk && !isAlone) {
+        code = checkRules(outcome, error);
+    }
+    outcome.end(code, std::move(error));
+}
+
+// In two steps, of which only the first can fail.
+void writeTargets(StoredOutcome& outcome) {
+    std::vector<Value> all;
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->target == nullptr) {
+            continue;
+        }
+        item->target->drop();
+        all.clear();
+        Value last;
+        const Origin origin = outcome.find(*item, last, &all);
+        if (!all.empty() && !(origin == Origin::byDefault && item->showsTarget)) {
+            item->target->take(all.data(), all.size(), last);
+        }
+    }
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->target != nullptr) {
+            item->target->write();
+        }
+    }
+}
+
+void parseAdapted(StoredOutcome& outcome, CommandLine line) {
+    Vocabulary& vocabulary = outcome.vocabulary();
+    if (line.argv != nullptr) {
+        const std::string wrong = wrongEmptyArgument(vocabulary, line);
+        if (!wrong.empty()) {
+            outcome.end(resultRuleBroken, wrong);
+            return;
+        }
+    }
+    vocabulary.beginParse(outcome.result(), {});
+    conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
+}
+
+// Parses the line without writing variables.
+std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLine line) {
+    vocabulary.settle();
+    auto outcome = std::make_unique<StoredOutcome>(vocabulary);
+    if (vocabulary.habits() == 0 || line.argc < 2 || line.argv == nullptr) {
+        parseAdapted(*outcome, line);
+        return outcome;
+    }
+    const std::vector<Word> words = adaptArguments(vocabulary, line);
+    std::vector<const char*> adapted{line.argv[0]};
+    for (const Word& word : words) {
+        adapted.push_back(word.text.c_str());
+    }
+    parseAdapted(*outcome, {static_cast<int>(adapted.size()), adapted.data()});
+    if (outcome->code != resultOk) {
+        std::string error = outcome->text;
+        quoteTyped(error, words);
+        outcome->end(outcome->code, std::move(error));
+    }
+    return outcome;
+}
+
+int exitCodeFor(int code) {
+    switch (code) {
+        case resultOptionFileUnreadable:
+            return exitUnreadable;
+        case resultException:
+            return exitInternal;
+        default:
+            return exitUsage;
+    }
+}
+
+std::string textOfNumber(const variant_t& number) {
+    switch (number.type()) {
+        case vtDouble:
+            return textFromNumber(number.get<double>());
+        case vtU32:
+        case vtU64:
+            return textFromNumber(number.get<unsigned long long>());
+        case vtString:
+            return number.get<std::string>();
+        default:
+            return textFromNumber(number.get<long long>());
+    }
+}
+
+}  // namespace
+
+void mistake(const char* names, const std::string& what) {
+    throw std::logic_error(messages::mistakeAt(names, what));
+}
+
+std::string boundsText(const variant_t& least, const variant_t& greatest) {
+    if (greatest.type() == vtNull) {
+        return messages::numberAtLeast(textOfNumber(least));
+    }
+    if (least.type() == vtNull) {
+        return messages::numberAtMost(textOfNumber(greatest));
+    }
+    return messages::numberBetween(textOfNumber(least), textOfNumber(greatest));
+}
+
+Vocabulary* createVocabulary(const Tool& tool, int flags) { return new Vocabulary(tool, flags); }
+
+void releaseVocabulary(Vocabulary* vocabulary) noexcept { vocabulary->release(); }
+
+IParser* plainParser(Vocabulary* vocabulary) noexcept { return &vocabulary->plain(); }
+
+void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription& item) {
+    vocabulary->declare(section, item);
+}
+
+void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept { vocabulary->accept(habits); }
+
+void addRule(Vocabulary* vocabulary, RuleKind kind, const char* const* names, std::size_t count) {
+    vocabulary->add({
+        kind, {names, names + count}
+    });
+}
+
+std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic) {
+    return pageOf(*vocabulary, nameOfTool(*vocabulary, {0, nullptr}), page, topic);
+}
+
+Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
+    auto outcome = parseUnwritten(*vocabulary, {argc, argv});
+    if (outcome->code == resultOk) {
+        writeTargets(*outcome);
+    }
+    return outcome.release();
+}
+
+Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
+    std::unique_ptr<StoredOutcome> outcome(into != nullptr ? &stored(into)
+                                                           : new StoredOutcome(*vocabulary));
+    vocabulary->settle();
+    vocabulary->beginParse(outcome->result(), std::move(outcome->asides()));
+    conclude(*outcome, vocabulary->plain().parseStream(text, outcome->plain));
+    if (outcome->code == resultOk) {
+        writeTargets(*outcome);
+    }
+    return outcome.release();
+}
+
+Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answer& answer) {
+    const CommandLine line{argc, argv};
+    declareAnswers(*vocabulary);
+    const std::string tool = nameOfTool(*vocabulary, line);
+    std::optional<std::string> output = findAnswer(*vocabulary, tool, line);
+    auto outcome =
+        output ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
+    if (!output) {
+        output = findAnswer(*vocabulary, tool, outcome->result());
+    }
+    if (output) {
+        answer.output = *output;
+        answer.exitCode = exitAnswered;
+    } else if (outcome->code != resultOk) {
+        answer.error = joined({tool, ": ", visible(outcome->text), "\n"});
+        answer.exitCode = exitCodeFor(outcome->code);
+    } else {
+        writeTargets(*outcome);
+    }
+    return outcome.release();
+}
+
+void releaseOutcome(Outcome* outcome) noexcept { delete &stored(outcome); }
+
+Origin findValues(const Outcome* outcome, const char* name, Value& last, std::vector<Value>* all) {
+    return stored(outcome).find(name, last, all);
+}
+
+std::vector<Occurrence> findOccurrences(const Outcome* outcome,
+                                        const char* const* names,
+                                        std::size_t count) {
+    std::map<int, Occurrence> ordered;
+    for (std::size_t i = 0; i < count; ++i) {
+        stored(outcome).addOccurrences(names[i], ordered);
+    }
+    std::vector<Occurrence> found;
+    for (auto& [position, occurrence] : ordered) {
+        found.push_back(std::move(occurrence));
+    }
+    return found;
+}
+
+}  // namespace zarn_3_3::internal

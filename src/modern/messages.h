@@ -1,0 +1,102 @@
+// What users are told by the modern face alone, and what authors are told of their mistakes.
+
+#ifndef ZARN_MODERN_MESSAGES_H
+#define ZARN_MODERN_MESSAGES_H
+
+#include <string>
+#include <string_view>
+
+#include "text/joined.h"
+
+namespace zarn_3_3::internal::messages {
+
+// Reasons, which stand behind the message that a value was refused.
+
+inline std::string numberBetween(std::string_view least, std::string_view greatest) {
+    return joined({"it must be between ", least, " and ", greatest});
+}
+inline std::string numberAtLeast(std::string_view least) {
+    return joined({"it must be at least ", least});
+}
+inline std::string numberAtMost(std::string_view greatest) {
+    return joined({"it must be at most ", greatest});
+}
+inline std::string wholeNumberOf(std::string_view unit) {
+    return joined({"it must be a whole number of ", unit});
+}
+constexpr const char* noDuration = "it must be a number with a unit, as in 250ms, 10s, 5m or 1.5h";
+constexpr const char* noBytes = "it must be a number of bytes, as in 4096, 64K, 2MiB or 1.5GB";
+constexpr const char* noBoolean = "it must be 1, true, yes, on, 0, false, no or off";
+
+inline std::string withReason(std::string_view message, std::string_view reason) {
+    return joined({message, ": ", reason});
+}
+
+// Command lines that the plain interface would take, or take otherwise.
+
+inline std::string unexpectedArgument(std::string_view argument) {
+    return joined({"Unknown option: ", argument});
+}
+inline std::string emptyArgument(std::string_view option) {
+    return joined({"Option '", option, "' received an empty argument"});
+}
+inline std::string emptyValue(std::string_view option, std::string_view argument) {
+    return joined({"Option '", option, "' requires a value in argument: '", argument, "'"});
+}
+inline std::string invalidVariable(std::string_view assignment, std::string_view reason) {
+    return joined({"Value validation problem in argument '", assignment, "': ", reason});
+}
+
+// Rules.
+
+inline std::string optionRequired(std::string_view option) {
+    return joined({"Option '", option, "' is required"});
+}
+inline std::string argumentRequired(std::string_view argument) {
+    return joined({"Argument '", argument, "' is required"});
+}
+inline std::string actionRequires(std::string_view action, std::string_view option) {
+    return joined({"Action '", action, "' requires option '", option, "'"});
+}
+inline std::string oneRequired(std::string_view options) {
+    return joined({"One of ", options, " is required"});
+}
+inline std::string optionsExclude(std::string_view option, std::string_view other) {
+    return joined({"Option '", option, "' does not go with option '", other, "'"});
+}
+inline std::string optionRequires(std::string_view option, std::string_view other) {
+    return joined({"Option '", option, "' requires option '", other, "'"});
+}
+
+// Mistakes of the author.
+
+inline std::string mistakeAt(std::string_view names, std::string_view what) {
+    return joined({"zarn: '", names, "': ", what});
+}
+constexpr const char* nameEmpty = "a name is empty";
+inline std::string nameUntypable(std::string_view name) {
+    return joined({"the name '", name, "' begins with a dash, or holds a blank or '='"});
+}
+constexpr const char* tooManyNames = "there are more than three names";
+inline std::string thirdNameLong(std::string_view name) {
+    return joined({"the third name, '", name, "', is longer than two bytes"});
+}
+inline std::string nameTaken(std::string_view name, std::string_view owner) {
+    return joined({"the name '", name, "' is taken by '", owner, "'"});
+}
+inline std::string variableTaken(std::string_view owner) {
+    return joined({"its variable is that of '", owner, "'"});
+}
+constexpr const char* noVariable = "byDefault() shows a variable, and into() names none";
+constexpr const char* defaultNotAllowed = "its default is not among its allowed values";
+inline std::string defaultRefused(std::string_view reason) {
+    return joined({"its default is refused: ", reason});
+}
+inline std::string noSuchAction(std::string_view action) {
+    return joined({"no action has the primary name '", action, "'"});
+}
+constexpr const char* noSuchOption = "no option of this name is declared";
+
+}  // namespace zarn_3_3::internal::messages
+
+#endif  // ZARN_MODERN_MESSAGES_H

@@ -4,8 +4,6 @@
 #ifndef ZARN_CHECKSUMS_ACTIONS_H
 #define ZARN_CHECKSUMS_ACTIONS_H
 
-#include <zarn/zarn.h>
-
 #include "command_line.h"
 #include "console.h"
 #include "exit_code.h"
@@ -15,7 +13,6 @@ namespace checksums {
 ExitCode createManifest(const Command& command, const Results& results);
 ExitCode verifyManifest(const Command& command, const Results& results);
 ExitCode compareManifests(const Command& command, const Results& results);
-ExitCode showHelp(const Command& command, zarn::IParser& parser);
 
 }  // namespace checksums
 

@@ -1,120 +1,109 @@
 #include "command_line.h"
 
-#include <string_view>
+#include <zarn/typed.h>
+
+#include <filesystem>
+#include <system_error>
 
 #include "console.h"
-#include "value_checks.h"
-#include "vocabulary.h"
+#include "exit_code.h"
+
+template <>
+struct zarn::Names<checksums::Algorithm> {
+    static constexpr zarn::Name<checksums::Algorithm> table[] = {
+        {"crc32",   checksums::Algorithm::crc32  },
+        {"adler32", checksums::Algorithm::adler32},
+    };
+};
 
 namespace checksums {
 namespace {
 
-// The parser warns of the deprecated value and hands it on as it is.
-Algorithm algorithmOf(std::string_view name) {
-    return name == deprecatedCrc ? Algorithm::crc32
-                                 : algorithmNamed(name).value_or(Algorithm::crc32);
+using zarn::action;
+using zarn::modifier;
+using zarn::option;
+using zarn::positional;
+
+bool isThere(const std::string& file) {
+    std::error_code error;
+    return std::filesystem::exists(file, error);
 }
 
-// Of an option given twice the first counts, so that the command line overrules option files.
-Command commandOf(zarn::IParseResult& result) {
-    Command command;
-    command.create = zarn::isGiven(result, names::create);
-    command.verify = zarn::isGiven(result, names::verify);
-    command.compare = zarn::isGiven(result, names::compare);
-    command.help = zarn::isGiven(result, names::help);
-    command.hidden = zarn::isGiven(result, names::hidden);
-    command.ignoreMissing = zarn::isGiven(result, names::ignoreMissing);
-    command.quiet = zarn::isGiven(result, names::quiet);
-    command.color = zarn::get<bool>(result, names::color);
-    command.algorithm = algorithmOf(zarn::valueOr(result, names::algorithm, ""));
-    command.manifest = zarn::valueOr(result, names::manifest, "");
-    command.names = zarn::values<std::string>(result, names::files);
-    Reading& reading = command.reading;
-    reading.jobs = zarn::valueOr(result, names::jobs, reading.jobs);
-    reading.bufferSize = zarn::valueOr(result, names::bufferSize, reading.bufferSize);
-    return command;
+void declareActions(zarn::Parser& parser, Command& command) {
+    parser.declare({
+        action("create,c", "Sum the files, and those in the folders, and write the manifest.")
+            .into(command.create),
+        action("verify,v", "Tell which files still are as the manifest says.").into(command.verify),
+        action("compare", "Tell how the second of two manifests differs.").into(command.compare),
+    });
+    parser->allowSimultaneousActions({"create", "verify"});
 }
 
-// What is wrong with the names for the actions given; null when nothing is.
-const char* whyNamesAreWrong(const Command& command) {
-    const std::size_t count = command.names.size();
-    if (command.create && count == 0) {
-        return "Action '-create' needs the files and folders to sum.";
+void declareOptions(zarn::Parser& parser, Command& command) {
+    parser.declare({
+        modifier<std::string>("manifest,m", "create,verify", "The file that holds the checksums.")
+            .into(command.manifest)
+            .byDefault(),
+        modifier<Algorithm>("algorithm,a", "create", "The kind of checksum.")
+            .deprecate("crc", Algorithm::crc32)
+            .into(command.algorithm)
+            .byDefault(),
+        modifier("ignore-missing,i", "verify", "Do not count files that are not there.")
+            .into(command.ignoreMissing),
+        modifier("quiet,q", "create,verify,compare", "Tell of differences and problems only.")
+            .into(command.quiet),
+        // No default: when nothing is said, the tool looks whether it writes to a terminal.
+        option<bool>("color", "Paint the results.").into(command.color),
+        option<unsigned>("jobs,j", "How many files are read at a time.")
+            .between(1, 64)
+            .into(command.reading.jobs)
+            .fromEnvironment("CHECKSUMS_JOBS")
+            .byDefault(),
+        positional("file", "The files and folders.")
+            .check(isThere, "there is no such file or folder (options stand before the first file)")
+            .named("FILE")
+            .into(command.names),
+    });
+    parser.declare(
+        "zarn_hidden:For experiments.",
+        {modifier<zarn::Bytes>("buffer-size", "create,verify", "How many bytes are read at a time.")
+             .between(zarn::Bytes{1}, zarn::Bytes{1 << 24})
+             .into(command.reading.bufferSize)});
+    parser.readOptionFiles("A file of further arguments, one a line.");
+    parser.needs("create", {"file"});
+    parser.needs("compare", {"file"});
+}
+
+// What is wrong with a command line that keeps all the rules; null when nothing is.
+const char* whyNotDone(const Command& command) {
+    if (!command.create && !command.verify && !command.compare) {
+        return "No action defined.";
     }
-    if (command.verify && !command.create && count != 0) {
-        return "Action '-verify' checks the files of the manifest (option '-manifest') and takes "
+    if (command.verify && !command.create && !command.names.empty()) {
+        return "Action '--verify' checks the files of the manifest (option '--manifest') and takes "
                "no others.";
     }
-    if (command.compare && count != 2) {
-        return "Action '-compare' needs two manifests, the old one and the new one.";
+    if (command.compare && command.names.size() != 2) {
+        return "Action '--compare' needs two manifests, the old one and the new one.";
     }
     return nullptr;
 }
 
-ExitCode refuse(const std::string& message) {
-    printError(message);
-    printHint("The actions are -create, -verify, -compare and -help; see 'checksums -help'.");
-    return exitUsage;
-}
-
-ExitCode reportFailure(const zarn::ParseOutcome& parsed, const ValueChecks& checks) {
-    switch (parsed.code) {
-        case zarn::resultRuleBroken:
-            return refuse(parsed.text);
-        case zarn::resultVetoed:
-            printError(parsed.text + ": " + checks.reason());
-            return checks.isFileMissing() ? exitFile : exitUsage;
-        case zarn::resultOptionFileUnreadable:
-            printError(parsed.text);
-            return exitFile;
-        default:
-            printError("Internal error: " + parsed.text);
-            return exitInternal;
-    }
-}
-
-ExitCode reportUnknown(const std::vector<std::string>& arguments) {
-    std::string list;
-    for (const std::string& argument : arguments) {
-        list += (list.empty() ? "'" : ", '") + argument + "'";
-    }
-    return refuse((arguments.size() == 1 ? "Unknown option: " : "Unknown options: ") + list);
-}
-
 }  // namespace
 
-zarn::Parser makeParser() {
-    // The third flag: names that begin with a dash can be given behind "--".
-    zarn::Parser parser(zarn::flagPositionalWithoutDash | zarn::flagPositionalTakesRest |
-                        zarn::flagPositionalBehindTerminator);
-    declareVocabulary(parser);
-    return parser;
-}
-
-Outcome readCommandLine(zarn::Parser& parser, int argc, const char* const* argv) {
-    if (argc < 2) {
-        return {refuse("No action defined."), {}};
+std::optional<int> readCommandLine(int argc, const char* const* argv, Command& command) {
+    zarn::Parser parser({"checksums", "1.0", "Writes, verifies and compares lists of checksums."},
+                        zarn::usualFlags | zarn::flagPositionalTakesRest);
+    declareActions(parser, command);
+    declareOptions(parser, command);
+    if (const auto ended = parser.run(argc, argv)) {
+        return ended;
     }
-    ValueChecks checks;
-    const zarn::Registration checking(parser, checks);
-    std::vector<std::string> unknown;
-    const zarn::OnUnknown collecting(parser, [&unknown](const char* argument) {
-        unknown.emplace_back(argument);
-        return false;  // taken care of, the parse goes on
-    });
-    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
-
-    if (!unknown.empty()) {
-        return {reportUnknown(unknown), {}};
+    if (const char* const problem = whyNotDone(command)) {
+        printError(problem);
+        return exitUsage;
     }
-    if (!parsed) {
-        return {reportFailure(parsed, checks), {}};
-    }
-    const Command command = commandOf(parsed.result);
-    if (const char* problem = whyNamesAreWrong(command)) {
-        return {refuse(problem), {}};
-    }
-    return {exitOk, command};
+    return std::nullopt;
 }
 
 }  // namespace checksums

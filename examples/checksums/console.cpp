@@ -44,8 +44,6 @@ void printError(const std::string& message) {
     std::cerr << "checksums: " << withoutControls(message) << std::endl;
 }
 
-void printHint(const std::string& hint) { std::cerr << hint << std::endl; }
-
 Results::Results(std::optional<bool> color, bool quiet)
     : hasColor(color.value_or(isatty(STDOUT_FILENO) == 1)), isQuiet(quiet) {}
 

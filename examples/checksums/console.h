@@ -12,9 +12,6 @@ namespace checksums {
 // that is quoted can command the terminal.
 void printError(const std::string& message);
 
-// A line that tells what to do about the error before.
-void printHint(const std::string& hint);
-
 enum class Mark { good, bad, notice };
 
 // The results of an action.

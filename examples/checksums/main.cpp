@@ -11,11 +11,8 @@
 namespace checksums {
 namespace {
 
-ExitCode perform(const Command& command, zarn::IParser& parser) {
+ExitCode perform(const Command& command) {
     const Results results(command.color, command.quiet);
-    if (command.help) {
-        return showHelp(command, parser);
-    }
     if (command.compare) {
         return compareManifests(command, results);
     }
@@ -29,16 +26,17 @@ ExitCode perform(const Command& command, zarn::IParser& parser) {
     return code;
 }
 
-ExitCode run(int argc, const char* const* argv) {
-    zarn::Parser parser = makeParser();
-    const Outcome outcome = readCommandLine(parser, argc, argv);
-    if (outcome.code != exitOk) {
-        return outcome.code;
+int run(int argc, const char* const* argv) {
+    Command command;
+    int code = exitOk;
+    if (const auto ended = readCommandLine(argc, argv, command)) {
+        code = *ended;
+    } else {
+        code = perform(command);
     }
-    const ExitCode code = perform(outcome.command, parser);
     if (!std::cout.flush()) {
         printError("The standard output cannot be written.");
-        return std::max(code, exitFile);
+        return std::max<int>(code, exitFile);
     }
     return code;
 }

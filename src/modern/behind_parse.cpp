@@ -62,58 +62,52 @@ const ItemRecord* actionGiven(const StoredOutcome& outcome,
                               const ItemRecord& modifier) {
     for (const std::string& name : modifier.actions) {
         const ItemRecord* const action = vocabulary.find(name);
-        if (action != nullptr && outcome.isGiven(name)) {
+        if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
             return action;
         }
     }
     return nullptr;
 }
 
+// Why the item is missed; empty when it is not.
 std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
-    if (item.role == Role::positional) {
-        return messages::argumentRequired(item.called());
-    }
     if (item.actions.empty()) {
-        return messages::optionRequired(item.called());
+        return messages::isRequired(item);
     }
     const ItemRecord* const action = actionGiven(outcome, outcome.vocabulary(), item);
-    return action == nullptr ? "" : messages::actionRequires(action->called(), item.called());
+    return action == nullptr ? "" : messages::needs(*action, item);
 }
 
-// The options of a rule, as messages call them.
+// The items of a rule.
 struct RuleState {
-    std::vector<std::string> given;
-    std::vector<std::string> others;
+    std::vector<const ItemRecord*> given;
+    std::vector<const ItemRecord*> others;
     std::string all;
 };
 
-RuleState stateOf(const Rule& rule, StoredOutcome& outcome) {
+RuleState stateOf(const Rule& rule, const StoredOutcome& outcome) {
     RuleState state;
-    for (const std::string& name : rule.names) {
-        const ItemRecord* const item = outcome.vocabulary().find(name);
-        const std::string called = item == nullptr ? typedName(name) : item->called();
-        state.all += joined({state.all.empty() ? "'" : ", '", called, "'"});
-        (outcome.isGiven(name) ? state.given : state.others).push_back(called);
+    for (const ItemRecord* const item : rule.items) {
+        state.all += joined({state.all.empty() ? "'" : ", '", item->called(), "'"});
+        (outcome.origin(*item) > Origin::byDefault ? state.given : state.others).push_back(item);
     }
     return state;
 }
 
 // Why the rule is broken; empty when it is not.
-std::string broken(const Rule& rule, StoredOutcome& outcome) {
+std::string broken(const Rule& rule, const StoredOutcome& outcome) {
     const RuleState state = stateOf(rule, outcome);
     const bool wantsOne = rule.kind == RuleKind::exactlyOne || rule.kind == RuleKind::atMostOne;
     if (wantsOne && state.given.size() > 1) {
-        return messages::optionsExclude(state.given[0], state.given[1]);
+        return messages::exclude(*state.given[0], *state.given[1]);
     }
     if (rule.kind == RuleKind::exactlyOne && state.given.empty()) {
         return messages::oneRequired(state.all);
     }
-    const bool isAsked =
-        rule.kind == RuleKind::needs ? outcome.isGiven(rule.names[0]) : !state.given.empty();
-    if (!wantsOne && isAsked && !state.others.empty()) {
-        return messages::optionRequires(state.given[0], state.others[0]);
-    }
-    return "";
+    const bool isAsked = !wantsOne && !state.given.empty() &&
+                         (rule.kind == RuleKind::together || state.given[0] == rule.items[0]);
+    return isAsked && !state.others.empty() ? messages::needs(*state.given[0], *state.others[0])
+                                            : "";
 }
 
 }  // namespace

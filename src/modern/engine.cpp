@@ -170,9 +170,10 @@ void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription& i
 void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept { vocabulary->accept(habits); }
 
 void addRule(Vocabulary* vocabulary, RuleKind kind, const char* const* names, std::size_t count) {
-    vocabulary->add({
-        kind, {names, names + count}
-    });
+    Rule rule;
+    rule.kind = kind;
+    rule.names.assign(names, names + count);
+    vocabulary->add(std::move(rule));
 }
 
 std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic) {
@@ -203,15 +204,14 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     const CommandLine line{argc, argv};
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
-    std::optional<std::string> output = findAnswer(*vocabulary, tool, line);
+    std::optional<Answer> found = findAnswer(*vocabulary, tool, line);
     auto outcome =
-        output ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
-    if (!output) {
-        output = findAnswer(*vocabulary, tool, outcome->result());
+        found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
+    if (!found) {
+        found = findAnswer(*vocabulary, tool, outcome->result());
     }
-    if (output) {
-        answer.output = *output;
-        answer.exitCode = exitAnswered;
+    if (found) {
+        answer = std::move(*found);
     } else if (outcome->code != resultOk) {
         answer.error = joined({tool, ": ", visible(outcome->text), "\n"});
         answer.exitCode = exitCodeFor(outcome->code);

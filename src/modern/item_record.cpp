@@ -1,8 +1,11 @@
 #include "modern/item_record.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <new>
 
 #include "modern/messages.h"
+#include "options/option_description.h"
 #include "text/joined.h"
 #include "zarn/option.h"
 
@@ -80,6 +83,19 @@ void ItemRecord::configure(IOption& item) const {
         item.defaultValue(defaultValue);
     }
     item.tokenize(separator);  // last: allowValue has values cut at ','
+    const auto& plain = static_cast<const OptionDescription&>(item);
+    const auto isTaken = [&](const AllowedValue& each) {
+        return each.replacement.type() == vtNull ||
+               plain.deprecatedValues.find(each.value) != plain.deprecatedValues.end();
+    };
+    const auto replaced = std::count_if(allowed.begin(), allowed.end(), [](const auto& each) {
+        return each.replacement.type() != vtNull;
+    });
+    if (plain.hasDefault != (defaultValue.type() != vtNull) ||
+        plain.allowedValues.size() != allowed.size() - static_cast<std::size_t>(replaced) ||
+        !std::all_of(allowed.begin(), allowed.end(), isTaken)) {
+        throw std::bad_alloc();
+    }
 }
 
 Value ItemRecord::replaced(const Value& value) const {

@@ -30,7 +30,7 @@ struct ItemRecord {
     // How messages call it: as users type it.
     std::string called() const;
 
-    // Chains its settings.
+    // Chains its settings. Throws std::bad_alloc when the plain item has not taken all of them.
     void configure(IOption& item) const;
 
     // A deprecated value as what it is read as.

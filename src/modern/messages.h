@@ -6,6 +6,7 @@
 #include <string>
 #include <string_view>
 
+#include "modern/item_record.h"
 #include "text/joined.h"
 
 namespace zarn_3_3::internal::messages {
@@ -49,23 +50,27 @@ inline std::string invalidVariable(std::string_view assignment, std::string_view
 
 // Rules.
 
-inline std::string optionRequired(std::string_view option) {
-    return joined({"Option '", option, "' is required"});
+// "Option '--jobs'", "Action '--pack'", "Argument 'FILE'"
+inline std::string first(const ItemRecord& item) {
+    const char* const kinds[] = {"Option '", "Action '", "Argument '"};
+    return joined({kinds[static_cast<int>(item.role)], item.called(), "'"});
 }
-inline std::string argumentRequired(std::string_view argument) {
-    return joined({"Argument '", argument, "' is required"});
+// The same within a sentence.
+inline std::string second(const ItemRecord& item) {
+    const char* const kinds[] = {"option '", "action '", "argument '"};
+    return joined({kinds[static_cast<int>(item.role)], item.called(), "'"});
 }
-inline std::string actionRequires(std::string_view action, std::string_view option) {
-    return joined({"Action '", action, "' requires option '", option, "'"});
+inline std::string isRequired(const ItemRecord& item) {
+    return joined({first(item), " is required"});
 }
-inline std::string oneRequired(std::string_view options) {
-    return joined({"One of ", options, " is required"});
+inline std::string oneRequired(std::string_view names) {
+    return joined({"One of ", names, " is required"});
 }
-inline std::string optionsExclude(std::string_view option, std::string_view other) {
-    return joined({"Option '", option, "' does not go with option '", other, "'"});
+inline std::string exclude(const ItemRecord& item, const ItemRecord& other) {
+    return joined({first(item), " does not go with ", second(other)});
 }
-inline std::string optionRequires(std::string_view option, std::string_view other) {
-    return joined({"Option '", option, "' requires option '", other, "'"});
+inline std::string needs(const ItemRecord& item, const ItemRecord& other) {
+    return joined({first(item), " requires ", second(other)});
 }
 
 // Mistakes of the author.

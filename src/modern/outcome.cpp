@@ -120,11 +120,6 @@ Origin StoredOutcome::origin(const ItemRecord& item) const {
     return find(item, ignored, nullptr);
 }
 
-bool StoredOutcome::isGiven(const std::string& name) const {
-    Value ignored;
-    return find(name.c_str(), ignored, nullptr) > Origin::byDefault;
-}
-
 // A value belongs to the last occurrence before it. What is there already stays.
 void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
     const std::string asked = name == nullptr ? "" : name;

@@ -25,9 +25,7 @@ public:
     Origin find(const char* name, Value& last, std::vector<Value>* all) const;
     Origin find(const ItemRecord& item, Value& last, std::vector<Value>* all) const;
 
-    // Of the item, or of the option with this name.
     Origin origin(const ItemRecord& item) const;
-    bool isGiven(const std::string& name) const;
 
     // Adds its occurrences to those that are there.
     void addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const;

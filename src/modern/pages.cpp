@@ -5,6 +5,7 @@
 #include "text/joined.h"
 #include "text/paragraph.h"
 #include "zarn/typed/declaration.h"
+#include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -73,12 +74,20 @@ std::string actionPage(Vocabulary& vocabulary, const std::string& tool, const It
          vocabulary.plain().getActionModifiersDescription(action.primaryName().c_str(), false)});
 }
 
-std::string answerFor(const ItemRecord& item,
-                      Vocabulary& vocabulary,
-                      const std::string& tool,
-                      const std::string& topic) {
-    return item.primaryName() == versionName ? joined({tool, " ", vocabulary.tool().version, "\n"})
-                                             : pageOf(vocabulary, tool, Page::topic, topic.c_str());
+Answer answerFor(const ItemRecord& item,
+                 Vocabulary& vocabulary,
+                 const std::string& tool,
+                 const std::string& topic) {
+    if (item.primaryName() == versionName) {
+        return {joined({tool, " ", vocabulary.tool().version, "\n"}), "", exitAnswered};
+    }
+    if (topic.empty() || vocabulary.isName(topic)) {
+        return {pageOf(vocabulary, tool, Page::topic, topic.c_str()), "", exitAnswered};
+    }
+    const std::string quoted = visible(topic);
+    return {"",
+            joined({tool, ": ", vocabulary.plain().getDescription(quoted.c_str(), false)}),
+            exitUsage};
 }
 
 // What stands behind "--help": attached, or as the next argument.
@@ -103,9 +112,9 @@ void declareAnswers(Vocabulary& vocabulary) {
     }
 }
 
-std::optional<std::string> findAnswer(Vocabulary& vocabulary,
-                                      const std::string& tool,
-                                      CommandLine line) {
+std::optional<Answer> findAnswer(Vocabulary& vocabulary,
+                                 const std::string& tool,
+                                 CommandLine line) {
     for (OptionWalk walk(vocabulary, line); !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         const CutArgument cut = cutArgument(argument);
@@ -117,9 +126,9 @@ std::optional<std::string> findAnswer(Vocabulary& vocabulary,
     return std::nullopt;
 }
 
-std::optional<std::string> findAnswer(Vocabulary& vocabulary,
-                                      const std::string& tool,
-                                      const ParseResult& result) {
+std::optional<Answer> findAnswer(Vocabulary& vocabulary,
+                                 const std::string& tool,
+                                 const ParseResult& result) {
     for (const auto& item : vocabulary.items()) {
         if (item->isAnswered && result.find(item->primaryName()) != nullptr) {
             return answerFor(*item, vocabulary, tool, "");

@@ -16,14 +16,12 @@ namespace zarn_3_3::internal {
 void declareAnswers(Vocabulary& vocabulary);
 
 // The answer to the first of them, wherever it stands among the options.
-std::optional<std::string> findAnswer(Vocabulary& vocabulary,
-                                      const std::string& tool,
-                                      CommandLine line);
+std::optional<Answer> findAnswer(Vocabulary& vocabulary, const std::string& tool, CommandLine line);
 
 // The same for an abbreviation, which the parse has understood.
-std::optional<std::string> findAnswer(Vocabulary& vocabulary,
-                                      const std::string& tool,
-                                      const ParseResult& result);
+std::optional<Answer> findAnswer(Vocabulary& vocabulary,
+                                 const std::string& tool,
+                                 const ParseResult& result);
 
 // The name under which the tool is known, or is called.
 std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line);

@@ -26,6 +26,10 @@ private:
     const ItemRecord& item_;
 };
 
+bool isBounded(const ItemRecord& item) {
+    return item.least.type() != vtNull || item.greatest.type() != vtNull;
+}
+
 }  // namespace
 
 Vocabulary::Vocabulary(const Tool& tool, int flags)
@@ -121,8 +125,14 @@ void Vocabulary::settle() {
         requireActions(*items_[settledItems_]);
     }
     for (; settledRules_ < rules_.size(); ++settledRules_) {
-        for (const std::string& name : rules_[settledRules_].names) {
-            require(name);
+        Rule& rule = rules_[settledRules_];
+        rule.items.clear();
+        for (const std::string& name : rule.names) {
+            const ItemRecord* const item = find(name);
+            if (item == nullptr) {
+                mistake(name.c_str(), messages::noSuchOption);
+            }
+            rule.items.push_back(item);
         }
     }
     if (!isListening_ && (asksValues_ || routesPositionals())) {
@@ -202,6 +212,8 @@ bool Vocabulary::accepts(const ItemRecord& item, const Value& value) {
     const Value read = item.replaced(value);
     for (const Check* check = item.checks.get(); check != nullptr; check = check->next.get()) {
         if (!check->holds(read, reason_)) {
+            const bool isUntold = reason_.empty() && isBounded(item);
+            reason_ = isUntold ? boundsText(item.least, item.greatest) : reason_;
             return false;
         }
     }
@@ -253,7 +265,7 @@ std::string Vocabulary::explained(std::string message) const {
     std::string_view value = std::string_view(message).substr(end + beforeValue.size());
     value.remove_prefix(value[0] == '-' || value[0] == '+' ? 1 : 0);
     const bool isNumber = value[0] >= '0' && value[0] <= '9';
-    if (isNumber && item != nullptr && item->least.type() != vtNull) {
+    if (isNumber && item != nullptr && isBounded(*item)) {
         message.pop_back();  // its full stop
         return messages::withReason(message, boundsText(item->least, item->greatest));
     }

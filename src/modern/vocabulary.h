@@ -20,6 +20,7 @@ namespace zarn_3_3::internal {
 struct Rule {
     RuleKind kind;
     std::vector<std::string> names;
+    std::vector<const ItemRecord*> items;  // when the vocabulary is settled
 };
 
 // Values of an item that were parsed apart from the command line: from the environment, or for one

@@ -5,9 +5,9 @@
 
 #include <sys/stat.h>
 
-#include <limits>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 
 #include "zarn/typed/engine.h"
@@ -15,23 +15,16 @@
 
 namespace zarn_3_3::internal {
 
-// That the value can be read as a T, which the plain interface does not see to.
+// That the value can be read as a T, which the plain interface does not see to. What numbers must
+// be is told by the engine.
 template <typename T>
 class Readable final : public Check {
 public:
     bool holds(const Value& value, std::string& reason) const override {
-        const bool isRead = read<T>(value, &reason).has_value();
-        if constexpr (isNumber<T>) {
-            // Streams read "-1" as the greatest of an unsigned type.
-            const bool isNegated =
-                std::is_unsigned_v<T> && value.text != nullptr && *value.text == '-';
-            if (!isRead || isNegated) {
-                using limits = std::numeric_limits<T>;
-                reason = boundsText(plainNumber(limits::lowest()), plainNumber(limits::max()));
-                return false;
-            }
-        }
-        return isRead;
+        // Streams read "-1" as the greatest of an unsigned type.
+        const bool isNegated =
+            isNumber<T> && std::is_unsigned_v<T> && value.text != nullptr && *value.text == '-';
+        return !isNegated && read<T>(value, &reason).has_value();
     }
 };
 

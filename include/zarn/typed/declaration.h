@@ -133,25 +133,26 @@ public:
         if (high < low) {
             internal::mistake(description.names, "no value lies between its bounds");
         }
-        return std::move(*this).check(
+        return std::move(*this).within(
             [low, high](const T& value) { return !(value < low) && !(high < value); },
-            internal::boundsText(internal::plainValue(low), internal::plainValue(high)));
+            internal::plainValue(low),
+            internal::plainValue(high));
     }
 
     // Refuses values below the bound.
     template <typename U>
     Declaration&& atLeast(const U& least) && {
         const T low = bound(least);
-        return std::move(*this).check([low](const T& value) { return !(value < low); },
-                                      internal::boundsText(internal::plainValue(low), {}));
+        return std::move(*this).within(
+            [low](const T& value) { return !(value < low); }, internal::plainValue(low), {});
     }
 
     // Refuses values above the bound.
     template <typename U>
     Declaration&& atMost(const U& greatest) && {
         const T high = bound(greatest);
-        return std::move(*this).check([high](const T& value) { return !(high < value); },
-                                      internal::boundsText({}, internal::plainValue(high)));
+        return std::move(*this).within(
+            [high](const T& value) { return !(high < value); }, {}, internal::plainValue(high));
     }
 
     // Refuses values for which predicate(value), called with a T, is not true. `reason` is put
@@ -213,7 +214,7 @@ private:
          (sizeof(T) < sizeof(int) || std::is_unsigned_v<T> || std::is_same_v<T, float>));
 
     template <typename U>
-    static constexpr void requireSetting() {
+    static constexpr bool isSetting() {
         static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
         if constexpr (std::is_same_v<T, bool>) {
             static_assert(std::is_same_v<U, bool>, "the values of a boolean are true and false");
@@ -228,12 +229,13 @@ private:
             static_assert(std::is_convertible_v<const U&, T>,
                           "the values of this option have the type it is declared with");
         }
+        return true;
     }
 
     // `value` as a T, or as a text. A mistake when a number does not fit.
     template <typename U>
     auto fitted(const U& value) const {
-        requireSetting<U>();
+        static_assert(isSetting<U>());
         if constexpr (internal::isNumber<T>) {
             const std::optional<T> number = internal::numberAs<T>(value);
             if (!number) {
@@ -262,6 +264,17 @@ private:
         static_assert(!internal::isText<T> && !internal::isNamed<T>,
                       "bounds are for numbers, durations and sizes; see allow and check");
         return fitted(value);
+    }
+
+    template <typename Predicate>
+    Declaration&& within(Predicate predicate,
+                         const variant_t& least,
+                         const variant_t& greatest) && {
+        if constexpr (internal::isNumber<T>) {  // what does not even fit is told the same
+            description.least = least;
+            description.greatest = greatest;
+        }
+        return std::move(*this).check(predicate, internal::boundsText(least, greatest));
     }
 
     Declaration&& exists(internal::Exists::Kind kind) && {

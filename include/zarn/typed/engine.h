@@ -110,7 +110,7 @@ struct ItemDescription {
     char* (*readVariable)(const char*) = nullptr;
     std::vector<AllowedValue> allowed = {};
     variant_t defaultValue = {};  // empty: none
-    variant_t least = {};         // of a number, what its type holds
+    variant_t least = {};         // of numbers; empty: no bound
     variant_t greatest = {};
     std::unique_ptr<Check> checks = {};
     std::unique_ptr<Target> target = {};

@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <initializer_list>
 #include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <utility>
@@ -41,7 +42,7 @@ enum ExitCode : int {
     exitAnswered = 0,    // help or the version was printed
     exitUsage = 2,       // the command line is wrong
     exitUnreadable = 3,  // an option file could not be read
-    exitInternal = 4,    // memory ran out, or a handler threw
+    exitInternal = 4,    // memory ran out, a handler threw, or help could not be written
 };
 
 // A vocabulary, and what it takes to parse command lines of it.
@@ -91,6 +92,9 @@ public:
     // IParser::addOptionFileOption.
     void readOptionFiles(const char* description, const char* section = "") {
         (*this)->addOptionFileOption(description, section);
+        if (!(*this)->isOptionDeclared("option-file", false, nullptr)) {
+            throw std::bad_alloc();
+        }
     }
 
     // Takes arguments in the habits of Unix, too: any combination of Habit values, as unixHabits.
@@ -156,9 +160,8 @@ public:
     [[nodiscard]] std::optional<int> run(int argc, const char* const* argv) {
         internal::Answer answer;
         result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
-        print(stdout, answer.output);
-        print(stderr, answer.error);
-        return answer.exitCode;
+        const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
+        return isPrinted ? answer.exitCode : exitInternal;
     }
 
     // What the last run found; it must have been called, and answered nothing.
@@ -180,11 +183,9 @@ private:
         }
     };
 
-    static void print(std::FILE* stream, const std::string& text) {
-        if (!text.empty()) {
-            std::fwrite(text.data(), 1, text.size(), stream);
-            std::fflush(stream);
-        }
+    static bool print(std::FILE* stream, const std::string& text) {
+        return text.empty() || (std::fwrite(text.data(), 1, text.size(), stream) == text.size() &&
+                                std::fflush(stream) == 0);
     }
 
     void addRule(internal::RuleKind kind, const char* const* names, std::size_t count) {

@@ -21,8 +21,7 @@ namespace zarn_3_3 {
 struct Bytes {
     std::uint64_t count = 0;
 
-    friend bool operator==(Bytes a, Bytes b) noexcept { return a.count == b.count; }
-    friend bool operator<(Bytes a, Bytes b) noexcept { return a.count < b.count; }
+    constexpr operator std::uint64_t() const noexcept { return count; }
 };
 
 namespace internal {

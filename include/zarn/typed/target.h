@@ -37,12 +37,12 @@ constexpr bool goesInto() {
     } else if constexpr (isText<T>) {
         return std::is_same_v<E, std::string> || isPath<E>;
     } else {
-        return std::is_same_v<T, E>;
+        return std::is_same_v<T, E> || (isConverted<T> && std::is_convertible_v<T, E>);
     }
 }
 
 template <typename E>
-E readForTarget(const Value& value) {
+E readAgain(const Value& value) {
     std::optional<E> found = read<E>(value, nullptr);
     if (!found) {
         throw std::logic_error("zarn: a Conversion that has read a text does not read it again");
@@ -70,13 +70,13 @@ public:
             V all;
             all.reserve(count);
             for (std::size_t i = 0; i < count; ++i) {
-                all.push_back(readForTarget<Element>(values[i]));
+                all.push_back(element(values[i]));
             }
             ready_ = std::move(all);
         } else if constexpr (std::is_same_v<T, Switch> && !std::is_same_v<Element, bool>) {
             ready_ = static_cast<Element>(count);
         } else {
-            ready_ = readForTarget<Element>(last);
+            ready_ = element(last);
         }
     }
 
@@ -93,9 +93,9 @@ public:
         if constexpr (isVector || std::is_same_v<T, Switch>) {
             return {};
         } else if constexpr (std::is_same_v<V, Element>) {
-            return plainValue(variable_);
+            return shown(variable_);
         } else {
-            return variable_ ? plainValue(*variable_) : variant_t();
+            return variable_ ? shown(*variable_) : variant_t();
         }
     }
 
@@ -103,6 +103,22 @@ public:
     bool takesMany() const noexcept override { return isVector; }
 
 private:
+    static variant_t shown(const Element& value) {
+        if constexpr (isText<T>) {
+            return plainValue(value);
+        } else {
+            return plainValue<T>(T{value});
+        }
+    }
+
+    static Element element(const Value& value) {
+        if constexpr (isText<T> || std::is_same_v<T, Switch>) {
+            return readAgain<Element>(value);
+        } else {
+            return readAgain<T>(value);
+        }
+    }
+
     V& variable_;
     std::optional<V> ready_;
 };

@@ -1,0 +1,347 @@
+// What tools of the modern face make of command lines.
+
+#include <gmock/gmock.h>
+
+#include <cstdlib>
+#include <fstream>
+
+#include "support/failing_new.h"
+#include "typed/tool_under_test.h"
+
+namespace zarn_3_3 {
+namespace {
+
+struct Row {
+    Line line;
+    std::string expected;  // what has changed, or the message
+};
+
+std::string outcomeOf(Parser& parser, const Settings& settings, const Line& line) {
+    const Result result = parser.parse(line.argc(), line.argv());
+    return (result ? "" : std::string(result.text()) + "|") + settings.changed();
+}
+
+void expectOutcomes(std::initializer_list<Row> rows,
+                    unsigned habits = 0,
+                    void (*addTo)(Parser&) = nullptr) {
+    for (const Row& row : rows) {
+        Settings settings;
+        Parser parser;
+        declareSettings(parser, settings);
+        parser.accept(habits);
+        if (addTo != nullptr) {
+            addTo(parser);
+        }
+        EXPECT_EQ(outcomeOf(parser, settings, row.line), row.expected);
+    }
+}
+
+// A file of the test, and a variable of the environment, while they live.
+class OptionFile {
+public:
+    explicit OptionFile(const char* lines) { std::ofstream(name()) << lines; }
+    ~OptionFile() { std::remove(name()); }
+    static const char* name() { return "typed_test.options"; }
+};
+
+class Variable {
+public:
+    Variable(const char* name, const char* value) : name_(name) { setenv(name, value, 1); }
+    ~Variable() { unsetenv(name_); }
+
+private:
+    const char* name_;
+};
+
+TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
+    expectOutcomes({
+        {{},                                                                   ""                                                         },
+        {{"-j=3", "-vv", "--no-color", "-q"},                                  "Unknown option: -vv|"                                     },
+        {{"-j=3", "-v", "-v", "--no-color", "-q"},                             "jobs=3 color=0 quiet=1 verbosity=2 "                      },
+        {{"--no-color", "--color", "-j=3", "--jobs=4"},                        "jobs=4 "                                                  },
+        {{"--ratio=0.5", "--mode=th", "--target=/tmp/x", "-t=1.5s", "-s=64K"},
+         "size=65536 ratio=0.5 mode=thorough timeout=1500 target=/tmp/x "                                                                 },
+        {{"--point=3:4", "a,b", "--number=1,2", "--number=3", "c"},
+         "point=3:4 number=1 number=2 number=3 file=a,b file=c "                                                                          },
+        {{"--former=slow"},                                                    "former=thorough "                                         },
+        {{"--level=-4"},
+         "Value '-4' is not valid for option 'level' in argument '--level=-4': it must be at least "
+         "-3|"                                                                                                                            },
+        {{"--level=32768"},
+         "Value '32768' is not valid for option 'level' in argument '--level=32768': it must be at "
+         "least -3|"                                                                                                                      },
+        {{"--size=1025K"},
+         "Value '1025K' is not valid for option 'size' in argument '--size=1025K': it must be at "
+         "most 1M|"                                                                                                                       },
+        {{"--color", "--jobs=65"},
+         "Value '65' is not valid for option 'jobs' in argument '--jobs=65': it must be between 1 "
+         "and 64|"                                                                                                                        },
+        {{"--jobs=13"},
+         "Value '13' is not valid for option 'jobs' in argument '--jobs=13': it must be a lucky "
+         "number|"                                                                                                                        },
+        {{"--jobs=99999999999"},
+         "Value validation problem in argument '--jobs=99999999999': Option 'jobs' can not parse "
+         "'99999999999' value, requires a type 'integer' here: it must be between 1 and 64|"                                              },
+        {{"--jobs=x"},
+         "Value validation problem in argument '--jobs=x': Option 'jobs' can not parse 'x' value, "
+         "requires a type 'integer' here.|"                                                                                               },
+        {{"--point=1:2;3"},
+         "Value '1:2;3' is not valid for option 'point' in argument '--point=1:2;3': it must be "
+         "two "
+         "numbers, as in 3:4|"                                                                                                            },
+        {{"--jobs=", "3"},                                                     "Option 'jobs' requires a value in argument: '--jobs='|"   },
+        {{"--jo ", "3"},                                                       "Option 'jobs' requires a value in argument: '--jo '|"     },
+        {{"--quiet=", "a"},                                                    "quiet=1 file=a "                                          },
+        {{"a", ""},                                                            "Option 'file' received an empty argument|"                },
+        {{"--target", ""},                                                     "Option 'target' requires a value in argument: '--target'|"},
+        {{"a", "--", ""},                                                      "Option 'file' received an empty argument|"                },
+        {{"a", "--", "-b"},                                                    "file=a file=-b "                                          },
+    });
+}
+
+TEST(Variables, OfTheCommandLineTheLastCountsThenFilesThenTheEnvironment) {
+    const OptionFile file("--jobs=5\n--jobs=6\n--number=7\nlisted");
+    const Variable jobs("TOOL_JOBS", "9");
+    const Variable color("TOOL_COLOR", "off");
+    expectOutcomes({
+        {{"--option-file=typed_test.options", "-j=3", "-j=4", "--number=1", "--color"},
+         "jobs=4 number=1 number=7 file=listed "                                                                              },
+        {{"--option-file=typed_test.options"},                                          "jobs=6 color=0 number=7 file=listed "},
+        {{"-q"},                                                                        "jobs=9 color=0 quiet=1 "             },
+    });
+    const Variable wrong("TOOL_JOBS", "65");
+    expectOutcomes({
+        {{"-q"},
+         "Value '65' is not valid for option 'jobs' in argument 'TOOL_JOBS=65': it must "
+         "be between 1 and 64|"}
+    });
+    const Variable none("TOOL_JOBS", "");
+    const Variable yes("TOOL_COLOR", "yes");
+    expectOutcomes({
+        {{"-q"}, "quiet=1 "}
+    });
+    const Variable perhaps("TOOL_COLOR", "perhaps");
+    expectOutcomes({
+        {{"-q"},
+         "Value validation problem in argument 'TOOL_COLOR=perhaps': it must be 1, true, "
+         "yes, on, 0, false, no or off|"}
+    });
+}
+
+TEST(Variables, KnowWhereTheirValuesComeFrom) {
+    const OptionFile file("--jobs=5\n-v");
+    const Variable color("TOOL_COLOR", "1");
+    Settings settings;
+    Parser parser;
+    declareSettings(parser, settings);
+    const Line line{"--option-file=typed_test.options", "--size=5", "--size=6", "a", "b"};
+    const Result result = parser.parse(line.argc(), line.argv());
+    EXPECT_EQ(result.origin("j"), Origin::optionFile);
+    EXPECT_EQ(result.origin("v"), Origin::optionFile);
+    EXPECT_EQ(result.origin("size"), Origin::commandLine);
+    EXPECT_EQ(result.origin("color"), Origin::environment);
+    EXPECT_EQ(result.origin("timeout"), Origin::byDefault);
+    EXPECT_EQ(result.origin("ratio"), Origin::absent);
+    EXPECT_EQ(result.get<Bytes>("s")->count, 6u);
+    EXPECT_EQ(result.get<std::chrono::milliseconds>("timeout"), std::chrono::milliseconds(1000));
+    EXPECT_EQ(result.get<bool>("color"), true);
+    EXPECT_THAT(result.values<std::string>("file"), testing::ElementsAre("a", "b"));
+    const Result more = parser.parseStream("--size=7\nc", parser.parse(line.argc(), line.argv()));
+    EXPECT_THAT(more.values<std::string>("file"), testing::ElementsAre("a", "b", "c"));
+    EXPECT_EQ(settings.size, 7u);
+}
+
+TEST(Habits, AreTakenWhereNoNameSaysOtherwise) {
+    expectOutcomes(
+        {
+            {{"-qvj3", "a"},                          "jobs=3 quiet=1 verbosity=1 file=a "        },
+            {{"-vvj", "4", "-"},                      "jobs=4 verbosity=2 file=- "                },
+            {{"-qj=5"},                               "jobs=5 quiet=1 "                           },
+            {{"-s10K", "-l", "-2", "--ratio", "-.5"}, "level=-2 size=10240 ratio=-0.5 "           },
+            {{"--target", "-"},                       "target=- "                                 },
+            {{"--target=", "-"},                      "target=- "                                 },
+            {{"-qu"},                                 "quiet=1 "                                  },
+            {{"-qz"},                                 "Unknown option: -qz|"                      },
+            {{"-5"},                                  "Unknown option: -5|"                       },
+            {{"--target", "-5"},
+             "Option 'target' received value from the next argument: '-5', but it seems to be an "
+             "option. Use '-option=value' declaration form or make sure that value is not missed|"},
+            {{"-vj0"},
+             "Value '0' is not valid for option 'jobs' in argument '-vj0': it must be between 1 "
+             "and "
+             "64|"                                                                                },
+            {{"--level", "-4"},
+             "Value '-4' is not valid for option 'level' in argument '--level -4': it must be at "
+             "least -3|"                                                                          },
+            {{"--", "-qv", "-"},                      "file=-qv file=- "                          },
+    },
+        unixHabits);
+    expectOutcomes(
+        {
+            {{"-qv"}, "Unknown option: -qv|"},
+            {{"-j3"}, "jobs=3 "             }
+    },
+        gluedValues);
+    expectOutcomes(
+        {
+            {{"-qj3"}, "Unknown option: -qj3|"},
+            {{"-qv"},  "quiet=1 verbosity=1 " }
+    },
+        bundles);
+    expectOutcomes(
+        {
+            {{"-"}, "Unknown option: -|"}
+    },
+        negativeNumbers);
+}
+
+TEST(Rules, AreAskedBehindTheParse) {
+    const auto declare = [](Parser& parser) {
+        parser.declare({option<int>("must", "").required(),
+                        option("about", "").alone(),
+                        action("pack,p", ""),
+                        action("list", ""),
+                        modifier("deep", "pack,list", "").required(),
+                        option<int>("left", "").byDefault(1),
+                        option<int>("right", "")});
+        parser.exactlyOne({"quiet", "verbose"});
+        parser.atMostOne({"size", "level"});
+        parser.together({"left", "right"});
+        parser.needs("pack", {"file", "ratio"});
+    };
+    expectOutcomes(
+        {
+            {{"--list", "--deep", "-q"},                             "Option '--must' is required|"              },
+            {{"--list", "-q", "--must=1"},                           "Action '--list' requires option '--deep'|" },
+            {{"--list", "--deep", "--must=1"},                       "One of '--quiet', '--verbose' is required|"},
+            {{"--list", "--deep", "--must=1", "-v", "-q"},
+             "Option '--quiet' does not go with option '--verbose'|"                                             },
+            {{"--list", "--deep", "--must=1", "-v", "-s=1", "-l=1"},
+             "Option '--size' does not go with option '--level'|"                                                },
+            {{"--list", "--deep", "--must=1", "-v", "--right=1"},
+             "Option '--right' requires option '--left'|"                                                        },
+            {{"-p", "--deep", "--must=1", "-v", "--ratio=1"},
+             "Action '--pack' requires argument 'FILE'|"                                                         },
+            {{"-p", "--deep", "--must=1", "-v", "--ratio=1", "a"},   "verbosity=1 ratio=1 file=a "               },
+            {{"--must=1", "-v"},                                     "No action defined.|"                       },
+            {{"--about", "-v"},                                      "verbosity=1 "                              },
+    },
+        0,
+        declare);
+}
+
+struct Positionals {
+    explicit Positionals(int flags = usualFlags) : parser({}, flags) {
+        parser.declare({positional<int>("count", "").between(1, 9).required().into(count),
+                        positional("name", "").allow({"left", "right"}).into(name),
+                        positional("rest", "").named("REST").into(rest)});
+    }
+    std::string parse(const Line& line) {
+        const Result result = parser.parse(line.argc(), line.argv());
+        std::string all = result ? "" : result.text();
+        for (const auto& file : result.values<std::string>("rest")) {
+            all += file + ' ';
+        }
+        return std::to_string(count) + ' ' + name + ' ' + all;
+    }
+    int count = 0;
+    std::string name;
+    std::vector<std::string> rest;
+    Parser parser;
+};
+
+TEST(PositionalItems, ShareTheArgumentsInOrder) {
+    const Row rows[] = {
+        {{"3", "le", "a", "b"},              "3 left a b "                    },
+        {{"3"},                              "3  "                            },
+        {{"--count=3", "right"},             "3 right "                       },
+        {{"3", "--name=right", "left", "a"}, "3 right a "                     },
+        {{},                                 "0  Argument 'count' is required"},
+        {{"x"},
+         "0  Value validation problem in argument 'x': Option 'count' can not parse 'x' value, "
+         "requires a type 'integer' here."                                    },
+        {{"0"},
+         "0  Value '0' is not valid for option 'count' in argument '0': it must be between 1 "
+         "and 9"                                                              },
+        {{"3", "up", "a"},
+         "0  Value validation problem in argument 'up': Option 'name' does not allow value 'up'. "
+         "Possible values follows: 'left', 'right'"                           },
+    };
+    for (const Row& row : rows) {
+        EXPECT_EQ(Positionals().parse(row.line), row.expected);
+    }
+    EXPECT_EQ(Positionals(usualFlags | flagPositionalTakesRest).parse({"3", "left", "-x", "--"}),
+              "3 left -x -- ");
+    Positionals negative;
+    negative.parser.accept(unixHabits);
+    EXPECT_EQ(
+        negative.parse({"-5"}),
+        "0  Value '-5' is not valid for option 'count' in argument '-5': it must be between 1 "
+        "and 9");
+    std::string only;
+    Parser single;
+    single.declare({positional("only", "").into(only)});
+    const Line line{"a", "b"};
+    EXPECT_STREQ(single.parse(line.argc(), line.argv()).text(), "Unknown option: b");
+    EXPECT_EQ(only, "");
+}
+
+TEST(FilesAndFolders, MustExistButForTheStandardInput) {
+    std::string file;
+    const auto parse = [&](unsigned habits, const char* path, bool isFolder) {
+        Parser parser;
+        parser.accept(habits);
+        auto item = option<std::string>("path", "").into(file);
+        parser.declare(
+            {isFolder ? std::move(item).existingFolder() : std::move(item).existingFile()});
+        const Line line{"--path", path};
+        return std::string(parser.parse(line.argc(), line.argv()).text());
+    };
+    const OptionFile present("");
+    EXPECT_EQ(parse(0, present.name(), false) + parse(0, ".", true) + parse(loneDash, "-", false),
+              "");
+    for (const bool isFolder : {false, true}) {
+        const char* const wrong = isFolder ? present.name() : ".";
+        const char* const kind = isFolder ? "folder" : "file";
+        EXPECT_THAT(parse(0, wrong, isFolder),
+                    testing::EndsWith(std::string("an existing ") + kind));
+        EXPECT_THAT(parse(0, "nowhere", isFolder), testing::HasSubstr("it must be an existing"));
+    }
+}
+
+// Whatever fails for lack of memory, no variable is touched, nothing leaks, and the next parse is
+// right.
+TEST(LackOfMemory, LeavesTheVariablesAsTheyWere) {
+    const Variable jobs("TOOL_JOBS", "9");
+    const Line line{
+        "-qvs10K", "--number=1,2", "--mode=th", "a file with a name of some length", "b"};
+    const std::string right =
+        "jobs=9 size=10240 quiet=1 verbosity=1 mode=thorough number=1 number=2 "
+        "file=a file with a name of some length file=b ";
+    std::size_t failures = 0;
+    for (long n = 1;; ++n) {
+        Settings settings;
+        std::optional<Parser> parser;
+        try {
+            memory.left = n;
+            parser.emplace();
+            declareSettings(*parser, settings);
+            parser->accept(unixHabits);
+            const Result result = parser->parse(line.argc(), line.argv());
+            const bool isRight = result.code() == resultOk;
+            memory.left = 0;
+            EXPECT_EQ(settings.changed(), isRight ? right : "") << "allocation " << n;
+        } catch (const std::bad_alloc&) {
+            memory.left = 0;
+            EXPECT_EQ(settings.changed(), "") << "allocation " << n;
+        }
+        if (!std::exchange(memory.hasStruck, false)) {
+            break;
+        }
+        ++failures;
+    }
+    EXPECT_GT(failures, 200u);
+}
+
+}  // namespace
+}  // namespace zarn_3_3

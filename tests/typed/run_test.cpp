@@ -1,0 +1,145 @@
+// What a tool does that calls run.
+
+#include <gmock/gmock.h>
+
+#include "typed/tool_under_test.h"
+
+namespace zarn_3_3 {
+namespace {
+
+using testing::HasSubstr;
+using testing::StartsWith;
+
+struct Ran {
+    std::optional<int> code;
+    std::string output;
+    std::string error;
+};
+
+Ran run(Parser& parser, const Line& line) {
+    testing::internal::CaptureStdout();
+    testing::internal::CaptureStderr();
+    Ran ran{parser.run(line.argc(), line.argv()), "", ""};
+    ran.output = testing::internal::GetCapturedStdout();
+    ran.error = testing::internal::GetCapturedStderr();
+    return ran;
+}
+
+class Run : public testing::Test {
+protected:
+    Run() {
+        declareSettings(parser, settings);
+        parser.declare("Actions", {action("pack,p", "Make an archive."), action("list", "Look.")});
+        parser.declare({modifier("deep", "pack", "Into folders.")});
+    }
+    void expectAnswer(const Line& line, const std::string& output) {
+        const Ran ran = run(parser, line);
+        EXPECT_EQ(ran.code, exitAnswered);
+        EXPECT_THAT(ran.output, HasSubstr(output));
+        EXPECT_EQ(ran.error + settings.changed(), "");
+    }
+    void expectFailure(const Line& line, int code, const std::string& error) {
+        const Ran ran = run(parser, line);
+        EXPECT_EQ(ran.code, code);
+        EXPECT_EQ(ran.error, error);
+        EXPECT_EQ(ran.output, "");
+    }
+    Settings settings;
+    Parser parser{
+        {"sonde", "2.1", "look into archives"}
+    };
+};
+
+TEST_F(Run, GoesOnWhenThereIsSomethingToDo) {
+    const Ran ran = run(parser, {"--pack", "-j=3", "a"});
+    EXPECT_EQ(ran.code, std::nullopt);
+    EXPECT_EQ(settings.changed(), "jobs=3 file=a ");
+    EXPECT_TRUE(parser.result().isGiven("pack"));
+    EXPECT_EQ(ran.output + ran.error, "");
+}
+
+TEST_F(Run, AnswersWhateverElseIsWrong) {
+    const char* const whole =
+        "Usage: sonde ACTION [option ...] [FILE ...]\nlook into archives\n\n"
+        "FILE                          The files.\n\n"
+        "    list   Look.\n    pack   Make an archive.\n\n";
+    expectAnswer({"--help"}, whole);
+    expectAnswer({"-h"}, whole);
+    expectAnswer({"--jobs=x", "-help"}, whole);
+    expectAnswer({"--hel"}, whole);
+    expectAnswer({"--help", "--jobs"}, whole);
+    expectAnswer({"--help", "jobs"}, "-j, -jobs=<integer> (2)       How many at a time.\n");
+    const char* const ofPack = "Usage: sonde --pack [option ...] [FILE ...]\nMake an archive.\n";
+    expectAnswer({"--help=pack"}, ofPack);
+    expectAnswer({"--nonsense", "--help", "p"}, "-deep                         Into folders.\n");
+    expectAnswer({"--version", "--help"}, "sonde 2.1\n");
+    expectAnswer({"--versio"}, "sonde 2.1\n");
+    EXPECT_THAT(parser.help(), StartsWith(whole));
+    EXPECT_THAT(parser.help("jobs"), HasSubstr("-jobs="));
+    EXPECT_THAT(parser.help("pack"), StartsWith(ofPack));
+    EXPECT_THAT(parser.helpOfAction("pack"), StartsWith(ofPack));
+    EXPECT_THAT(parser.helpOfAction("nowhere"), StartsWith("Help for nowhere not available."));
+}
+
+TEST_F(Run, TellsWhyItEnds) {
+    expectFailure({"--bo\x1b\xc2\x9bgus\x7f"},
+                  exitUsage,
+                  "sonde: Unknown option: --bo\\x1b\\xc2\\x9bgus\\x7f\n");
+    expectFailure(
+        {"--jobs=0"},
+        exitUsage,
+        "sonde: Value '0' is not valid for option 'jobs' in argument '--jobs=0': it must be "
+        "between 1 and 64\n");
+    expectFailure(
+        {"--option-file=nowhere"}, exitUnreadable, "sonde: Error reading option file 'nowhere'\n");
+    expectFailure({"--", "--help"}, exitUsage, "sonde: No action defined.\n");
+    expectFailure({"--help", "no\nwhere"},
+                  exitUsage,
+                  "sonde: Help for no\\x0awhere not available.Please use one of the following "
+                  "topics:\n    list   Look.\n    pack   Make an archive.\n");
+    const OnValue failing(parser, [](const char*, const Value&) { throw std::bad_alloc(); });
+    expectFailure({"--jobs=3"}, exitInternal, "sonde: std::bad_alloc\n");
+}
+
+TEST(RunOf, AToolLeavesToItWhatItHasItself) {
+    bool help = false;
+    Parser parser;
+    parser.declare({option("help", "Own.").alone().into(help), option<int>("h", "").required()});
+    EXPECT_EQ(run(parser, {"--help"}).code, std::nullopt);
+    EXPECT_TRUE(help);
+    EXPECT_EQ(run(parser, {"--version"}).error, "tool: Unknown option: --version\n");
+    EXPECT_THAT(parser.help(), StartsWith("Usage:  [option ...]\n\n-help "));
+    Parser nameless;
+    nameless.declare({option<int>("h", ""),
+                      positional<int>("count", "How many.").required(),
+                      positional("rest", "").required()});
+    EXPECT_THAT(run(nameless, {"--help"}).output,
+                StartsWith("Usage: tool [option ...] count rest ...\n\ncount "));
+    const char* const none = nullptr;
+    EXPECT_EQ(nameless.run(0, &none), exitUsage);
+}
+
+TEST(RunOf, AToolThatTakesTheRestLeavesItsArgumentsAlone) {
+    std::vector<std::string> command;
+    Parser parser({"runner", nullptr, nullptr}, usualFlags | flagPositionalTakesRest);
+    parser.declare({option<std::string>("user", ""), positional("command", "").into(command)});
+    parser.accept(unixHabits);
+    EXPECT_EQ(run(parser, {"--user", "me", "list", "--help", "-vj3"}).code, std::nullopt);
+    EXPECT_THAT(command, testing::ElementsAre("list", "--help", "-vj3"));
+    EXPECT_EQ(run(parser, {"list", ""}).code, exitUsage);
+    EXPECT_EQ(run(parser, {"--user", "me", "--help", "list"}).code, exitUsage) << "no such topic";
+}
+
+TEST(RunOf, AToolWhoseHelpCannotBeWrittenEnds) {
+    Parser parser;
+    const Line line{"--help"};
+    std::FILE* const before = stdout;
+    stdout = std::fopen("/dev/full", "w");
+    const auto code = parser.run(line.argc(), line.argv());
+    std::fclose(stdout);
+    stdout = before;
+    EXPECT_EQ(code, exitInternal);
+}
+
+}  // namespace
+}  // namespace zarn_3_3

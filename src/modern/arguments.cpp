@@ -119,6 +119,17 @@ private:
     std::vector<Word> words_;
 };
 
+// Few command lines hold an argument that could be empty, or end in an empty value.
+bool mayBeEmpty(CommandLine line) {
+    for (int i = 1; isAtArgument(line, i); ++i) {
+        const std::string_view argument = line.argv[i];
+        if (argument.empty() || argument.back() == '=' || isClassicSpace(argument.back())) {
+            return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 bool hasDash(const std::string& argument) { return getDashLength(argument, 0) != 0; }
@@ -149,6 +160,9 @@ void OptionWalk::next(const std::string& parsed) {
 }
 
 std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
+    if (!mayBeEmpty(line)) {
+        return "";
+    }
     const auto& positionals = vocabulary.positionals();
     OptionWalk walk(vocabulary, line);
     for (; !walk.isAtEnd(); walk.next(walk.argument())) {

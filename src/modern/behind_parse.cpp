@@ -27,9 +27,26 @@ std::string argumentFor(const ItemRecord& item, std::string_view text) {
     return "";
 }
 
-// The value of the variable of an item that was not given; null when there is none.
-const char* variableFor(const ItemRecord& item, const StoredOutcome& outcome) {
+// The action of a modifier that was given; null when none was.
+const ItemRecord* actionGiven(const StoredOutcome& outcome,
+                              Vocabulary& vocabulary,
+                              const ItemRecord& modifier) {
+    for (const std::string& name : modifier.actions) {
+        const ItemRecord* const action = vocabulary.find(name);
+        if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
+            return action;
+        }
+    }
+    return nullptr;
+}
+
+// The value of the variable of an item that was not given; null when there is none, or when a
+// modifier goes with none of its actions.
+const char* variableFor(const ItemRecord& item, StoredOutcome& outcome) {
     if (item.environment.empty() || outcome.origin(item) > Origin::byDefault) {
+        return nullptr;
+    }
+    if (!item.actions.empty() && actionGiven(outcome, outcome.vocabulary(), item) == nullptr) {
         return nullptr;
     }
     const char* const text = item.readVariable(item.environment.c_str());
@@ -54,19 +71,6 @@ int takeVariable(const ItemRecord& item,
         error.replace(quoted, argument.size(), assignment);
     }
     return code;
-}
-
-// The action of a modifier that was given; null when none was.
-const ItemRecord* actionGiven(const StoredOutcome& outcome,
-                              Vocabulary& vocabulary,
-                              const ItemRecord& modifier) {
-    for (const std::string& name : modifier.actions) {
-        const ItemRecord* const action = vocabulary.find(name);
-        if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
-            return action;
-        }
-    }
-    return nullptr;
 }
 
 // Why the item is missed; empty when it is not.

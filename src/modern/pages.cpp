@@ -98,6 +98,20 @@ std::string topicBehind(const std::string& argument, CommandLine line, int index
     return isNext ? next : std::string(attached);
 }
 
+// Whether an argument could be "--help" or "--version": most command lines hold none.
+bool mayAsk(CommandLine line) {
+    for (int i = 1; i < line.argc && line.argv[i] != nullptr; ++i) {
+        const std::string_view argument = line.argv[i];
+        const std::size_t name = argument.find_first_not_of('-');
+        const char first = name < argument.size() ? argument[name] : '\0';
+        const bool isOtherDash = static_cast<unsigned char>(first) >= 0x80;
+        if (isOtherDash || (name > 0 && (first == *helpName || first == *versionName))) {
+            return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 void declareAnswers(Vocabulary& vocabulary) {
@@ -115,6 +129,9 @@ void declareAnswers(Vocabulary& vocabulary) {
 std::optional<Answer> findAnswer(Vocabulary& vocabulary,
                                  const std::string& tool,
                                  CommandLine line) {
+    if (line.argv == nullptr || !mayAsk(line)) {
+        return std::nullopt;
+    }
     for (OptionWalk walk(vocabulary, line); !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         const CutArgument cut = cutArgument(argument);

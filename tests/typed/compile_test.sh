@@ -43,6 +43,7 @@ the values of this option are texts|zarn::option<std::string>("x", "").allow({1}
 the type it is declared with|zarn::option<zarn::Bytes>("x", "").byDefault("3");
 a switch takes no value|zarn::option("x", "").byDefault(true);
 for a switch a bool or an integer|int i; zarn::option<bool>("x", "").into(i);
+an enumeration allows the names of its table|zarn::option<E>("x", "").allow({E::a});
 no values have this type|zarn::option<char>("x", "");
 bounds are for numbers|zarn::option<std::string>("x", "").between("a", "b");
 only texts and paths name files|zarn::option<int>("x", "").existingFile();
@@ -50,7 +51,8 @@ taken from the environment: use option<bool>|zarn::option("x", "").fromEnvironme
 a positional item takes values|zarn::positional<bool>("x", "");
 a check is called with a value|zarn::option<int>("x", "").check([](std::string) { return true; }, "");
 nodiscard|zarn::Parser().parse(0, nullptr);'
-code=('#include <zarn/typed.h>')
+code=('#include <zarn/typed.h>' 'enum class E { a };'
+    'template <> struct zarn::Names<E> { static constexpr zarn::Name<E> table[] = {{"a", E::a}}; };')
 while IFS='|' read -r _ statement; do
     code+=("void mistake${#code[@]}() { $statement }")
 done <<<"$rows"

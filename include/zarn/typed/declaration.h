@@ -99,6 +99,7 @@ public:
     // be abbreviated as long as they stay unambiguous.
     template <typename U>
     Declaration&& allow(std::initializer_list<U> values) && {
+        static_assert(!internal::isNamed<T>, "an enumeration allows the names of its table");
         for (const U& value : values) {
             description.allowed.push_back({setting(value), {}});
         }

@@ -66,7 +66,8 @@ public:
     // tool   who is parsing; what is left out is not shown
     // flags  any combination of ParserFlag values, or 0
     explicit Parser(const Tool& tool = {}, int flags = usualFlags)
-        : vocabulary_(internal::createVocabulary(tool, flags)) {}
+        : vocabulary_(internal::createVocabulary(tool, flags)),
+          name_(tool.name != nullptr ? tool.name : "error") {}
 
     IParser* operator->() const noexcept { return internal::plainParser(vocabulary_.get()); }
     operator IParser&() const noexcept { return *internal::plainParser(vocabulary_.get()); }
@@ -158,10 +159,15 @@ public:
     // The exit code (see ExitCode) when the tool should end. Nothing when it should go on: the
     // variables are then written, and result() tells the rest.
     [[nodiscard]] std::optional<int> run(int argc, const char* const* argv) {
-        internal::Answer answer;
-        result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
-        const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
-        return isPrinted ? answer.exitCode : exitInternal;
+        try {
+            internal::Answer answer;
+            result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
+            const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
+            return isPrinted ? answer.exitCode : exitInternal;
+        } catch (const std::bad_alloc&) {
+            std::fprintf(stderr, "%s: out of memory\n", name_);
+            return exitInternal;
+        }
     }
 
     // What the last run found; it must have been called, and answered nothing.
@@ -198,6 +204,7 @@ private:
 
     std::unique_ptr<internal::Vocabulary, Release> vocabulary_;
     std::optional<Result> result_;
+    const char* name_;
 };
 
 }  // namespace zarn_3_3

@@ -7,6 +7,7 @@
 #include <string>
 
 int main(int argc, char** argv) {
+    std::cout << std::unitbuf;  // in order with what run prints
     zarn::Parser parser;
     // <part>
     const zarn::OnValue echo(parser, [](const char* name, const zarn::Value& value) {

@@ -10,6 +10,7 @@
 #include <vector>
 
 int main(int argc, char** argv) {
+    std::cout << std::unitbuf;  // in order with what run prints
     zarn::Parser parser;
     // <part>
     if (const auto ended = parser.run(argc, argv)) {

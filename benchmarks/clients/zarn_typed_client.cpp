@@ -2,7 +2,7 @@
 #include "zarn/typed.h"
 
 int main(int argc, char** argv) {
-    zarn::Parser parser(zarn::flagUnknownIsError);
+    zarn::Parser parser({}, zarn::flagUnknownIsError);
     parser.declare("main:Options",
                    {
                        zarn::option<std::string>("name", "whom to greet").byDefault("world"),
@@ -12,15 +12,15 @@ int main(int argc, char** argv) {
                        zarn::positional("file", "what to read"),
                    });
 
-    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
-    if (!parsed) {
-        std::fprintf(stderr, "%s\n", parsed.text.c_str());
-        return parsed.code;
+    const zarn::Result result = parser.parse(argc, argv);
+    if (!result) {
+        std::fprintf(stderr, "%s\n", result.text());
+        return result.code();
     }
-    const Values<const char*> values{zarn::valueOr(parsed.result, "name", ""),
-                                     zarn::valueOr(parsed.result, "count", 0),
-                                     zarn::valueOr(parsed.result, "ratio", 0.0),
-                                     zarn::isGiven(parsed.result, "quiet"),
-                                     zarn::valueOr(parsed.result, "file", "")};
+    const Values<const char*> values{result.valueOr("name", ""),
+                                     result.valueOr("count", 0),
+                                     result.valueOr("ratio", 0.0),
+                                     result.isGiven("quiet"),
+                                     result.valueOr("file", "")};
     return values.print();
 }

@@ -2,12 +2,13 @@
 
 #include <zarn/typed.h>
 
+#include <cstdint>
 #include <iostream>
 #include <string>
 
 int main(int argc, char** argv) {
-    zarn::Parser parser(zarn::flagUnknownIsError | zarn::flagPositionalWithoutDash |
-                        zarn::flagPositionalBehindTerminator);
+    std::cout << std::unitbuf;  // in order with what run prints
+    zarn::Parser parser;
     // <part>
     const zarn::OnValue echo(parser, [](const char* name, const zarn::Value& value) {
         std::cout << name << " '" << value.text << "'";
@@ -18,9 +19,5 @@ int main(int argc, char** argv) {
         }
         std::cout << '\n';
     });
-    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
-    if (!parsed) {
-        std::cerr << parsed.text << '\n';
-    }
-    return parsed.code;
+    return parser.run(argc, argv).value_or(0);
 }

@@ -2,19 +2,20 @@
 
 #include <zarn/typed.h>
 
+#include <chrono>
+#include <filesystem>
 #include <iostream>
+#include <optional>
 #include <string>
-#include <string_view>
+#include <vector>
 
 int main(int argc, char** argv) {
-    zarn::Parser parser(zarn::flagUnknownIsError | zarn::flagPositionalWithoutDash |
-                        zarn::flagPositionalBehindTerminator);
+    std::cout << std::unitbuf;  // in order with what run prints
+    zarn::Parser parser;
     // <part>
-    const zarn::ParseOutcome parsed = parser.parse(argc, argv);
-    if (!parsed) {
-        std::cerr << parsed.text << '\n';
-        return parsed.code;
+    if (const auto ended = parser.run(argc, argv)) {
+        return *ended;
     }
-    [[maybe_unused]] zarn::IParseResult& result = parsed.result;
+    [[maybe_unused]] const zarn::Result& result = parser.result();
     // <part>
 }

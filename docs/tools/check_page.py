@@ -27,7 +27,7 @@ WARNINGS = ("-Wall -Wextra -Wpedantic -Wshadow -Wconversion -Wnon-virtual-dtor "
 PART = "// <part>"
 CMAKE_FRAME = """cmake_minimum_required(VERSION 3.25)
 project(sample LANGUAGES CXX)
-add_executable(tool tool.cpp)
+add_executable({tool} {tool}.cpp)
 """
 DIRECTIVE = re.compile(r"<!-- (tool|file): (\S+)(?: in (\S+))? -->")
 LINK = re.compile(r"\]\(([^)#:]*)(?:#([^)]*))?\)")
@@ -142,12 +142,13 @@ def is_known_command(line):
     return True
 
 
-def cmake_problems(block, folder, environment):
-    """A cmake block serves to build the page's tool."""
+def cmake_problems(block, tool, folder, environment):
+    """A cmake block serves to build the tool."""
     project = folder / f"project_{block.first_line}"
     project.mkdir()
-    (project / "CMakeLists.txt").write_text(CMAKE_FRAME + "\n".join(block.lines) + "\n")
-    (project / "tool.cpp").write_bytes((folder / "tool.cpp").read_bytes())
+    text = CMAKE_FRAME.format(tool=tool) + "\n".join(block.lines) + "\n"
+    (project / "CMakeLists.txt").write_text(text)
+    (project / f"{tool}.cpp").write_bytes((folder / f"{tool}.cpp").read_bytes())
     command = "cmake -B build && cmake --build build"
     done = subprocess.run(command, shell=True, cwd=project, env=environment, text=True,
                           stdout=subprocess.PIPE, stderr=subprocess.STDOUT, check=False)
@@ -215,7 +216,7 @@ def problems_of(page, blocks, work, arguments):
         elif block.verb == "file" or block.kind == "cpp":
             continue  # tried by the commands of the page
         elif block.kind == "cmake":
-            problems += cmake_problems(block, folder, environment)
+            problems += cmake_problems(block, tools[0], folder, environment)
         else:
             problems += [f"{block.where}: nothing tries this: {line}" for line in block.lines
                          if not is_known_command(line)]

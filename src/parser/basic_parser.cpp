@@ -32,26 +32,6 @@ ParseResult& ownResult(IParseResult* result) {
     return dynamic_cast<ParseResult&>(*result);
 }
 
-// Removes what was taken from a vector however the taking ends.
-class TakenArguments {
-public:
-    TakenArguments(std::vector<std::string>& all,
-                   const VectorSource& reader,
-                   const std::vector<std::string>& lookahead)
-        : arguments(all), source(reader), notYetTaken(lookahead) {}
-    TakenArguments(const TakenArguments&) = delete;
-    TakenArguments& operator=(const TakenArguments&) = delete;
-    ~TakenArguments() {
-        const std::size_t count = source.taken() - notYetTaken.size();
-        arguments.erase(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(count));
-    }
-
-private:
-    std::vector<std::string>& arguments;
-    const VectorSource& source;
-    const std::vector<std::string>& notYetTaken;
-};
-
 }  // namespace
 
 int createParser(IParser** out, int flags) {
@@ -155,16 +135,16 @@ int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult
         if (argc < 2) {
             return static_cast<int>(resultOk);
         }
-        CommandLineSource source(argc, argv);
-        return parseSource(source, filled);
+        CommandLineArguments arguments(argc, argv);
+        return parseAll(arguments, filled);
     });
 }
 
 int BasicParser::parseStream(const char* text, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
-        TextSource source(text == nullptr ? "" : text, TextSource::Owner::client);
-        return parseSource(source, filled);
+        TextArguments arguments(text == nullptr ? "" : text, TextArguments::Owner::client);
+        return parseAll(arguments, filled);
     });
 }
 
@@ -217,9 +197,9 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
         return code;
     }
     ParseDriver driver = driverFor(&filled, lastError);
-    VectorSource source(args);
-    std::vector<std::string> front;
-    return parseBehindOptions(driver, front, source, filled);
+    std::vector<std::string> rest(args);
+    VectorArguments arguments(rest);
+    return parseBehindOptions(driver, arguments, filled);
 }
 
 int BasicParser::parse_phase_one(const std::string& terminator,
@@ -227,10 +207,8 @@ int BasicParser::parse_phase_one(const std::string& terminator,
                                  IParseResult* result,
                                  std::string& error) {
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
-    VectorSource source(args);
-    std::vector<std::string> front;
-    const TakenArguments taken(args, source, front);
-    return driverFor(filled, error).parseOptions(terminator, front, source);
+    VectorArguments arguments(args);
+    return driverFor(filled, error).parseOptions(terminator, arguments);
 }
 
 int BasicParser::parse_phase_two(const std::string& /*terminator*/,
@@ -240,19 +218,17 @@ int BasicParser::parse_phase_two(const std::string& /*terminator*/,
     return checkActionRules(registry, allowedActionSets, ownResult(result), error);
 }
 
-int BasicParser::parseSource(ArgumentSource& source, ParseResult& result) {
+int BasicParser::parseAll(Arguments& arguments, ParseResult& result) {
     ParseDriver driver = driverFor(&result, lastError);
-    std::vector<std::string> front;
-    const int code = driver.parseOptions(endOfOptions, front, source);
-    return code != resultOk ? code : parseBehindOptions(driver, front, source, result);
+    const int code = driver.parseOptions(endOfOptions, arguments);
+    return code != resultOk ? code : parseBehindOptions(driver, arguments, result);
 }
 
 // What follows when the options of a command line are parsed: plain arguments, files, rules.
 int BasicParser::parseBehindOptions(ParseDriver& driver,
-                                    std::vector<std::string>& args,
-                                    ArgumentSource& source,
+                                    Arguments& arguments,
                                     ParseResult& result) {
-    int code = driver.collectNonparsingArguments(endOfOptions, args, source);
+    int code = driver.collectNonparsingArguments(endOfOptions, arguments);
     if (code == resultOk && optionFileDeclared) {
         code = OptionFileWalk(driver, result, lastError).run();
     }
@@ -263,7 +239,10 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
 }
 
 ParseDriver BasicParser::driverFor(ParseResult* result, std::string& error) {
-    return {registry, *this, handlers, flags, result, error};
+    return {
+        registry, {*this, handlers},
+         flags, result, error
+    };
 }
 
 }  // namespace zarn_3_3

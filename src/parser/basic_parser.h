@@ -20,7 +20,7 @@ namespace zarn_3_3 {
 class ParseResult;
 
 namespace internal {
-class ArgumentSource;
+class Arguments;
 class ParseDriver;
 }  // namespace internal
 
@@ -89,10 +89,9 @@ private:
     template <typename Tell>
     void passOn(internal::EventKind kind, const char* text, const Value* value, Tell tell);
 
-    int parseSource(internal::ArgumentSource& source, ParseResult& result);
+    int parseAll(internal::Arguments& arguments, ParseResult& result);
     int parseBehindOptions(internal::ParseDriver& driver,
-                           std::vector<std::string>& args,
-                           internal::ArgumentSource& source,
+                           internal::Arguments& arguments,
                            ParseResult& result);
     internal::ParseDriver driverFor(ParseResult* result, std::string& error);
     internal::HelpTopics help() { return {registry, garbage, lastError}; }

@@ -64,10 +64,9 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
 }
 
 int OptionFileWalk::parse(const std::string& content) {
-    TextSource source(content, TextSource::Owner::library);
-    std::vector<std::string> front;
-    const int code = driver.parseOptions(endOfOptions, front, source);
-    return code != resultOk ? code : driver.collectNonparsingArguments(endOfOptions, front, source);
+    TextArguments arguments(content, TextArguments::Owner::library);
+    const int code = driver.parseOptions(endOfOptions, arguments);
+    return code != resultOk ? code : driver.collectNonparsingArguments(endOfOptions, arguments);
 }
 
 int OptionFileWalk::refuse(const std::string& message) {

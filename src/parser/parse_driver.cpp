@@ -18,11 +18,10 @@ namespace {
 
 constexpr const char* logPrefix = "collectNonparsingArguments: ";
 
-void removeLogSwitch(std::vector<std::string>& args, ArgumentSource& source) {
+void removeLogSwitch(Arguments& arguments) {
     switchLogOff();
-    source.fillUp(args);
-    if (!args.empty() && switchLog(args[0])) {
-        source.removeFront(args);
+    if (!arguments.isEmpty() && switchLog(arguments.front())) {
+        arguments.take();
     }
 }
 
@@ -30,19 +29,12 @@ void removeLogSwitch(std::vector<std::string>& args, ArgumentSource& source) {
 
 std::atomic<int> ParseDriver::depth{0};
 
-ParseDriver::ParseDriver(RegisteredOptionStorage& theRegistry,
-                         EventHandler& eventParser,
-                         const HandlerSet& whoListens,
-                         int creationFlags,
-                         ParseResult* filled,
+ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
+                         const Audience& audience,
+                         int flags,
+                         ParseResult* result,
                          std::string& errorText)
-    : registry(theRegistry),
-      parser(eventParser),
-      listeners(whoListens),
-      flags(creationFlags),
-      result(filled),
-      collector(filled),
-      error(errorText) {
+    : registry_(registry), audience_(audience), flags_(flags), result_(result), error_(errorText) {
     depth.store(innermostParse() + 1, std::memory_order_relaxed);
 }
 
@@ -51,24 +43,23 @@ ParseDriver::~ParseDriver() { depth.store(innermostParse() - 1, std::memory_orde
 // Whether client code runs as a matter of course: handlers, a stream under the log, or a locale
 // that is perhaps the client's own.
 bool ParseDriver::isObserved() const {
-    return !listeners.isEmpty() || isLogOn() || globalTextLocale() != TextLocale::classic;
+    return audience_.isThere() || isLogOn() || globalTextLocale() != TextLocale::classic;
 }
 
-int ParseDriver::parseOptions(const std::string& terminator,
-                              std::vector<std::string>& args,
-                              ArgumentSource& source) {
-    removeLogSwitch(args, source);
+int ParseDriver::parseOptions(const std::string& terminator, Arguments& arguments) {
+    removeLogSwitch(arguments);
     if (isObserved()) {
-        source.secure();
+        arguments.secure();
     }
-    PositionalOptionsParser positional(parser, listeners, flags, source);
-    AbbreviationParser abbreviation(parser, listeners, flags, source);
+    PositionalOptionsParser positional(audience_, flags_, arguments);
+    AbbreviationParser abbreviation(audience_, flags_, arguments);
     const Recognizers recognizers{&positional, &abbreviation};
     std::size_t matched = 0;
-    while (!args.empty() && args[0] != terminator) {
-        IArgumentParser* const taker = chooseRecognizer(recognizers, args);
-        const int code = taker != nullptr ? taker->parse(args, collector, registry, matched, error)
-                                          : passOver(args, source);
+    while (!arguments.isEmpty() && arguments.front() != terminator) {
+        IArgumentParser* const taker = chooseRecognizer(recognizers, arguments);
+        const int code = taker != nullptr
+                             ? taker->parse(arguments.window(), result_, registry_, matched, error_)
+                             : passOver(arguments);
         if (code != resultOk) {
             return code;
         }
@@ -78,12 +69,12 @@ int ParseDriver::parseOptions(const std::string& terminator,
 
 // Of those that take the argument in front, the one with the highest priority; null for none.
 IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
-                                               std::vector<std::string>& args) {
+                                               Arguments& arguments) {
     std::string discarded;  // they are only asked
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
     for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(args, registry, discarded) != 0) {
+        if (recognizer->recognize(arguments.window(), registry_, discarded) != 0) {
             continue;
         }
         const int priority = recognizer->getPriority();
@@ -96,31 +87,30 @@ IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
 }
 
 // An argument that nobody takes is an error or skipped; the handlers are asked in both cases.
-int ParseDriver::passOver(std::vector<std::string>& args, ArgumentSource& source) {
-    const bool isUnhandled = parser.onUknownArgument(args[0].c_str());
-    if (isUnhandled && (flags & flagUnknownIsError) != 0) {
-        error = messages::unknownArgument(args[0]);
+int ParseDriver::passOver(Arguments& arguments) {
+    const bool isUnhandled = audience_.handler.onUknownArgument(arguments.front().c_str());
+    if (isUnhandled && (flags_ & flagUnknownIsError) != 0) {
+        error_ = messages::unknownArgument(arguments.front());
         return resultRuleBroken;
     }
-    trace("ignoring ", args[0]);
-    source.removeFront(args);
+    trace("ignoring ", arguments.front());
+    arguments.take();
     return resultOk;
 }
 
-int ParseDriver::collectNonparsingArguments(const std::string& terminator,
-                                            std::vector<std::string>& args,
-                                            ArgumentSource& source) {
-    source.fillUp(args);
-    if (args.empty() || args[0] != terminator) {
+int ParseDriver::collectNonparsingArguments(const std::string& terminator, Arguments& arguments) {
+    if (arguments.isEmpty() || arguments.front() != terminator) {
         return resultOk;
     }
-    for (source.removeFront(args); !args.empty(); source.removeFront(args)) {
-        result->storeArgument(args[0]);
-        trace(logPrefix, "stored argument: '", args[0], "'");
-        if ((flags & flagPositionalBehindTerminator) == 0) {
+    arguments.take();
+    while (!arguments.isEmpty()) {
+        result_->storeArgument(arguments.front());
+        trace(logPrefix, "stored argument: '", arguments.front(), "'");
+        if ((flags_ & flagPositionalBehindTerminator) == 0) {
+            arguments.take();
             continue;
         }
-        const int code = offerToPositional(args[0]);
+        const int code = offerToPositional(arguments);
         if (code != resultOk) {
             return code;
         }
@@ -129,20 +119,18 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator,
 }
 
 // One argument at a time, which behind the terminator may begin with a dash.
-int ParseDriver::offerToPositional(const std::string& argument) {
-    const std::vector<std::string> none;
-    VectorSource nothingElse(none);
-    PositionalOptionsParser positional(
-        parser, listeners, flags & ~flagPositionalWithoutDash, nothingElse);
-    std::vector<std::string> args{argument};
-    const int recognized = positional.recognize(args, registry, error);
-    trace(logPrefix, "recognize result: ", recognized, ", message: ", error);
+int ParseDriver::offerToPositional(Arguments& arguments) {
+    const int flags = flags_ & ~(flagPositionalWithoutDash | flagPositionalTakesRest);
+    PositionalOptionsParser positional(audience_, flags, arguments);
+    const int recognized = positional.recognize(arguments.window(), registry_, error_);
+    trace(logPrefix, "recognize result: ", recognized, ", message: ", error_);
     if (recognized != 0) {
+        arguments.take();
         return resultOk;
     }
     std::size_t matched = 0;
-    const int code = positional.parse(args, collector, registry, matched, error);
-    trace(logPrefix, "parse result: ", code, ", message: ", error);
+    const int code = positional.parse(arguments.window(), result_, registry_, matched, error_);
+    trace(logPrefix, "parse result: ", code, ", message: ", error_);
     return code;
 }
 

@@ -1,6 +1,7 @@
 #include "recognizers/argument_parser.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "recognizers/messages.h"
 #include "result/option_data.h"
@@ -15,15 +16,15 @@ using namespace internal;
 
 std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
 
-IArgumentParser::IArgumentParser(EventHandler& eventHandler,
-                                 const HandlerSet& whoListens,
+IArgumentParser::IArgumentParser(std::string_view itsName,
+                                 const Audience& audience,
                                  int creationFlags,
-                                 ArgumentSource& rest)
-    : handler(eventHandler),
-      listeners(whoListens),
+                                 Arguments& arguments)
+    : name(itsName),
       flags(creationFlags),
-      source(rest),
-      data(std::make_unique<OptionData>()) {}
+      audience_(audience),
+      arguments_(arguments),
+      data_(std::make_unique<OptionData>()) {}
 
 IArgumentParser::~IArgumentParser() = default;
 
@@ -31,37 +32,55 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
 }
 
-int IArgumentParser::refuse(const std::string& error) const {
-    trace(name, ": ", error);
+int IArgumentParser::parse(std::vector<std::string>& args,
+                           IResultCollector* collector,
+                           RegisteredOptionStorage& registry,
+                           std::size_t& optionIndex,
+                           std::string& error) {
+    trace(name, ": parsing argument '", args[0], "'");
+    const int code = match(registry, optionIndex, error);
+    if (code != resultOk) {
+        return code;
+    }
+    const OptionDescription& option = registry.items()[optionIndex];
+    if (mayChange(optionIndex, registry)) {
+        const OptionDescription copy = option.forBinding();
+        return bind(copy, collector, error);
+    }
+    return bind(option, collector, error);
+}
+
+// Client code may run while an occurrence is bound: where it is observed, or else in a stream to
+// which the warning about a deprecated value is written. Then the arguments are made safe from it,
+// and the answer is whether it could change the item too.
+bool IArgumentParser::mayChange(std::size_t item, const RegisteredOptionStorage& registry) {
+    if (!isObserved() && registry.items()[item].deprecatedValues.empty()) {
+        return false;
+    }
+    arguments_.secure();
+    return registry.isOpen(item);
+}
+
+int IArgumentParser::refuse(std::string reason, std::string& error) const {
+    trace(name, ": ", reason);
+    error = std::move(reason);
     return resultRuleBroken;
 }
 
-void IArgumentParser::removeFront(std::vector<std::string>& args) {
-    trace(name, ": removing argument: '", args[0], "'");
-    source.removeFront(args);
+void IArgumentParser::take() {
+    trace(name, ": removing argument: '", arguments_.front(), "'");
+    arguments_.take();
 }
-
-// One occurrence on its way into the result.
-struct IArgumentParser::Binding {
-    std::string_view value;
-    const std::string& option;  // the primary name
-    const OptionDescription& description;
-    const std::string& argument;
-    OptionData& data;
-    std::string& error;
-};
 
 int IArgumentParser::parseValueAndAddOption(std::string_view value,
                                             std::string& error,
                                             const OptionDescription& option,
-                                            std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    data->positions.assign(1, Sequence::draw());
-    data->values.clear();
+    data_->positions.assign(1, Sequence::draw());
+    data_->values.clear();
     if (!value.empty()) {
-        const Binding binding{value, option.primaryName(), option, args[0], *data, error};
         trace(name, ": adding values to result container:");
-        const int code = bindPieces(binding, option.tokenizer);
+        const int code = bindPieces(value, option, error);
         if (code != resultOk) {
             return code;
         }
@@ -69,63 +88,66 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
     if (collector == nullptr) {
         throw std::invalid_argument("There is no result to store into");
     }
-    collector->store(option, *data);
+    collector->store(option, *data_);
     trace(name, ": stored option to result container.");
     return resultOk;
 }
 
-int IArgumentParser::bindPieces(const Binding& binding, char separator) {
-    const std::string_view value = binding.value;
+int IArgumentParser::bindPieces(std::string_view value,
+                                const OptionDescription& option,
+                                std::string& error) {
+    const char separator = option.tokenizer;
     if (separator == 0) {
         trace(name, ": not using tokenizer");
-        return bindPiece(binding, value);
+        return bindPiece(value, value, option, error);
     }
     trace(name, ": using tokenizer on char: '", std::string_view(&separator, 1), "'");
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        binding.error = messages::noValueParsed(value, binding.option);
-        return refuse(binding.error);
+        return refuse(messages::noValueParsed(value, option.primaryName()), error);
     }
     while (start != std::string_view::npos) {
         const std::size_t end = value.find(separator, start);
         const std::string_view piece = value.substr(start, end - start);
         trace(name, ": value is: '", piece, "'");
-        const int code = bindPiece(binding, piece);
+        const int code = bindPiece(piece, value, option, error);
         if (code != resultOk) {
             return code;
         }
         trace(name,
               ": sent event on value parsed, option: '",
-              binding.option,
+              option.primaryName(),
               "', value: '",
-              binding.data.values.back().text,
+              data_->values.back().text,
               "'");
         start = end == std::string_view::npos ? end : value.find_first_not_of(separator, end);
     }
     return resultOk;
 }
 
-int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
-    OptionValue& bound = binding.data.values.emplace_back();
+int IArgumentParser::bindPiece(std::string_view piece,
+                               std::string_view value,
+                               const OptionDescription& option,
+                               std::string& error) {
+    OptionValue& bound = data_->values.emplace_back();
     bound.text = piece;
-    if (!binding.description.validate(bound.text, bound.value, binding.error, textLocale())) {
-        binding.error = messages::invalidValue(binding.argument, binding.error);
-        return refuse(binding.error);
+    if (!option.validate(bound.text, bound.value, error, textLocale())) {
+        return refuse(messages::invalidValue(arguments_.front(), error), error);
     }
     bound.position = Sequence::draw();
-    return isHeard() ? announce(binding, bound) : resultOk;
+    if (!audience_.isThere() || isWelcome(bound, option.primaryName())) {
+        return resultOk;
+    }
+    error = messages::vetoedValue(value, option.primaryName(), arguments_.front());
+    trace(name, error, messages::handlerVetoed);  // kept: nothing behind the name
+    return resultVetoed;
 }
 
-int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
+bool IArgumentParser::isWelcome(const OptionValue& value, const std::string& option) const {
     const char* const held = plinth2::get_variant_value(value.value, nullptr);
     const std::string copy(held == nullptr ? value.text : "");  // with a terminator
     const Value announced(held == nullptr ? copy.c_str() : held, value.value, value.position);
-    if (handler.onValueParse(binding.option.c_str(), announced)) {
-        return resultOk;
-    }
-    binding.error = messages::vetoedValue(binding.value, binding.option, binding.argument);
-    trace(name, binding.error, messages::handlerVetoed);  // kept: nothing behind the name
-    return resultVetoed;
+    return audience_.handler.onValueParse(option.c_str(), announced);
 }
 
 }  // namespace zarn_3_3

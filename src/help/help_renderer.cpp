@@ -5,8 +5,7 @@
 
 #include "help/messages.h"
 #include "options/option_description.h"
-#include "options/registered_option_storage.h"
-#include "text/garbage.h"
+#include "options/section_list.h"
 #include "text/paragraph.h"
 
 namespace zarn_3_3::internal {
@@ -69,33 +68,19 @@ void appendEntry(std::string& text, std::string& column, const OptionDescription
     appendParagraph(text, item.description, column, columnWidth, descriptionWidth);
 }
 
-void appendSectionHead(std::string& text, const std::string& key, const std::string& title) {
-    if (!key.empty()) {
-        text.append(key).append("\n");
+void appendSectionHead(std::string& text, const Section& section) {
+    if (!section.key.empty()) {
+        text.append(section.key).append("\n");
     }
-    if (!title.empty()) {
-        appendParagraph(text, title, "", titleIndent, titleWidth);
+    if (!section.title.empty()) {
+        appendParagraph(text, section.title, "", titleIndent, titleWidth);
         text.append("\n");
     }
 }
 
-}  // namespace
-
-bool HelpRenderer::isVisible(const std::string& sectionKey, bool hidden) {
-    return (sectionKey == "zarn_hidden") == hidden;
-}
-
-const char* HelpRenderer::render(const std::vector<const OptionDescription*>& items,
-                                 bool hidden) const {
-    try {
-        return garbage.keep(textFor(items, hidden));
-    } catch (...) {
-        lastError = messages::unknownError;
-        return garbage.keep(lastError);
-    }
-}
-
-std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, bool hidden) const {
+std::string textFor(const SectionList& sections,
+                    std::vector<const OptionDescription*> items,
+                    bool hidden) {
     std::stable_sort(
         items.begin(), items.end(), [](const OptionDescription* a, const OptionDescription* b) {
             return a->section != b->section ? a->section < b->section : *a < *b;
@@ -103,12 +88,10 @@ std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, b
     std::string text;
     std::string column;
     auto item = items.begin();
-    const auto& sections = registry.sectionPairs();
     for (std::size_t section = 0; section < sections.size(); ++section) {
-        const auto& [key, title] = sections[section];
-        const bool isShown = isVisible(key, hidden);
+        const bool isShown = isSectionVisible(sections[section].key, hidden);
         if (isShown) {
-            appendSectionHead(text, key, title);
+            appendSectionHead(text, sections[section]);
         }
         for (; item != items.end() && (*item)->section == section; ++item) {
             if (isShown && !(*item)->isPositional) {
@@ -120,6 +103,22 @@ std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, b
         }
     }
     return text;
+}
+
+}  // namespace
+
+bool isSectionVisible(const std::string& key, bool hidden) {
+    return (key == "zarn_hidden") == hidden;
+}
+
+HelpText renderOptions(const SectionList& sections,
+                       const std::vector<const OptionDescription*>& items,
+                       bool hidden) {
+    try {
+        return {textFor(sections, items, hidden)};
+    } catch (...) {
+        return {messages::unknownError, true};
+    }
 }
 
 }  // namespace zarn_3_3::internal

@@ -8,7 +8,6 @@
 #include "help/messages.h"
 #include "options/action_modifiers.h"
 #include "options/registered_option_storage.h"
-#include "text/garbage.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -42,58 +41,64 @@ std::string actionList(const std::map<std::string_view, std::string_view>& actio
 
 }  // namespace
 
-const char* HelpTopics::vocabulary(bool hidden) const {
+HelpText HelpTopics::vocabulary(bool hidden) const {
     std::map<std::string_view, std::string_view> actions;  // from name to description
     for (const OptionDescription* const item : getGlobalActions()) {
-        if (HelpRenderer::isVisible(registry.sectionKey(*item), hidden)) {
+        if (isSectionVisible(registry_.sectionKey(*item), hidden)) {
             actions[item->primaryName()] = item->description;
         }
     }
     if (actions.empty()) {
-        const auto all = select(registry, [](const OptionDescription&) { return true; });
-        return renderer.render(all, hidden);
+        const auto all = select(registry_, [](const OptionDescription&) { return true; });
+        return render(all, hidden);
     }
-    return garbage.keep(actionList(actions));
+    return {actionList(actions)};
 }
 
-const char* HelpTopics::topic(const char* name, bool hidden) const {
+HelpText HelpTopics::topic(const char* name, bool hidden) const {
     if (name == nullptr) {
         return vocabulary(hidden);
     }
     std::size_t index = 0;
-    if (findOption(name, index, registry) != resultSuccess) {
+    if (findOption(name, index, registry_) != resultSuccess) {
         return unknownTopic(name, hidden);
     }
-    return renderer.render({&registry.items()[index]}, hidden);
+    return render({&registry_.items()[index]}, hidden);
 }
 
-const char* HelpTopics::modifiersOf(const char* action, bool hidden) const {
+HelpText HelpTopics::modifiersOf(const char* action, bool hidden) const {
     if (action == nullptr) {
-        return "";
+        return {};
     }
     std::size_t index = 0;
-    if (findOption(action, index, registry) != resultSuccess) {
+    if (findOption(action, index, registry_) != resultSuccess) {
         return unknownTopic(action, hidden);
     }
     std::vector<const OptionDescription*> modifiers;
-    findActionModifiers(index, registry.items(), modifiers);
-    return modifiers.empty() ? "" : renderer.render(modifiers, hidden);
+    findActionModifiers(index, registry_.items(), modifiers);
+    return modifiers.empty() ? HelpText() : render(modifiers, hidden);
 }
 
-const char* HelpTopics::globalModifiers(bool hidden) const {
-    return renderer.render(getGlobalModifiers(), hidden);
+HelpText HelpTopics::globalModifiers(bool hidden) const {
+    return render(getGlobalModifiers(), hidden);
 }
 
-const char* HelpTopics::unknownTopic(const std::string& name, bool hidden) const {
-    return garbage.keep(messages::noSuchTopic(name) + vocabulary(hidden));
+HelpText HelpTopics::render(const std::vector<const OptionDescription*>& items, bool hidden) const {
+    return renderOptions(registry_.sections(), items, hidden);
+}
+
+HelpText HelpTopics::unknownTopic(const std::string& name, bool hidden) const {
+    HelpText help = vocabulary(hidden);
+    help.text.insert(0, messages::noSuchTopic(name));
+    return help;
 }
 
 std::vector<const OptionDescription*> HelpTopics::getGlobalActions() const {
-    return select(registry, [](const OptionDescription& item) { return item.kind == kindAction; });
+    return select(registry_, [](const OptionDescription& item) { return item.kind == kindAction; });
 }
 
 std::vector<const OptionDescription*> HelpTopics::getGlobalModifiers() const {
-    return select(registry, [](const OptionDescription& item) {
+    return select(registry_, [](const OptionDescription& item) {
         return item.kind != kindAction && item.tags.empty();
     });
 }

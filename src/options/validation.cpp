@@ -62,11 +62,10 @@ void warn(const std::string& line) {
     }
 }
 
-void warnIfDeprecated(const OptionDescription& option, std::string_view text) {
-    if (option.deprecatedValues.empty()) {
-        return;
-    }
-    const auto deprecated = option.deprecatedValues.find(option.fromString(text));
+void warnIfDeprecated(const OptionDescription& option,
+                      std::string_view text,
+                      const variant_t& value) {
+    const auto deprecated = option.deprecatedValues.find(value);
     if (deprecated == option.deprecatedValues.end()) {
         return;
     }
@@ -89,7 +88,7 @@ bool OptionDescription::validate(std::string_view& text,
         return true;
     }
     if (visitAccepted(*this, [&](const variant_t& value) { return value == converted; })) {
-        warnIfDeprecated(*this, text);
+        warnIfDeprecated(*this, text, converted);
         return true;
     }
     const Abbreviated found = type == vtString ? findAbbreviated(*this, text) : Abbreviated{};
@@ -102,7 +101,7 @@ bool OptionDescription::validate(std::string_view& text,
         return false;
     }
     converted = variant_t(found.match);
-    warnIfDeprecated(*this, found.match);
+    warnIfDeprecated(*this, found.match, converted);
     text = converted.get<const char*>();
     return true;
 }

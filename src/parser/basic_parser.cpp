@@ -4,6 +4,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "help/help_topics.h"
+#include "help/messages.h"
 #include "parser/action_rules.h"
 #include "parser/argument_sources.h"
 #include "parser/guarded.h"
@@ -152,20 +154,32 @@ const char* BasicParser::getErrorDesc() {
     return guardedAnswer("", [&] { return garbage.keep(lastError); });
 }
 
+// Keeps what write(topics) answers.
+template <typename Write>
+const char* BasicParser::keptHelp(Write write) {
+    return guardedAnswer("", [&] {
+        const HelpText help = write(HelpTopics(registry));
+        if (help.isFailure) {
+            lastError = messages::unknownError;
+        }
+        return garbage.keep(help.text);
+    });
+}
+
 const char* BasicParser::getDescription(bool hidden) {
-    return guardedAnswer("", [&] { return help().vocabulary(hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.vocabulary(hidden); });
 }
 
 const char* BasicParser::getDescription(const char* topic, bool hidden) {
-    return guardedAnswer("", [&] { return help().topic(topic, hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.topic(topic, hidden); });
 }
 
 const char* BasicParser::getActionModifiersDescription(const char* action, bool hidden) {
-    return guardedAnswer("", [&] { return help().modifiersOf(action, hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.modifiersOf(action, hidden); });
 }
 
 const char* BasicParser::getGlobalModifiersDescription(bool hidden) {
-    return guardedAnswer("", [&] { return help().globalModifiers(hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.globalModifiers(hidden); });
 }
 
 bool BasicParser::addHandler(EventHandler* handler) {

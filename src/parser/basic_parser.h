@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "help/help_topics.h"
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
 #include "parser/passing_events.h"
@@ -94,7 +93,8 @@ private:
                            internal::Arguments& arguments,
                            ParseResult& result);
     internal::ParseDriver driverFor(ParseResult* result, std::string& error);
-    internal::HelpTopics help() { return {registry, garbage, lastError}; }
+    template <typename Write>
+    const char* keptHelp(Write write);
 
     RegisteredOptionStorage registry;
     Garbage garbage;

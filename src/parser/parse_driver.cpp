@@ -51,8 +51,8 @@ int ParseDriver::parseOptions(const std::string& terminator, Arguments& argument
     if (isObserved()) {
         arguments.secure();
     }
-    PositionalOptionsParser positional(audience_, flags_, arguments);
-    AbbreviationParser abbreviation(audience_, flags_, arguments);
+    PositionalOptionsParser positional(audience_, arguments, flags_);
+    AbbreviationParser abbreviation(audience_, arguments);
     const Recognizers recognizers{&positional, &abbreviation};
     std::size_t matched = 0;
     while (!arguments.isEmpty() && arguments.front() != terminator) {
@@ -121,7 +121,7 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator, Argum
 // One argument at a time, which behind the terminator may begin with a dash.
 int ParseDriver::offerToPositional(Arguments& arguments) {
     const int flags = flags_ & ~(flagPositionalWithoutDash | flagPositionalTakesRest);
-    PositionalOptionsParser positional(audience_, flags, arguments);
+    PositionalOptionsParser positional(audience_, arguments, flags);
     const int recognized = positional.recognize(arguments.window(), registry_, error_);
     trace(logPrefix, "recognize result: ", recognized, ", message: ", error_);
     if (recognized != 0) {

@@ -16,10 +16,8 @@ namespace zarn_3_3 {
 // `parse` relies on what the `recognize` before it, on the same arguments, left here.
 class AbbreviationParser final : public IArgumentParser {
 public:
-    AbbreviationParser(const internal::Audience& audience,
-                       int creationFlags,
-                       internal::Arguments& arguments)
-        : IArgumentParser("AbbreviationParser", audience, creationFlags, arguments) {}
+    AbbreviationParser(const internal::Audience& audience, internal::Arguments& arguments)
+        : IArgumentParser("AbbreviationParser", audience, arguments) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,

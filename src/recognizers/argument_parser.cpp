@@ -18,10 +18,8 @@ std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
 
 IArgumentParser::IArgumentParser(std::string_view itsName,
                                  const Audience& audience,
-                                 int creationFlags,
                                  Arguments& arguments)
     : name(itsName),
-      flags(creationFlags),
       audience_(audience),
       arguments_(arguments),
       data_(std::make_unique<OptionData>()) {}

@@ -33,7 +33,6 @@ public:
     // `itsName` stands in front of every line of the log.
     IArgumentParser(std::string_view itsName,
                     const internal::Audience& audience,
-                    int creationFlags,
                     internal::Arguments& arguments);
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
@@ -89,7 +88,6 @@ protected:
     }
 
     std::string_view name;
-    int flags;
     const internal::Audience audience_;
     internal::Arguments& arguments_;
 

@@ -15,7 +15,7 @@ int PositionalOptionsParser::recognize(std::vector<std::string>& args,
     const std::string& argument = args[0];
     trace(name, ": recognizing argument '", argument, "'");
     const bool isRefused =
-        (flags & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
+        (flags_ & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
     const bool isTaken = !isRefused && registry.firstPositional() != NameIndex::none;
     return isTaken ? recognized : declined;
 }
@@ -33,7 +33,7 @@ int PositionalOptionsParser::match(RegisteredOptionStorage& registry,
 int PositionalOptionsParser::bind(const OptionDescription& option,
                                   IResultCollector* collector,
                                   std::string& error) {
-    const bool takesRest = (flags & flagPositionalTakesRest) != 0;
+    const bool takesRest = (flags_ & flagPositionalTakesRest) != 0;
     do {
         if (audience_.isThere()) {
             audience_.handler.onOptionParse(firstItem_->primaryName().c_str());

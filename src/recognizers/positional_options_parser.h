@@ -16,9 +16,9 @@ namespace zarn_3_3 {
 class PositionalOptionsParser final : public IArgumentParser {
 public:
     PositionalOptionsParser(const internal::Audience& audience,
-                            int creationFlags,
-                            internal::Arguments& arguments)
-        : IArgumentParser("PositionalOptionsParser", audience, creationFlags, arguments) {}
+                            internal::Arguments& arguments,
+                            int flags)
+        : IArgumentParser("PositionalOptionsParser", audience, arguments), flags_(flags) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,
@@ -33,6 +33,7 @@ private:
              IResultCollector* collector,
              std::string& error) override;
 
+    int flags_;
     const OptionDescription* firstItem_ = nullptr;  // which the log and the handlers are told of
 };
 

@@ -118,7 +118,7 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
     const std::size_t positionsBefore = entry.positions.size();
     try {
         for (const OptionValue& value : data.values) {
-            entry.values.emplace_back(value.value, textOf(value), value.position);
+            entry.values.push_back({value.value, textOf(value), value.position});
         }
         entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
     } catch (...) {

@@ -145,7 +145,7 @@ Value ParseResult::stepValue(const StoredOption& entry) {
         return {};
     }
     const StoredValue& value = entry.values[valueCursor++];
-    return {value.text, value, value.position};
+    return {value.text, value.value, value.position};
 }
 
 }  // namespace zarn_3_3

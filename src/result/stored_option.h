@@ -10,19 +10,12 @@
 
 namespace zarn_3_3::internal {
 
-// A value with its text, which belongs to the result, or to the value where that holds the same.
-//
-// Derived, so that the position fits into the bytes that a variant_t leaves free at its end: a
-// result holds one of these for every value.
-struct StoredValue : variant_t {
-    StoredValue(const variant_t& value, const char* keptText, int number)
-        : variant_t(value), position(number), text(keptText) {}
-
-    int position;
+// The text belongs to the result, or to the value where that holds the same.
+struct StoredValue {
+    variant_t value;
     const char* text;
+    int position;
 };
-
-static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));
 
 inline int numberOf(int position) { return position; }
 inline int numberOf(const StoredValue& value) { return value.position; }

@@ -84,7 +84,7 @@ HelpText HelpTopics::globalModifiers(bool hidden) const {
 }
 
 HelpText HelpTopics::render(const std::vector<const OptionDescription*>& items, bool hidden) const {
-    return renderOptions(registry_.sections(), items, hidden);
+    return renderOptions(registry_.sectionList(), items, hidden);
 }
 
 HelpText HelpTopics::unknownTopic(const std::string& name, bool hidden) const {

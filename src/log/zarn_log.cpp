@@ -10,11 +10,11 @@ namespace zarn_3_3::internal {
 std::atomic<bool> zarnLogEnabled{false};
 
 std::ostream& ZarnLog::discardingStream() {
-    if (stream == nullptr) {
-        buffer = std::make_unique<basic_nullbuf<char>>();
-        stream = std::make_unique<std::ostream>(buffer.get());
+    if (stream_ == nullptr) {
+        buffer_ = std::make_unique<basic_nullbuf<char>>();
+        stream_ = std::make_unique<std::ostream>(buffer_.get());
     }
-    return *stream;
+    return *stream_;
 }
 
 std::ostream& zarnLog() {

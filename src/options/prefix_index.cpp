@@ -17,10 +17,10 @@ auto beginsSo(std::string_view beginning, const KeptTexts& texts) {
 
 PrefixIndex::Found PrefixIndex::find(std::string_view beginning, const KeptTexts& texts) {
     measure(texts);
-    if (beginning.size() > longest) {
+    if (beginning.size() > longest_) {
         return {};
     }
-    Length& length = lengths[beginning.size()];
+    Length& length = lengths_[beginning.size()];
     if (length.taken != candidates(beginning.size())) {
         catchUp(length, beginning.size(), texts);
     }
@@ -33,32 +33,32 @@ PrefixIndex::Found PrefixIndex::find(std::string_view beginning, const KeptTexts
 }
 
 void PrefixIndex::measure(const KeptTexts& texts) {
-    for (; measured < texts.size(); ++measured) {
-        const auto number = static_cast<std::uint32_t>(measured);
+    for (; measured_ < texts.size(); ++measured_) {
+        const auto number = static_cast<std::uint32_t>(measured_);
         const std::size_t size = texts[number].size();
         if (isLong(size)) {
-            longOnes.push_back(number);
+            longOnes_.push_back(number);
         }
-        ++ofSize[std::min(size, ordinary)];
-        longest = std::max(longest, size);
+        ++ofSize_[std::min(size, ordinary)];
+        longest_ = std::max(longest_, size);
     }
 }
 
 std::size_t PrefixIndex::candidates(std::size_t size) const {
-    return isLong(size) ? longOnes.size() : measured;
+    return isLong(size) ? longOnes_.size() : measured_;
 }
 
 std::uint32_t PrefixIndex::candidate(std::size_t size, std::size_t at) const {
-    return isLong(size) ? longOnes[at] : static_cast<std::uint32_t>(at);
+    return isLong(size) ? longOnes_[at] : static_cast<std::uint32_t>(at);
 }
 
 // How many texts have at least `size` bytes.
 std::size_t PrefixIndex::countOf(std::size_t size, const KeptTexts& texts) const {
     if (!isLong(size)) {
-        return std::accumulate(ofSize.begin() + size, ofSize.end(), std::size_t{0});
+        return std::accumulate(ofSize_.begin() + size, ofSize_.end(), std::size_t{0});
     }
     const auto isOne = [&](std::uint32_t number) { return texts[number].size() >= size; };
-    return static_cast<std::size_t>(std::count_if(longOnes.begin(), longOnes.end(), isOne));
+    return static_cast<std::size_t>(std::count_if(longOnes_.begin(), longOnes_.end(), isOne));
 }
 
 void PrefixIndex::catchUp(Length& length, std::size_t size, const KeptTexts& texts) const {

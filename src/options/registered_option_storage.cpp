@@ -62,7 +62,7 @@ IOption& RegisteredOptionStorage::modifier(const char* names,
 
 IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     // First of all: a refused declaration still opens its section.
-    const std::uint32_t section = sections_.findOrAdd(given.section);
+    const std::uint32_t section = sections.findOrAdd(given.section);
     std::vector<std::string> nameList;
     split(given.names, nameList);
     if (validateName(nameList) != resultSuccess) {

@@ -43,9 +43,9 @@ public:
 
     const OptionList& items() const { return options; }
 
-    const SectionList& sections() const { return sections_; }
+    const SectionList& sectionList() const { return sections; }
     const std::string& sectionKey(const OptionDescription& item) const {
-        return sections_[item.section].key;
+        return sections[item.section].key;
     }
 
     bool hasActions() const { return actionCount_ != 0; }
@@ -74,7 +74,7 @@ private:
     char separator = ',';
     OptionList options;
     internal::TextArena descriptions_;
-    SectionList sections_;
+    SectionList sections;
     std::size_t actionCount_ = 0;
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
     mutable internal::ItemIndexes indexes_;

@@ -59,7 +59,7 @@ void BasicParser::passOn(EventKind kind, const char* text, const Value* value, T
         return;
     }
     const char* const kept = garbage.init(text);
-    passing.passOnce({kind, kept, value, ParseDriver::innermostParse()}, [&] {
+    passing_.passOnce({kind, kept, value, ParseDriver::innermostParse()}, [&] {
         handlers.visitWhile([&](EventHandler& handler) { return tell(handler, kept); });
     });
 }

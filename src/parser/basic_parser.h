@@ -101,7 +101,7 @@ private:
     std::string lastError;
     int flags;
     internal::HandlerSet handlers;
-    internal::PassingEvents passing;
+    internal::PassingEvents passing_;
     bool optionFileDeclared = false;
     internal::ActionGroups allowedActionSets;
 };

@@ -27,18 +27,18 @@ void removeLogSwitch(Arguments& arguments) {
 
 }  // namespace
 
-std::atomic<int> ParseDriver::depth{0};
+std::atomic<int> ParseDriver::depth_{0};
 
 ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
                          const Audience& audience,
                          int flags,
                          ParseResult* result,
-                         std::string& errorText)
-    : registry_(registry), audience_(audience), flags_(flags), result_(result), error_(errorText) {
-    depth.store(innermostParse() + 1, std::memory_order_relaxed);
+                         std::string& error)
+    : registry_(registry), audience_(audience), flags_(flags), result_(result), error_(error) {
+    depth_.store(innermostParse() + 1, std::memory_order_relaxed);
 }
 
-ParseDriver::~ParseDriver() { depth.store(innermostParse() - 1, std::memory_order_relaxed); }
+ParseDriver::~ParseDriver() { depth_.store(innermostParse() - 1, std::memory_order_relaxed); }
 
 // Whether client code runs as a matter of course: handlers, a stream under the log, or a locale
 // that is perhaps the client's own.

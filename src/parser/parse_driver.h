@@ -25,19 +25,19 @@ constexpr const char* endOfOptions = "--";
 // Reads arguments into one result, and takes those that are dealt with.
 class ParseDriver {
 public:
-    // `errorText` receives the text of a failure. Without a result nothing can be stored, only
+    // `error` receives the text of a failure. Without a result nothing can be stored, only
     // refused.
     ParseDriver(RegisteredOptionStorage& registry,
                 const Audience& audience,
                 int flags,
                 ParseResult* result,
-                std::string& errorText);
+                std::string& error);
     ParseDriver(const ParseDriver&) = delete;
     ParseDriver& operator=(const ParseDriver&) = delete;
     ~ParseDriver();
 
     // Tells parses apart of which one runs inside the events of another, in whatever parsers.
-    static int innermostParse() { return depth.load(std::memory_order_relaxed); }
+    static int innermostParse() { return depth_.load(std::memory_order_relaxed); }
 
     // Parses up to the terminator, which then stands in front, or to the end. Sets the debug log on
     // or off first, by the first argument. resultOk, or the code of the failure.
@@ -61,7 +61,7 @@ private:
     ParseResult* result_;
     std::string& error_;
 
-    static std::atomic<int> depth;  // of the parse in progress
+    static std::atomic<int> depth_;  // of the parse in progress
 };
 
 }  // namespace internal

@@ -27,28 +27,28 @@ auto uninterrupted(Call call) {
 class OpenFile {
 public:
     explicit OpenFile(const ustring8& path)
-        : descriptor(uninterrupted([&path] { return calls::openForReading(path.c_str()); })) {}
+        : descriptor_(uninterrupted([&path] { return calls::openForReading(path.c_str()); })) {}
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() {
         if (isOpen()) {
-            calls::closeDescriptor(descriptor);
+            calls::closeDescriptor(descriptor_);
         }
     }
 
-    bool isOpen() const { return descriptor != -1; }
+    bool isOpen() const { return descriptor_ != -1; }
 
     bool readStatus(struct stat& status) const {
-        return calls::statusOfDescriptor(descriptor, &status) == 0;
+        return calls::statusOfDescriptor(descriptor_, &status) == 0;
     }
 
     // The bytes read, 0 at the end, -1 after an error.
     ssize_t read(char* buffer, std::size_t size) const {
-        return uninterrupted([&] { return calls::readSome(descriptor, buffer, size); });
+        return uninterrupted([&] { return calls::readSome(descriptor_, buffer, size); });
     }
 
 private:
-    int descriptor;
+    int descriptor_;
 };
 
 bool isLoadable(const struct stat& status) {

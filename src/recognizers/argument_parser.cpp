@@ -16,10 +16,10 @@ using namespace internal;
 
 std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
 
-IArgumentParser::IArgumentParser(std::string_view itsName,
+IArgumentParser::IArgumentParser(std::string_view component,
                                  const Audience& audience,
                                  Arguments& arguments)
-    : name(itsName),
+    : name(component),
       audience_(audience),
       arguments_(arguments),
       data_(std::make_unique<OptionData>()) {}

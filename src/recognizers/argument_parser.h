@@ -30,8 +30,8 @@ struct OptionValue;
 // where they stand.
 class IArgumentParser {
 public:
-    // `itsName` stands in front of every line of the log.
-    IArgumentParser(std::string_view itsName,
+    // `component` stands in front of every line of the log.
+    IArgumentParser(std::string_view component,
                     const internal::Audience& audience,
                     internal::Arguments& arguments);
     IArgumentParser(const IArgumentParser&) = delete;

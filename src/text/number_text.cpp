@@ -138,7 +138,7 @@ public:
 
     template <typename T>
     bool read(T& number) {
-        stream >> number;
+        stream_ >> number;
         return isRead();
     }
 
@@ -148,26 +148,26 @@ public:
 private:
     bool isRead() const;
 
-    std::istringstream stream;
+    std::istringstream stream_;
 };
 
-NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream(std::string(text)) {
+NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream_(std::string(text)) {
     if (isHexadecimal) {
-        stream >> std::hex;
+        stream_ >> std::hex;
     }
 }
 
 NumberStream::~NumberStream() = default;
 
 bool NumberStream::isRead() const {
-    throwIfOutOfMemory(stream);
-    return !stream.fail();
+    throwIfOutOfMemory(stream_);
+    return !stream_.fail();
 }
 
 bool NumberStream::isAtEnd() {
     char following = 0;
-    const bool isThere = static_cast<bool>(stream >> following);
-    throwIfOutOfMemory(stream);
+    const bool isThere = static_cast<bool>(stream_ >> following);
+    throwIfOutOfMemory(stream_);
     return !isThere;
 }
 

@@ -11,6 +11,8 @@
 namespace zarn_3_3::internal {
 namespace {
 
+// Names and values on the left, descriptions on the right: lines of at most 79 bytes. Titles may be
+// one byte longer.
 constexpr std::size_t columnWidth = 30;
 constexpr std::size_t descriptionWidth = 50;
 constexpr std::size_t titleIndent = 1;
@@ -24,6 +26,7 @@ void appendNames(std::string& column, const OptionDescription& item) {
     column.append("-").append(item.primaryName());
 }
 
+// Both forms that a user may type; the mark stands behind the one that holds when neither is given.
 void appendBoolean(std::string& column, const OptionDescription& item) {
     const char* const mark = " (default)";
     const bool isOn = item.hasDefault && item.defaultVal.get<bool>();
@@ -36,6 +39,8 @@ void appendBoolean(std::string& column, const OptionDescription& item) {
     }
 }
 
+// The allowed values say more than the name of their type. A default with an empty text is none, in
+// a result too.
 void appendValueForm(std::string& column, const OptionDescription& item) {
     if (item.allowedValues.empty()) {
         column.append("=<").append(item.getTypeName()).append(">");
@@ -53,6 +58,9 @@ void appendValueForm(std::string& column, const OptionDescription& item) {
     }
 }
 
+// A column that is too wide stands on a line of its own, and the description starts below it.
+//
+// Kept: an item without a description is shown only if its column is that wide.
 void appendEntry(std::string& text, std::string& column, const OptionDescription& item) {
     column.clear();
     appendNames(column, item);
@@ -68,6 +76,7 @@ void appendEntry(std::string& text, std::string& column, const OptionDescription
     appendParagraph(text, item.description, column, columnWidth, descriptionWidth);
 }
 
+// The section of items that were declared without one has neither key nor title, and no head.
 void appendSectionHead(std::string& text, const Section& section) {
     if (!section.key.empty()) {
         text.append(section.key).append("\n");
@@ -81,6 +90,8 @@ void appendSectionHead(std::string& text, const Section& section) {
 std::string textFor(const SectionList& sections,
                     std::vector<const OptionDescription*> items,
                     bool hidden) {
+    // By section first: one pass over the items then serves all sections. Items with one name
+    // stay in the order of their declaration.
     std::stable_sort(
         items.begin(), items.end(), [](const OptionDescription* a, const OptionDescription* b) {
             return a->section != b->section ? a->section < b->section : *a < *b;
@@ -93,6 +104,7 @@ std::string textFor(const SectionList& sections,
         if (isShown) {
             appendSectionHead(text, sections[section]);
         }
+        // The items of a section that is not shown are passed over here, too.
         for (; item != items.end() && (*item)->section == section; ++item) {
             if (isShown && !(*item)->isPositional) {
                 appendEntry(text, column, **item);
@@ -116,6 +128,7 @@ HelpText renderOptions(const SectionList& sections,
                        bool hidden) {
     try {
         return {textFor(sections, items, hidden)};
+        // Whatever it was: who asks for help shall get an answer, and no other failure.
     } catch (...) {
         return {messages::unknownError, true};
     }

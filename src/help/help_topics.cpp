@@ -12,7 +12,7 @@
 namespace zarn_3_3::internal {
 namespace {
 
-// Appends pointers to the items for which isWanted(item) holds.
+// The items for which isWanted(item) holds, in the order of declaration.
 template <typename IsWanted>
 std::vector<const OptionDescription*> select(const RegisteredOptionStorage& registry,
                                              IsWanted isWanted) {
@@ -26,6 +26,7 @@ std::vector<const OptionDescription*> select(const RegisteredOptionStorage& regi
     return selected;
 }
 
+// In the order of the names, whatever the order of declaration; one column for all of them.
 std::string actionList(const std::map<std::string_view, std::string_view>& actions) {
     std::size_t longest = 0;
     for (const auto& action : actions) {
@@ -42,6 +43,8 @@ std::string actionList(const std::map<std::string_view, std::string_view>& actio
 }  // namespace
 
 HelpText HelpTopics::vocabulary(bool hidden) const {
+    // Actions first: with them, options are asked for by action. A vocabulary whose actions are all
+    // hidden shows its options as one without actions does.
     std::map<std::string_view, std::string_view> actions;  // from name to description
     for (const OptionDescription* const item : getGlobalActions()) {
         if (isSectionVisible(registry_.sectionKey(*item), hidden)) {
@@ -60,6 +63,7 @@ HelpText HelpTopics::topic(const char* name, bool hidden) const {
         return vocabulary(hidden);
     }
     std::size_t index = 0;
+    // Whole names alone: an abbreviation is for those who know what they want.
     if (findOption(name, index, registry_) != resultSuccess) {
         return unknownTopic(name, hidden);
     }
@@ -74,6 +78,7 @@ HelpText HelpTopics::modifiersOf(const char* action, bool hidden) const {
     if (findOption(action, index, registry_) != resultSuccess) {
         return unknownTopic(action, hidden);
     }
+    // Kept: any item passes for an action here, and lists what shares a tag with it.
     std::vector<const OptionDescription*> modifiers;
     findActionModifiers(index, registry_.items(), modifiers);
     return modifiers.empty() ? HelpText() : render(modifiers, hidden);

@@ -18,6 +18,7 @@ using TROV_2_18::debugAssertionFailed;
 
 // A block for `size` bytes with one owner; at least `capacity` bytes can be written.
 void* allocateData(std::size_t size, std::size_t capacity) {
+    // The sum would begin again at zero, and the block be too small.
     if (capacity > std::numeric_limits<std::size_t>::max() - sizeof(DataHeader)) {
         throw std::bad_alloc();
     }
@@ -79,6 +80,8 @@ std::int64_t integerBits(const Payload& payload,
 
 }  // namespace
 
+// Numbers stand in 64 bits whatever their type, so that comparisons and readers know one width.
+// Borrowed texts are never touched: whoever lends them keeps them.
 variant_t::variant_t(bool value) noexcept : m_value{value}, m_type(vtBool) {}
 variant_t::variant_t(int value) noexcept : m_value{value}, m_type(vtS32) {}
 variant_t::variant_t(unsigned value) noexcept : m_value{value}, m_type(vtU32) {}
@@ -124,6 +127,7 @@ variant_t::variant_t(const variant_t& other) noexcept
 }
 
 variant_t& variant_t::operator=(const variant_t& other) noexcept {
+    // The copy first: the data of a value that is assigned to itself has an owner all the time.
     return *this = variant_t(other);
 }
 

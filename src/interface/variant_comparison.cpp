@@ -27,6 +27,7 @@ int compareBlobs(const void* left, const void* right) noexcept {
     const DataHeader* const rightHeader = headerOf(right);
     const std::uint64_t leftSize = leftHeader != nullptr ? leftHeader->size : 0;
     const std::uint64_t rightSize = rightHeader != nullptr ? rightHeader->size : 0;
+    // The shorter one is less, whatever it holds.
     if (leftSize != rightSize || leftSize == 0) {
         return compareNumbers(leftSize, rightSize);
     }
@@ -63,6 +64,8 @@ int variant_t::compare(const variant_t& other) const noexcept {
         if (isFloating(m_type) || isFloating(other.m_type)) {
             return compareNumbers(asDouble(), other.asDouble());
         }
+        // Signed as soon as one of them is: -1 is then less than 1, and the largest unsigned number
+        // is -1.
         if (isUnsigned(m_type) && isUnsigned(other.m_type)) {
             return compareNumbers(bitsAs<std::uint64_t>(m_value),
                                   bitsAs<std::uint64_t>(other.m_value));

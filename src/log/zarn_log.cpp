@@ -18,6 +18,7 @@ std::ostream& ZarnLog::discardingStream() {
 }
 
 std::ostream& zarnLog() {
+    // Made when it is first needed: most processes never look at the log.
     static ZarnLog log;
     return isLogOn() ? TROV_2_18::strings::pl2::ucout : log.discardingStream();
 }

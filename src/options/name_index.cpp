@@ -5,11 +5,13 @@
 namespace zarn_3_3::internal {
 
 void NameIndex::catchUp(const OptionList& options) {
+    // The item taken in last comes first again: it may have got synonyms since, up to the moment at
+    // which the next one was declared. What is taken in is counted name by name, so that a failure
+    // in between loses nothing and repeats nothing but the name that failed.
     for (;;) {
         if (itemsTaken_ > 0) {
             const OptionDescription& last = options[itemsTaken_ - 1];
             for (; namesTaken_ < last.names.size(); ++namesTaken_) {
-                // A name that could not be added is added again the next time.
                 add(last, static_cast<std::uint32_t>(itemsTaken_ - 1), last.names[namesTaken_]);
             }
         }
@@ -22,6 +24,8 @@ void NameIndex::catchUp(const OptionList& options) {
 }
 
 void NameIndex::add(const OptionDescription& item, std::uint32_t itemIndex, std::string_view name) {
+    // Only the first item with a name is found by it, but a question about kinds or sections wants
+    // to hear of all of them. A form that was a "no-" form alone until now may become a name.
     Entry& entry = findOrAdd(name, itemIndex);
     if (entry.namedItem == noItem) {
         entry.namedItem = itemIndex;

@@ -47,6 +47,8 @@ IOption& RegisteredOptionStorage::option(const char* names,
                         orEmpty(section),
                         isAction,
                         type});
+        // Clients chain settings onto whatever they get, without a look: they get something that
+        // takes them.
     } catch (const std::exception&) {
         return refused();
     }
@@ -61,7 +63,7 @@ IOption& RegisteredOptionStorage::modifier(const char* names,
 }
 
 IOption& RegisteredOptionStorage::declare(const Declaration& given) {
-    // First of all: a refused declaration still opens its section.
+    // Kept: a declaration that is refused opens its section, and help shows it without items.
     const std::uint32_t section = sections.findOrAdd(given.section);
     std::vector<std::string> nameList;
     split(given.names, nameList);
@@ -69,10 +71,15 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
         return refused();
     }
     if (isTaken(nameList)) {
+        // In the log alone: whoever declares has no code to look at, only a handle.
         trace(messages::nameIsTaken, given.names);
         return refused();
     }
-    firstPositional();  // the last item stays as it is from now on
+    // The handle of the item before ends here: whether that became positional is known now, and
+    // nobody looks at it again.
+    firstPositional();
+    // What can fail comes first, on an item that is taken back then. Behind it nothing does: names
+    // are moved, and numbers set.
     OptionDescription& item = options.add();
     try {
         item.description = descriptions_.keep(given.description);
@@ -111,6 +118,7 @@ IOption& RegisteredOptionStorage::refused() noexcept {
 bool RegisteredOptionStorage::isDeclared(std::string_view name,
                                          bool isAction,
                                          const char* section) const {
+    // Synonyms give one name to several items, so that the first one need not be the one asked for.
     return names().isAnyNamed(name, [&](std::size_t number) {
         const OptionDescription& item = options[number];
         return (item.kind == kindAction) == isAction &&
@@ -119,6 +127,7 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
 }
 
 result_t validateName(const std::vector<std::string>& names) {
+    // A primary name, a synonym, and a short form of one or two letters.
     constexpr std::size_t mostNames = 3;
     constexpr std::size_t longestThirdName = 2;
     const bool isRefused = names.size() > mostNames ||

@@ -21,6 +21,7 @@ std::uint32_t SectionList::findOrAdd(std::string_view text) {
     }
     const bool hasTitle = colon != std::string_view::npos;
     const std::string_view title = hasTitle ? text.substr(colon + 1) : std::string_view();
+    // Room comes first: a section that stands in the list without being found would be there twice.
     byKey_.makeRoom(1);
     sections_.push_back({std::string(key), std::string(title)});
     last_ = static_cast<std::uint32_t>(sections_.size() - 1);

@@ -17,6 +17,7 @@ void ActionGroups::add(const std::set<std::string>& actions) {
 }
 
 const std::vector<std::size_t>& ActionGroups::holding(const std::string& action) const {
+    // By far the most actions are in no group.
     static const std::vector<std::size_t> noGroups;
     const auto groups = groupsByAction_.find(action);
     return groups == groupsByAction_.end() ? noGroups : groups->second;

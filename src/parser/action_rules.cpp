@@ -39,6 +39,8 @@ std::vector<GivenItem> entriesToCheck(const RegisteredOptionStorage& registry,
     return given;
 }
 
+// Two passes over the entries: the first finds the actions and whether they go together, the second
+// asks each modifier whether one of them takes it. A broken rule of the first kind is told first.
 class ActionCheck {
 public:
     ActionCheck(const RegisteredOptionStorage& registry,
@@ -72,11 +74,14 @@ private:
     int take(GivenItem& given) {
         std::size_t index = 0;
         const result_t found = findOption(given.entry->name, index, registry_);
+        // A name that another parser stored. Kept: the code of the lookup becomes that of the
+        // parse, which reads as a veto, and the error text stays as it was.
         if (found != resultSuccess) {
             return found;
         }
         given.item = &registry_.items()[index];
         if (given.item->kind != kindAction) {
+            // A default is enough: the tool has something set, and nothing to do with it.
             isOptionSeen_ = true;
             return resultOk;
         }
@@ -84,10 +89,12 @@ private:
     }
 
     int takeAction(const OptionDescription& action) {
+        // Two entries of one action exclude each other as little as one does itself.
         const bool isFirst = firstAction_ == nullptr;
         if (isFirst) {
             firstAction_ = &action;
         }
+        // An action with synonyms stands in the result under each of them.
         if (actions_.insert(action.primaryName()).second) {
             narrowGroups(action.primaryName(), isFirst);
         }
@@ -102,6 +109,7 @@ private:
     bool assertActionsCanBeUsedSimultaneously() const { return !commonGroups_.empty(); }
 
     void narrowGroups(const std::string& action, bool isFirst) {
+        // Both lists ascend, so that what they share is found in one walk.
         const std::vector<std::size_t>& holding = groups_.holding(action);
         if (isFirst) {
             commonGroups_ = holding;

@@ -26,6 +26,7 @@ CommandLineArguments::CommandLineArguments(int argc, const char* const* argv) {
     if (argv == nullptr) {
         throw std::invalid_argument("The argument vector is null");
     }
+    // The name of the program is no argument.
     at_ = argv + 1;
     end_ = argv + argc;
 }
@@ -34,12 +35,14 @@ bool CommandLineArguments::next(std::string& argument) {
     if (at_ == end_ || *at_ == nullptr) {
         return false;
     }
+    // Into the memory of the argument before, mostly: no allocation for each.
     argument = *at_;
     ++at_;
     return true;
 }
 
 void CommandLineArguments::copyRest() {
+    // The pointers too: a handler may write into the vector itself.
     for (; at_ != end_ && *at_ != nullptr; ++at_) {
         copies_.push_back(texts_.keep(*at_));
     }
@@ -48,6 +51,7 @@ void CommandLineArguments::copyRest() {
 }
 
 VectorArguments::~VectorArguments() {
+    // What was looked at, and not taken, stays.
     const std::size_t taken = read_ - window().size();
     all_.erase(all_.begin(), all_.begin() + static_cast<std::ptrdiff_t>(taken));
 }
@@ -69,6 +73,7 @@ bool TextArguments::next(std::string& argument) {
     if (position_ == lines_.size()) {
         lines_.clear();
         position_ = 0;
+        // A few at a time: a large file is not cut in full before its first line is parsed.
         parseStreamToArgs(rest_, lines_, 16);
         if (lines_.empty()) {
             return false;
@@ -79,7 +84,7 @@ bool TextArguments::next(std::string& argument) {
     return true;
 }
 
-// From the first argument that was not given out yet.
+// From the first argument that was not given out yet. A text of the library's own is safe as it is.
 void TextArguments::copyRest() {
     if (owner_ == Owner::library) {
         return;

@@ -26,7 +26,8 @@ void requireOut(Made** out) {
     }
 }
 
-// Throws std::bad_cast for a result of somebody else's making.
+// Results of any parser will do, but a class of the client's own that implements the interface has
+// no place to store into: std::bad_cast.
 ParseResult& ownResult(IParseResult* result) {
     if (result == nullptr) {
         throw std::invalid_argument("The result is null");
@@ -37,9 +38,11 @@ ParseResult& ownResult(IParseResult* result) {
 }  // namespace
 
 int createParser(IParser** out, int flags) {
+    // There is no parser yet that could keep the text of a failure.
     std::string discarded;
     return guarded(discarded, [&] {
         requireOut(out);
+        // Freed by destroy, and by nobody else.
         *out = new BasicParser(flags);
         return resultOk;
     });
@@ -51,8 +54,11 @@ BasicParser::BasicParser(int creationFlags) : flags(creationFlags) {
     }
 }
 
-// Calls tell(handler, text) until it answers false. The text is kept, so that handlers may store
-// the pointer.
+// Passes an event on: calls tell(handler, text) for each handler until it answers false. The text
+// is kept, so that handlers may store the pointer.
+//
+// The parser is an event handler itself, so that recognisers need not know who listens, and so that
+// a parser can be a handler of another one.
 template <typename Tell>
 void BasicParser::passOn(EventKind kind, const char* text, const Value* value, Tell tell) {
     if (handlers.isEmpty()) {
@@ -87,6 +93,7 @@ bool BasicParser::onUknownArgument(const char* argument) {
            argument,
            nullptr,
            [&](EventHandler& handler, const char* kept) {
+               // The handler comes first: whatever those before it said, it is asked.
                isUnhandled = handler.onUknownArgument(kept) && isUnhandled;
                return true;
            });
@@ -133,7 +140,10 @@ bool BasicParser::isOptionDeclared(const char* name, bool action, const char* se
 int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
+        // Defaults come before anything that can fail, so that a failed parse leaves them, and in
+        // front of all numbers of the line.
         filled.applyDefault(registry.items());
+        // Kept: an empty command line breaks no rule, not even that an action is needed.
         if (argc < 2) {
             return static_cast<int>(resultOk);
         }
@@ -192,6 +202,8 @@ bool BasicParser::addHandler(EventHandler* handler) {
 bool BasicParser::removeHandler(EventHandler* handler) { return handlers.remove(handler); }
 
 bool BasicParser::addOptionFileOption(const char* description, const char* section) {
+    // Kept: also when a client has declared an "option-file" of its own, which then names the
+    // files.
     optionFileDeclared = true;
     option(optionFileName, description, vtString, section);
     return true;
@@ -211,6 +223,7 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
         return code;
     }
     ParseDriver driver = driverFor(&filled, lastError);
+    // A copy: the terminator and what follows stay in the vector of whoever called.
     std::vector<std::string> rest(args);
     VectorArguments arguments(rest);
     return parseBehindOptions(driver, arguments, filled);
@@ -220,6 +233,7 @@ int BasicParser::parse_phase_one(const std::string& terminator,
                                  std::vector<std::string>& args,
                                  IParseResult* result,
                                  std::string& error) {
+    // What would be refused can be asked without a result.
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
     VectorArguments arguments(args);
     return driverFor(filled, error).parseOptions(terminator, arguments);
@@ -243,6 +257,8 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
                                     Arguments& arguments,
                                     ParseResult& result) {
     int code = driver.collectNonparsingArguments(endOfOptions, arguments);
+    // Files come behind the line itself, so that of values given in both the last one is the
+    // file's.
     if (code == resultOk && optionFileDeclared) {
         code = OptionFileWalk(driver, result, lastError).run();
     }

@@ -14,9 +14,13 @@ constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
 
 }  // namespace
 
+// A walk by index over a list that grows: the files that a file names are values behind those that
+// stand there already. This takes the place of recursion, whose depth a file could choose.
 int OptionFileWalk::run() {
     noteNewValues(none);
     const StoredOption* entry = result_.find(optionFileName);
+    // A default names a file like a value. The walk begins at the first value then, which that file
+    // may have brought.
     if (entry != nullptr && entry->isDefaultOnly()) {
         const int code = read(entry->defaultText, none);
         if (code != resultOk) {
@@ -37,6 +41,9 @@ int OptionFileWalk::run() {
 }
 
 int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
+    // A file is known by what it is, not by its path: links and other spellings lead to it as well.
+    // The cycle is looked for before the limits, which one would reach in the end: it is the better
+    // reason.
     const auto identity = TROV_2_18::system::identify(path);
     if (identity && isBeingRead(*identity, namedIn)) {
         return refuse(messages::optionFileRefused(path, messages::optionFileCycle));
@@ -48,6 +55,8 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
     if (TROV_2_18::system::load_file(path, content) != 0) {
         return refuse(messages::optionFileUnreadable(path));
     }
+    // After the load, which has a limit of its own: a file may change until it is read, a pipe has
+    // no size.
     bytesRead_ += content.size();
     if (bytesRead_ > mostBytes) {
         return refuse(messages::optionFileRefused(path, messages::tooMuchOptionText));

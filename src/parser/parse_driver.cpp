@@ -18,6 +18,8 @@ namespace {
 
 constexpr const char* logPrefix = "collectNonparsingArguments: ";
 
+// Each command line and each file decides anew: a log that was asked for in one place says nothing
+// of the next.
 void removeLogSwitch(Arguments& arguments) {
     switchLogOff();
     if (!arguments.isEmpty() && switchLog(arguments.front())) {
@@ -35,6 +37,8 @@ ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
                          ParseResult* result,
                          std::string& error)
     : registry_(registry), audience_(audience), flags_(flags), result_(result), error_(error) {
+    // Parses run inside each other when handlers parse. An atomic, since parsers in other threads
+    // count here as well; they only get numbers that tell less.
     depth_.store(innermostParse() + 1, std::memory_order_relaxed);
 }
 
@@ -48,6 +52,8 @@ bool ParseDriver::isObserved() const {
 
 int ParseDriver::parseOptions(const std::string& terminator, Arguments& arguments) {
     removeLogSwitch(arguments);
+    // With nobody there the texts are read where the caller has them, and most tools never pay for
+    // a copy.
     if (isObserved()) {
         arguments.secure();
     }
@@ -73,6 +79,8 @@ IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
     std::string discarded;  // they are only asked
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
+    // All are asked, also when one has said yes: the log shows what each of them makes of an
+    // argument.
     for (IArgumentParser* const recognizer : recognizers) {
         if (recognizer->recognize(arguments.window(), registry_, discarded) != 0) {
             continue;
@@ -88,6 +96,8 @@ IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
 
 // An argument that nobody takes is an error or skipped; the handlers are asked in both cases.
 int ParseDriver::passOver(Arguments& arguments) {
+    // Handlers hear of it before it is an error: that is how a tool takes arguments that it does
+    // not declare.
     const bool isUnhandled = audience_.handler.onUknownArgument(arguments.front().c_str());
     if (isUnhandled && (flags_ & flagUnknownIsError) != 0) {
         error_ = messages::unknownArgument(arguments.front());
@@ -118,7 +128,8 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator, Argum
     return resultOk;
 }
 
-// One argument at a time, which behind the terminator may begin with a dash.
+// One argument at a time, which behind the terminator may begin with a dash. Each is a plain
+// argument first, and only then an occurrence: the result shows it in both ways.
 int ParseDriver::offerToPositional(Arguments& arguments) {
     const int flags = flags_ & ~(flagPositionalWithoutDash | flagPositionalTakesRest);
     PositionalOptionsParser positional(audience_, arguments, flags);

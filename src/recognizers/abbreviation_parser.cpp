@@ -26,6 +26,7 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
     candidates.clear();
     trace(name, ": recognizing argument '", argument, "'");
     matchIndex = NameIndex::none;
+    // A lone dash is no option: many tools take it for the standard input.
     if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
         return declined;
     }
@@ -54,6 +55,10 @@ bool AbbreviationParser::recognizeName(const std::string& argument,
     return true;
 }
 
+// Looking for the best match. A form that is typed in full was found before; of the others those
+// match that begin with the text, letter by letter. One match is taken. Nothing is ever guessed
+// beyond that, however close a name may be: a tool could do something else than its user asked for.
+//
 // The number of matches: one is left in `matchName` and `matchIndex`, several in `candidates`.
 int AbbreviationParser::findBestMatch(const std::string& argument,
                                       RegisteredOptionStorage& registry) {
@@ -61,12 +66,14 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
     if (found.first == KeptTexts::none) {
         return 0;
     }
+    // The index counts forms, not items: two names of one item that begin so are ambiguous too.
     if (found.isOnly) {
         matchName = registry.names().forms()[found.first];
         matchIndex = registry.names().firstWithForm(found.first);
         return 1;
     }
-    // Who they are is asked once in a parse, which fails with that: a walk over all forms will do.
+    // The index knows that there are several, not which. That is asked once in a parse, which fails
+    // with it: a walk over all forms will do.
     std::vector<std::string> tied;
     makeOptionNamesList(registry, text_, tied);
     for (const std::string& form : tied) {
@@ -84,25 +91,29 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
     return static_cast<int>(tied.size());
 }
 
-int AbbreviationParser::match(RegisteredOptionStorage& registry,
-                              std::size_t& optionIndex,
-                              std::string& error) {
+const OptionDescription* AbbreviationParser::match(RegisteredOptionStorage& registry,
+                                                   std::size_t& optionIndex,
+                                                   std::string& error) {
     optionIndex = matchIndex;
-    if (text_.empty() || text_[0] == '-') {
-        error = messages::unknownOption(arguments_.front());
-        return resultRuleBroken;
-    }
-    if (!candidates.empty()) {
-        error =
-            messages::ambiguousOption(text_, formatTokenMessage(arguments_.front()), candidates);
-        return resultRuleBroken;
+    const bool isName = !text_.empty() && text_[0] != '-';
+    if (!isName || !candidates.empty()) {
+        tellProblem(isName, error);
+        return nullptr;
     }
     const OptionDescription& option = registry.items()[matchIndex];
     trace(name, ": detected option: '", option.primaryName(), "'");
     if (hasValue_) {
         trace(name, ": value from the same argument taken: '", value_, "'");
     }
-    return decideValue(option, error);
+    return decideValue(option, error) == resultOk ? &option : nullptr;
+}
+
+// "--" with a value behind it, or a third dash: it looked like an option, and can be none. The log
+// has no line for either problem, unlike for those that are refused below.
+void AbbreviationParser::tellProblem(bool isName, std::string& error) {
+    std::string& argument = arguments_.front();
+    error = isName ? messages::ambiguousOption(text_, formatTokenMessage(argument), candidates)
+                   : messages::unknownOption(argument);
 }
 
 int AbbreviationParser::decideValue(const OptionDescription& option, std::string& error) {
@@ -111,11 +122,10 @@ int AbbreviationParser::decideValue(const OptionDescription& option, std::string
     if (!isSwitch && option.type != vtBool) {
         return value_.empty() ? takeNextArgument(option, error) : resultOk;
     }
+    // For these the name is all there is to say. An empty value, as in "--name=", says nothing
+    // more.
     if (!value_.empty()) {
-        const std::string suffix = formatTokenMessage(arguments_.front());
-        return refuse(isSwitch ? messages::switchTakesNoValue(option.primaryName(), suffix)
-                               : messages::booleanTakesNoValue(option.primaryName(), suffix),
-                      error);
+        return refuseValue(option, error);
     }
     if (!isSwitch) {
         value_ = beginsWithNo(matchName) ? "0" : "1";
@@ -123,9 +133,19 @@ int AbbreviationParser::decideValue(const OptionDescription& option, std::string
     return resultOk;
 }
 
+int AbbreviationParser::refuseValue(const OptionDescription& option, std::string& error) {
+    const std::string suffix = formatTokenMessage(arguments_.front());
+    return refuse(option.type == vtNull
+                      ? messages::switchTakesNoValue(option.primaryName(), suffix)
+                      : messages::booleanTakesNoValue(option.primaryName(), suffix),
+                  error);
+}
+
 int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::string& error) {
     trace(name, ": no value in the same argument, looking next");
     const std::string* const next = arguments_.second();
+    // Most likely the value was forgotten, and this is the next option. A negative number looks the
+    // same, and has to be attached.
     if (next != nullptr && !next->empty() && next->front() == '-') {
         return refuse(messages::valueSeemsToBeOption(option.primaryName(), *next), error);
     }
@@ -150,12 +170,14 @@ int AbbreviationParser::bind(const OptionDescription& option,
     }
     trace(name, ": sent event on option parsed");
     const int code = parseValueAndAddOption(value_, error, option, collector);
+    // Only now: what failed still stands in front, for whoever looks at the rest of the arguments.
     for (std::size_t count = argumentCount_; code == resultOk && count > 0; --count) {
         take();
     }
     return code;
 }
 
+// Forms are numbered in the order of declaration, which is that of the message.
 void makeOptionNamesList(const RegisteredOptionStorage& registry,
                          std::string_view beginning,
                          std::vector<std::string>& names) {

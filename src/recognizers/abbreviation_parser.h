@@ -27,10 +27,12 @@ public:
 private:
     bool recognizeName(const std::string& argument, RegisteredOptionStorage& registry);
     int findBestMatch(const std::string& argument, RegisteredOptionStorage& registry);
-    int match(RegisteredOptionStorage& registry,
-              std::size_t& optionIndex,
-              std::string& error) override;
+    const OptionDescription* match(RegisteredOptionStorage& registry,
+                                   std::size_t& optionIndex,
+                                   std::string& error) override;
+    [[gnu::cold]] void tellProblem(bool isName, std::string& error);
     int decideValue(const OptionDescription& option, std::string& error);
+    [[gnu::cold]] int refuseValue(const OptionDescription& option, std::string& error);
     int takeNextArgument(const OptionDescription& option, std::string& error);
     int bind(const OptionDescription& option,
              IResultCollector* collector,

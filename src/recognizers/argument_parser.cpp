@@ -1,3 +1,7 @@
+// The way of a value: an occurrence is bound as a whole or not at all. It gets its number, its text
+// is cut into pieces, each piece is checked, converted, numbered and announced, and only behind the
+// last one the result hears of it. What fails in between leaves numbers that nothing has.
+
 #include "recognizers/argument_parser.h"
 
 #include <stdexcept>
@@ -36,27 +40,34 @@ int IArgumentParser::parse(std::vector<std::string>& args,
                            std::size_t& optionIndex,
                            std::string& error) {
     trace(name, ": parsing argument '", args[0], "'");
-    const int code = match(registry, optionIndex, error);
-    if (code != resultOk) {
-        return code;
+    const OptionDescription* const option = match(registry, optionIndex, error);
+    if (option == nullptr) {
+        return resultRuleBroken;
     }
-    const OptionDescription& option = registry.items()[optionIndex];
-    if (mayChange(optionIndex, registry)) {
-        const OptionDescription copy = option.forBinding();
-        return bind(copy, collector, error);
-    }
-    return bind(option, collector, error);
+    return mayChange(*option, optionIndex, registry) ? bindCopy(*option, collector, error)
+                                                     : bind(*option, collector, error);
+}
+
+// Handlers may go on with the settings of the item, or declare the next one, and must not change
+// the rules in the middle of an occurrence.
+int IArgumentParser::bindCopy(const OptionDescription& option,
+                              IResultCollector* collector,
+                              std::string& error) {
+    const OptionDescription copy = option.forBinding();
+    return bind(copy, collector, error);
 }
 
 // Client code may run while an occurrence is bound: where it is observed, or else in a stream to
 // which the warning about a deprecated value is written. Then the arguments are made safe from it,
 // and the answer is whether it could change the item too.
-bool IArgumentParser::mayChange(std::size_t item, const RegisteredOptionStorage& registry) {
-    if (!isObserved() && registry.items()[item].deprecatedValues.empty()) {
+bool IArgumentParser::mayChange(const OptionDescription& option,
+                                std::size_t index,
+                                const RegisteredOptionStorage& registry) {
+    if (!isObserved() && option.deprecatedValues.empty()) {
         return false;
     }
     arguments_.secure();
-    return registry.isOpen(item);
+    return registry.isOpen(index);
 }
 
 int IArgumentParser::refuse(std::string reason, std::string& error) const {
@@ -74,6 +85,8 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
                                             std::string& error,
                                             const OptionDescription& option,
                                             IResultCollector* collector) {
+    // The number of the occurrence is drawn before those of its values: in the order of a result it
+    // stands in front of them.
     data_->positions.assign(1, Sequence::draw());
     data_->values.clear();
     if (!value.empty()) {
@@ -83,6 +96,7 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
             return code;
         }
     }
+    // Without a result, arguments can be checked and announced as ever.
     if (collector == nullptr) {
         throw std::invalid_argument("There is no result to store into");
     }
@@ -100,6 +114,8 @@ int IArgumentParser::bindPieces(std::string_view value,
         return bindPiece(value, value, option, error);
     }
     trace(name, ": using tokenizer on char: '", std::string_view(&separator, 1), "'");
+    // Separators in a row count as one, and those at the ends as none: there are no empty pieces. A
+    // value that is nothing else is an error.
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
         return refuse(messages::noValueParsed(value, option.primaryName()), error);
@@ -129,6 +145,7 @@ int IArgumentParser::bindPiece(std::string_view piece,
                                std::string& error) {
     OptionValue& bound = data_->values.emplace_back();
     bound.text = piece;
+    // What is wrong about the value is known to the item; which argument it stands in, only here.
     if (!option.validate(bound.text, bound.value, error, textLocale())) {
         return refuse(messages::invalidValue(arguments_.front(), error), error);
     }
@@ -142,6 +159,7 @@ int IArgumentParser::bindPiece(std::string_view piece,
 }
 
 bool IArgumentParser::isWelcome(const OptionValue& value, const std::string& option) const {
+    // A text that the value holds has a terminator already; others are views into the argument.
     const char* const held = plinth2::get_variant_value(value.value, nullptr);
     const std::string copy(held == nullptr ? value.text : "");  // with a terminator
     const Value announced(held == nullptr ? copy.c_str() : held, value.value, value.position);

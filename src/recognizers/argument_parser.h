@@ -92,16 +92,22 @@ protected:
     internal::Arguments& arguments_;
 
 private:
-    // The two halves of `parse`: which item it is, with what is wrong about the argument, and
-    // storing what was given of it.
-    virtual int match(RegisteredOptionStorage& registry,
-                      std::size_t& optionIndex,
-                      std::string& error) = 0;
+    // The two halves of `parse`. The first says which item it is, or what is wrong about the
+    // argument, and null then; the second stores what was given of it.
+    virtual const OptionDescription* match(RegisteredOptionStorage& registry,
+                                           std::size_t& optionIndex,
+                                           std::string& error) = 0;
     virtual int bind(const OptionDescription& option,
                      IResultCollector* collector,
                      std::string& error) = 0;
 
-    bool mayChange(std::size_t item, const RegisteredOptionStorage& registry);
+    bool mayChange(const OptionDescription& option,
+                   std::size_t index,
+                   const RegisteredOptionStorage& registry);
+    // Kept out of the way of those parses, by far the most, that need no copy.
+    [[gnu::noinline]] int bindCopy(const OptionDescription& option,
+                                   IResultCollector* collector,
+                                   std::string& error);
     int bindPieces(std::string_view value, const OptionDescription& option, std::string& error);
     int bindPiece(std::string_view piece,
                   std::string_view value,

@@ -14,26 +14,30 @@ int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        std::string& /*error*/) {
     const std::string& argument = args[0];
     trace(name, ": recognizing argument '", argument, "'");
+    // Without the flag every argument is taken that is no option: the other recogniser, which is
+    // asked as well, takes precedence.
     const bool isRefused =
         (flags_ & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
     const bool isTaken = !isRefused && registry.firstPositional() != NameIndex::none;
     return isTaken ? recognized : declined;
 }
 
-int PositionalOptionsParser::match(RegisteredOptionStorage& registry,
-                                   std::size_t& optionIndex,
-                                   std::string& /*error*/) {
+const OptionDescription* PositionalOptionsParser::match(RegisteredOptionStorage& registry,
+                                                        std::size_t& optionIndex,
+                                                        std::string& /*error*/) {
     optionIndex = registry.firstPositional();
     // Kept: the log and onOptionParse name the item declared first, whichever that is.
     firstItem_ = &registry.items().front();
     trace(name, ": option is '", firstItem_->primaryName(), "'");
-    return resultOk;
+    return &registry.items()[optionIndex];
 }
 
 int PositionalOptionsParser::bind(const OptionDescription& option,
                                   IResultCollector* collector,
                                   std::string& error) {
     const bool takesRest = (flags_ & flagPositionalTakesRest) != 0;
+    // Each argument is an occurrence of its own. Behind the first one nothing is recognised any
+    // more: this is how a tool passes the rest of its line on to another one.
     do {
         if (audience_.isThere()) {
             audience_.handler.onOptionParse(firstItem_->primaryName().c_str());

@@ -26,9 +26,9 @@ public:
     int getPriority() override { return -100; }
 
 private:
-    int match(RegisteredOptionStorage& registry,
-              std::size_t& optionIndex,
-              std::string& error) override;
+    const OptionDescription* match(RegisteredOptionStorage& registry,
+                                   std::size_t& optionIndex,
+                                   std::string& error) override;
     int bind(const OptionDescription& option,
              IResultCollector* collector,
              std::string& error) override;

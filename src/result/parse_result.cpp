@@ -41,6 +41,7 @@ bool isAscendingFrom(const std::vector<Element>& elements, std::size_t first) {
 void ParseResult::destroy() { delete this; }
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
+    // The primary name decides for all of them whether this is the first occurrence.
     const std::size_t primary = findStored(option.names.at(0));
     if (primary == none) {
         for (const std::string& name : option.names) {
@@ -58,11 +59,14 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
 void ParseResult::applyDefault(const OptionList& items) {
     for (std::size_t i = 0; i < items.size(); ++i) {
         const OptionDescription& item = items[i];
+        // A switch has no value that could be its default.
         if (item.type == vtNull || !item.hasDefault) {
             continue;
         }
         const char* const text = keptDefault(item);
         for (const std::string& name : item.names) {
+            // Each name has a number of its own. It is drawn first: when there is none left, no
+            // entry is made.
             const int position = Sequence::draw();
             StoredOption& entry = findOrAdd(name);
             entry.defaultText = text;
@@ -85,7 +89,7 @@ void ParseResult::storeArgument(std::string_view argument) {
     arguments.push_back(kept);
 }
 
-// The same option often comes several times in a row.
+// The same option often comes several times in a row, and then needs no second look into the table.
 std::size_t ParseResult::findStored(std::string_view name) {
     if (lastStored_ >= options.size() || options[lastStored_].name != name) {
         lastStored_ = findIndex(name);
@@ -104,6 +108,7 @@ std::size_t ParseResult::findIndex(std::string_view name) const {
 }
 
 StoredOption& ParseResult::findOrAdd(std::string_view name) {
+    // Room first, so that there is no name without its entry.
     makeRoom(options, 1);
     const std::uint32_t number = names_.keep(name);
     if (number == options.size()) {
@@ -118,7 +123,7 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
     const std::size_t positionsBefore = entry.positions.size();
     try {
         for (const OptionValue& value : data.values) {
-            entry.values.push_back({value.value, textOf(value), value.position});
+            entry.values.emplace_back(value.value, textOf(value), value.position);
         }
         entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
     } catch (...) {
@@ -134,6 +139,7 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
 // synonym, or a default, left there.
 void ParseResult::replace(std::string_view name, const OptionData& data) {
     StoredOption fresh;
+    // Complete before the old entry is touched: what cannot be stored changes nothing.
     append(fresh, data);
     StoredOption& entry = findOrAdd(name);
     makeRoom(replaced_, entry.values.size());

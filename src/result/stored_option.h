@@ -10,12 +10,18 @@
 
 namespace zarn_3_3::internal {
 
-// The text belongs to the result, or to the value where that holds the same.
+// A result holds one of these for every value, so the position stands in the bytes that a variant_t
+// leaves free at its end.
 struct StoredValue {
-    variant_t value;
-    const char* text;
+    StoredValue(const variant_t& converted, const char* keptText, int number)
+        : value(converted), position(number), text(keptText) {}
+
+    [[no_unique_address]] variant_t value;
     int position;
+    const char* text;  // belongs to the result, or to the value where that holds the same
 };
+
+static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));
 
 inline int numberOf(int position) { return position; }
 inline int numberOf(const StoredValue& value) { return value.position; }

@@ -8,6 +8,7 @@ std::uint32_t KeptTexts::keep(std::string_view text) {
     if (known != none) {
         return known;
     }
+    // Everything that can fail comes before the table knows of the text.
     table_.makeRoom(1);
     texts_.emplace_back();
     try {

@@ -5,8 +5,9 @@
 namespace zarn_3_3::internal {
 
 namespace {
+// Blocks double up to this size: the few texts of a small tool take little, many texts few blocks.
 constexpr std::size_t largestBlock = 65536;
-}
+}  // namespace
 
 const char* TextArena::keep(std::string_view text) {
     char* kept = take(text.size() + 1);
@@ -15,6 +16,7 @@ const char* TextArena::keep(std::string_view text) {
 }
 
 char* TextArena::newBlock(std::size_t size) {
+    // The place in the list first: a block for which the list has no room would be lost.
     blocks_.emplace_back();
     try {
         blocks_.back().reset(new char[size]);

@@ -50,7 +50,8 @@ std::string extracted(View text, Trailing trailing, bool isHexadecimal = false) 
 template <typename Number>
 void checkReading(View text) {
     for (const Trailing trailing : {Trailing::refused, Trailing::ignored}) {
-        const std::string found = bitsOf(numberFromText<Number>(text, trailing));
+        const std::string found =
+            bitsOf(numberFromText<Number>(text, trailing, globalTextLocale()));
         require(found == extracted<Number>(text, trailing), "what a number is read as");
     }
 }
@@ -68,7 +69,7 @@ template <typename... Numbers>
 void checkNumbers(View text, const Bytes& bytes) {
     (checkNumber<Numbers>(text, bytes), ...);
     checkReading<bool>(text);
-    const std::string found = bitsOf(hexadecimalFromText(text));
+    const std::string found = bitsOf(hexadecimalFromText(text, globalTextLocale()));
     require(found == extracted<unsigned long long>(text, Trailing::ignored, true), "hexadecimal");
 }
 
@@ -97,7 +98,8 @@ void checkArgument(const std::string& argument) {
     }
     View name = "stale";
     View value;
-    require(splitOptionValue(argument, &name, &value) == (end < rest.size()), "a value");
+    require(splitOptionValue(argument, &name, &value, globalTextLocale()) == (end < rest.size()),
+            "a value");
     require(name == rest.substr(0, end) && value == rest.substr(start), "an argument that is cut");
 }
 

@@ -11,7 +11,7 @@ namespace {
 enum ExitCode : int { exitOk = 0, exitFile = 1, exitUsage = 2, exitInternal = 3 };
 
 // Queries that ask for numbers from 0 to this one read the whole command line.
-constexpr int lineEnd = 0x7fffffff;
+using zarn::lineEnd;
 
 void declareVocabulary(zarn::IParser& parser) {
     parser.option("help,h", "Show this help.", zarn::vtNull, "");

@@ -32,21 +32,23 @@ public:
     // the parser is destroyed. The answer is ignored.
     //
     // For a positional argument `name` is the primary name of the item that was declared first of
-    // all, whichever that is; the value that follows carries the positional item's own name.
+    // all, positional or not. The value that follows has the positional item's own name.
     virtual bool onOptionParse(const char* name);
 
     // A value was converted and found valid for the option `name`, which stays valid until the
     // parser is destroyed.
     //
-    // `value.text` is valid during the call only: copy what you keep. Answer false to refuse the
-    // value: nothing of this occurrence is stored, no further handler is asked, and the parse ends
-    // with resultVetoed. Pieces of the same argument that were announced before stay announced.
+    // `value.text` is valid during the call only: copy what you keep.
+    //
+    // Answer false to refuse the value. Nothing of this occurrence is then stored, no further
+    // handler is asked, and the parse ends with resultVetoed. Of "--include=a,b" each value is
+    // announced alone: when b is refused, a has been announced already.
     virtual bool onValueParse(const char* name, const Value& value);
 
     // Nothing declared takes `argument`, which stays valid until the parser is destroyed.
     //
-    // Answer false to take care of it yourself: it is then skipped, also when unknown arguments are
-    // errors (flagUnknownIsError). All handlers are asked, whatever the others answered.
+    // Answer false to take care of it yourself. It is then skipped, also where unknown arguments
+    // are errors (flagUnknownIsError). All handlers are asked, whatever the others answered.
     virtual bool onUknownArgument(const char* argument);
 
 protected:

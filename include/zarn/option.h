@@ -20,29 +20,31 @@ namespace zarn_3_3 {
 // The order of the operations is part of the binary interface.
 class ZARN_EXPORT IOption {
 public:
-    // Adds `name`, as it stands and without dashes, to the names of the item; null adds nothing.
-    // It is not compared with other items: of two that share a name, the one declared first is
-    // found by it.
+    // Adds `name` to the names of the item, as it stands and without dashes; null adds nothing. Not
+    // refused when another item has it: the one declared first is then found by it.
     virtual IOption& synonym(const char* name) = 0;
 
-    // Adds a value to those that the item accepts; with none, every value of its type is accepted.
-    // A text may be given abbreviated as long as it is the only allowed or deprecated one that
-    // begins so. Values are cut at ',' from now on, unless another character was chosen before;
-    // call tokenize(0) afterwards to keep commas. The value is copied (see variant_t on borrowed
-    // texts).
+    // Adds a value to those that the item accepts; with none, it accepts every value of its type.
+    // The value is copied (see variant_t on borrowed texts).
+    //
+    // Users may abbreviate a text: "tho" stands for "thorough" where no other allowed or deprecated
+    // value begins so. Values are cut at ',' from now on, unless another character was chosen
+    // before; call tokenize(0) afterwards to keep commas.
     virtual IOption& allowValue(const variant_t& value) = 0;
 
-    // Accepts `deprecated` too, with a warning on the error stream that names `replacement`. Has no
-    // effect on an item without allowed values. The first replacement given for a value stays.
+    // Accepts `deprecated` too, with a warning on the error stream that names `replacement`: the
+    // value stays the deprecated one. Has no effect on an item without allowed values. The first
+    // replacement given for a value stays.
     virtual IOption& allowDeprecatedValue(const variant_t& deprecated,
                                           const variant_t& replacement) = 0;
 
-    // What queries answer for the item when it was not given. It is not checked against the type or
-    // the allowed values of the item, but should be of that type. A default whose text is empty
-    // reads as absent.
+    // What queries answer for the item when it was not given. It should be of the type of the item;
+    // neither this nor the allowed values are checked. A default whose text is empty reads as
+    // absent.
     virtual IOption& defaultValue(const variant_t& value) = 0;
 
-    // The character at which one value is cut into several; 0: values are never cut.
+    // The character at which one value is cut into several; 0: values are never cut. With ':' the
+    // argument "--path=a:b" gives two values.
     virtual IOption& tokenize(char separator) = 0;
 
     // Makes the item take the arguments that are no options. Of several such items the one declared
@@ -50,7 +52,7 @@ public:
     virtual IOption& positional() = 0;
 
     // Adds tags, separated by ','; null adds none. An item with tags that is no action is a
-    // modifier of the actions named so, and is refused with every other action.
+    // modifier of the actions with these names, and is refused with every other action.
     virtual IOption& tag(const char* tags) = 0;
 
 protected:

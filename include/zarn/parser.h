@@ -93,8 +93,9 @@ public:
 
     // Declares an option that belongs to no action.
     //
-    // names        its names without dashes, separated by ',': the first is the primary one, which
-    //              messages and help use. At most three, of which the third has at most two bytes.
+    // names        its names without dashes, separated by ',', like "verbose,verb,v". The first is
+    //              the primary one, which messages and help use. At most three, of which the third
+    //              has at most two bytes.
     // description  its help text
     // type         the type of its values: vtBool ("--x" and "--no-x"), vtS32, vtU32, vtS64, vtU64
     //              (hexadecimal too), vtDouble, vtString, or vtNull for a switch without a value
@@ -102,34 +103,37 @@ public:
     //              title given first for a key stays. The key "zarn_hidden" hides the item from
     //              ordinary help.
     //
-    // Null texts read as empty ones; all texts are copied. Refused, without effect but for the
-    // section: a name that an earlier item has (as "no-name" of a boolean too), too many names, a
-    // long third name. The reference is valid until the next declaration.
+    // Null texts read as empty ones; all texts are copied. The reference is valid until the next
+    // declaration.
+    //
+    // Refused are too many names, a long third name, and a name that an earlier item has; the
+    // earlier boolean "color" has "no-color" too. Nothing is then declared, but the section stays.
     virtual IOption& option(const char* names,
                             const char* description,
                             das_variant_type_t type,
                             const char* section) = 0;
 
-    // Declares an action: what the tool is to do. At most one action is accepted in a command line
-    // (but see allowSimultaneousActions), and when actions are declared, one is required as soon
-    // as any option stands in the result. Arguments as for option.
+    // Declares an action: what the tool is to do. A command line may give one (or several of a
+    // group, see allowSimultaneousActions). Where actions are declared, it must give one as soon as
+    // any option stands in the result; a default alone is enough for that. Arguments as for option.
     virtual IOption& action(const char* names,
                             const char* description,
                             das_variant_type_t type,
                             const char* section) = 0;
 
-    // Declares an option that belongs to actions, and is refused with any other. `actionNames`:
-    // the primary names of those actions, separated by ','; they need not be declared yet. With
-    // null or an empty text the item belongs to no action. Other arguments as for option.
+    // Declares an option that belongs to actions, and is refused with any other action.
+    // `actionNames` are the primary names of those actions, separated by ','; they need not be
+    // declared yet. With null or an empty text the item belongs to no action. Other arguments as
+    // for option.
     virtual IOption& modifier(const char* names,
                               const char* actionNames,
                               const char* description,
                               das_variant_type_t type,
                               const char* section) = 0;
 
-    // Whether an item with exactly this name (case-sensitive, no dashes, not abbreviated) is
-    // declared: with `action` among the actions, otherwise among the others; with a `section` that
-    // is not null only in that section, given by its key. False for a null name.
+    // Whether an item with exactly this name is declared: case-sensitive, without dashes, not
+    // abbreviated. With `action` it is looked for among the actions, otherwise among the others;
+    // with a `section` that is not null in the section with that key alone. False for a null name.
     virtual bool isOptionDeclared(const char* name, bool action, const char* section) = 0;
 
     // Parses a command line into `result`.
@@ -168,12 +172,15 @@ public:
     virtual const char* getErrorDesc() = 0;
 
     // Help texts. With `hidden` false they show everything but the section "zarn_hidden", with true
-    // that section alone. Lines end with a line feed and have at most 79 bytes, with three
-    // exceptions: long columns of names and values, titles of sections, which have up to 80 bytes,
-    // and lists of actions, which are not wrapped. When memory runs out: an empty text, or one that
-    // ends in "Unknown error handled.", which is the last error then.
+    // that section alone. Lines end with a line feed and have at most 79 bytes. Longer may be
+    //   columns of names and values, which are never broken;
+    //   titles of sections, which have up to 80 bytes;
+    //   lists of actions, which are not wrapped.
+    // When memory runs out: an empty text, or one that ends in "Unknown error handled.", which is
+    // the last error then.
     //
-    // The actions with their descriptions; for a vocabulary without actions, all its options.
+    // This one lists the actions with their descriptions; for a vocabulary without actions, all its
+    // options.
     virtual const char* getDescription(bool hidden) = 0;
 
     // The help of one item, given by any of its names without dashes; for an unknown one, a
@@ -201,17 +208,20 @@ public:
     //
     // Files may name further files; they are read after those named before them. Relative paths
     // count from the working directory, also inside files. A path with a ',' is cut in two unless
-    // the parser was made with flagValuesStayWhole. Regular files and pipes of up to 256 MiB
-    // without NUL bytes are read; a pipe without a writer waits. A file that cannot be read, that
-    // is named again while it is being read, the 1,001st file or more than 256 MiB in all end the
-    // parse with resultOptionFileUnreadable.
+    // the parser was made with flagValuesStayWhole. Regular files and pipes are read; a pipe
+    // without a writer waits.
+    //
+    // These end the parse with resultOptionFileUnreadable: a file that cannot be read, has more
+    // than 256 MiB or holds a NUL byte; a file that is named again while it is being read; the
+    // 1,001st file; more than 256 MiB in all.
     //
     // Arguments as for option. Always true.
     virtual bool addOptionFileOption(const char* description, const char* section) = 0;
 
     // Lets the actions of the group, given by their primary names, be used together, in any
-    // combination. Groups do not add up: all the actions of a command line must be in one. True,
-    // or false when memory runs out: nothing is then added.
+    // combination. Groups do not add up: all the actions of a command line must be in one. With the
+    // groups {build, test} and {test, install}, "-build -install" is refused. True, or false when
+    // memory runs out: nothing is then added.
     virtual bool allowSimultaneousActions(const std::set<std::string>& actions) = 0;
 
 protected:

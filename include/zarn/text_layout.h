@@ -22,9 +22,9 @@ public:
     // head       stands at the start of the first line; null reads as the empty text
     // text       the description; null reads as the empty text
     // indent     the column, counted in bytes from 0, in which the description starts
-    // lineWidth  one more than the longest line allowed, in bytes. Where it leaves no column behind
-    //            the indent (at most indent + 1, or at most 2 with indent 0), lines break at the
-    //            line feeds of the text alone.
+    // lineWidth  one more than the longest line allowed, in bytes: 80 for lines of up to 79. Where
+    //            it leaves no column behind the indent (at most indent + 1, or at most 2 with
+    //            indent 0), lines break at the line feeds of the text alone.
     //
     // Throws std::bad_alloc when memory runs out, and nothing else.
     WordWrappedText(const char* head, const char* text, std::size_t indent, std::size_t lineWidth);

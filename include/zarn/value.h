@@ -34,13 +34,14 @@ enum QueryStatus : int {
 // A plain record; the comment of each operation that hands one out says what its fields hold.
 //
 // `text` is never owned. In EventHandler::onValueParse it is valid during the call only; from a
-// result it is valid until that result is destroyed. `value` holds its own share of the data.
+// result it is valid until that result is destroyed. `value` shares its data with other copies, and
+// is valid by itself.
 struct ZARN_EXPORT Value {
-    // Nothing found: no text, status statusNotFound, position 2147483647, an empty value.
+    // Nothing found: no text, status statusNotFound, position lineEnd (2147483647), an empty value.
     Value() noexcept = default;
 
-    // A value that was found: status statusFound. Keeps the pointer to the text,
-    // takes a copy of the value.
+    // A value that was found: status statusFound. Keeps the pointer to the text, and copies the
+    // value.
     Value(const char* foundText, const variant_t& foundValue, int foundPosition) noexcept;
 
     Value(const Value&) noexcept = default;
@@ -56,7 +57,7 @@ struct ZARN_EXPORT Value {
 
     const char* text = nullptr;  // as typed; an abbreviated allowed value in full; null: a switch
     int status = statusNotFound;
-    int position = 0x7fffffff;  // its number in the running sequence over the whole command line
+    int position = 2147483647;  // its number in the sequence that IParseResult describes
     variant_t value;            // converted to the declared type of its option
 };
 

@@ -5,13 +5,14 @@
 
 #include "help/messages.h"
 #include "options/option_description.h"
-#include "options/registered_option_storage.h"
-#include "text/garbage.h"
+#include "options/section_list.h"
 #include "text/paragraph.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
+// Names and values on the left, descriptions on the right: lines of at most 79 bytes. Titles may be
+// one byte longer.
 constexpr std::size_t columnWidth = 30;
 constexpr std::size_t descriptionWidth = 50;
 constexpr std::size_t titleIndent = 1;
@@ -25,6 +26,7 @@ void appendNames(std::string& column, const OptionDescription& item) {
     column.append("-").append(item.primaryName());
 }
 
+// Both forms that a user may type; the mark stands behind the one that holds when neither is given.
 void appendBoolean(std::string& column, const OptionDescription& item) {
     const char* const mark = " (default)";
     const bool isOn = item.hasDefault && item.defaultVal.get<bool>();
@@ -37,6 +39,8 @@ void appendBoolean(std::string& column, const OptionDescription& item) {
     }
 }
 
+// The allowed values say more than the name of their type. A default with an empty text is none, in
+// a result too.
 void appendValueForm(std::string& column, const OptionDescription& item) {
     if (item.allowedValues.empty()) {
         column.append("=<").append(item.getTypeName()).append(">");
@@ -54,6 +58,9 @@ void appendValueForm(std::string& column, const OptionDescription& item) {
     }
 }
 
+// A column that is too wide stands on a line of its own, and the description starts below it.
+//
+// Kept: an item without a description is shown only if its column is that wide.
 void appendEntry(std::string& text, std::string& column, const OptionDescription& item) {
     column.clear();
     appendNames(column, item);
@@ -69,33 +76,22 @@ void appendEntry(std::string& text, std::string& column, const OptionDescription
     appendParagraph(text, item.description, column, columnWidth, descriptionWidth);
 }
 
-void appendSectionHead(std::string& text, const std::string& key, const std::string& title) {
-    if (!key.empty()) {
-        text.append(key).append("\n");
+// The section of items that were declared without one has neither key nor title, and no head.
+void appendSectionHead(std::string& text, const Section& section) {
+    if (!section.key.empty()) {
+        text.append(section.key).append("\n");
     }
-    if (!title.empty()) {
-        appendParagraph(text, title, "", titleIndent, titleWidth);
+    if (!section.title.empty()) {
+        appendParagraph(text, section.title, "", titleIndent, titleWidth);
         text.append("\n");
     }
 }
 
-}  // namespace
-
-bool HelpRenderer::isVisible(const std::string& sectionKey, bool hidden) {
-    return (sectionKey == "zarn_hidden") == hidden;
-}
-
-const char* HelpRenderer::render(const std::vector<const OptionDescription*>& items,
-                                 bool hidden) const {
-    try {
-        return garbage.keep(textFor(items, hidden));
-    } catch (...) {
-        lastError = messages::unknownError;
-        return garbage.keep(lastError);
-    }
-}
-
-std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, bool hidden) const {
+std::string textFor(const SectionList& sections,
+                    std::vector<const OptionDescription*> items,
+                    bool hidden) {
+    // By section first: one pass over the items then serves all sections. Items with one name
+    // stay in the order of their declaration.
     std::stable_sort(
         items.begin(), items.end(), [](const OptionDescription* a, const OptionDescription* b) {
             return a->section != b->section ? a->section < b->section : *a < *b;
@@ -103,13 +99,12 @@ std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, b
     std::string text;
     std::string column;
     auto item = items.begin();
-    const auto& sections = registry.sectionPairs();
     for (std::size_t section = 0; section < sections.size(); ++section) {
-        const auto& [key, title] = sections[section];
-        const bool isShown = isVisible(key, hidden);
+        const bool isShown = isSectionVisible(sections[section].key, hidden);
         if (isShown) {
-            appendSectionHead(text, key, title);
+            appendSectionHead(text, sections[section]);
         }
+        // The items of a section that is not shown are passed over here, too.
         for (; item != items.end() && (*item)->section == section; ++item) {
             if (isShown && !(*item)->isPositional) {
                 appendEntry(text, column, **item);
@@ -120,6 +115,23 @@ std::string HelpRenderer::textFor(std::vector<const OptionDescription*> items, b
         }
     }
     return text;
+}
+
+}  // namespace
+
+bool isSectionVisible(const std::string& key, bool hidden) {
+    return (key == "zarn_hidden") == hidden;
+}
+
+HelpText renderOptions(const SectionList& sections,
+                       const std::vector<const OptionDescription*>& items,
+                       bool hidden) {
+    try {
+        return {textFor(sections, items, hidden)};
+        // Whatever it was: who asks for help shall get an answer, and no other failure.
+    } catch (...) {
+        return {messages::unknownError, true};
+    }
 }
 
 }  // namespace zarn_3_3::internal

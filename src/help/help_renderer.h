@@ -8,34 +8,25 @@
 
 namespace zarn_3_3 {
 
-class Garbage;
 class OptionDescription;
-class RegisteredOptionStorage;
+class SectionList;
 
 namespace internal {
 
-class HelpRenderer {
-public:
-    HelpRenderer(const RegisteredOptionStorage& theRegistry,
-                 Garbage& keeper,
-                 std::string& errorText)
-        : registry(theRegistry), garbage(keeper), lastError(errorText) {}
-
-    // The text for those of `items` that are not positional, in all sections that are visible,
-    // those without items too; kept by the garbage. When memory runs out: "Unknown error handled.",
-    // which is the last error then; throws std::bad_alloc when not even that can be kept.
-    const char* render(const std::vector<const OptionDescription*>& items, bool hidden) const;
-
-    // Whether items of this section are shown.
-    static bool isVisible(const std::string& sectionKey, bool hidden);
-
-private:
-    std::string textFor(std::vector<const OptionDescription*> items, bool hidden) const;
-
-    const RegisteredOptionStorage& registry;
-    Garbage& garbage;
-    std::string& lastError;
+struct HelpText {
+    std::string text;
+    bool isFailure = false;  // the text then ends in that of the failure
 };
+
+// The text for those of `items` that are not positional, in all sections that are visible, those
+// without items too. When memory runs out: "Unknown error handled."; throws std::bad_alloc when
+// there is none for that either.
+HelpText renderOptions(const SectionList& sections,
+                       const std::vector<const OptionDescription*>& items,
+                       bool hidden);
+
+// Whether items of this section are shown.
+bool isSectionVisible(const std::string& key, bool hidden);
 
 }  // namespace internal
 }  // namespace zarn_3_3

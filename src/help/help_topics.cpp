@@ -8,12 +8,11 @@
 #include "help/messages.h"
 #include "options/action_modifiers.h"
 #include "options/registered_option_storage.h"
-#include "text/garbage.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
-// Appends pointers to the items for which isWanted(item) holds.
+// The items for which isWanted(item) holds, in the order of declaration.
 template <typename IsWanted>
 std::vector<const OptionDescription*> select(const RegisteredOptionStorage& registry,
                                              IsWanted isWanted) {
@@ -27,6 +26,7 @@ std::vector<const OptionDescription*> select(const RegisteredOptionStorage& regi
     return selected;
 }
 
+// In the order of the names, whatever the order of declaration; one column for all of them.
 std::string actionList(const std::map<std::string_view, std::string_view>& actions) {
     std::size_t longest = 0;
     for (const auto& action : actions) {
@@ -42,58 +42,68 @@ std::string actionList(const std::map<std::string_view, std::string_view>& actio
 
 }  // namespace
 
-const char* HelpTopics::vocabulary(bool hidden) const {
+HelpText HelpTopics::vocabulary(bool hidden) const {
+    // Actions first: with them, options are asked for by action. A vocabulary whose actions are all
+    // hidden shows its options as one without actions does.
     std::map<std::string_view, std::string_view> actions;  // from name to description
     for (const OptionDescription* const item : getGlobalActions()) {
-        if (HelpRenderer::isVisible(registry.sectionKey(*item), hidden)) {
+        if (isSectionVisible(registry_.sectionKey(*item), hidden)) {
             actions[item->primaryName()] = item->description;
         }
     }
     if (actions.empty()) {
-        const auto all = select(registry, [](const OptionDescription&) { return true; });
-        return renderer.render(all, hidden);
+        const auto all = select(registry_, [](const OptionDescription&) { return true; });
+        return render(all, hidden);
     }
-    return garbage.keep(actionList(actions));
+    return {actionList(actions)};
 }
 
-const char* HelpTopics::topic(const char* name, bool hidden) const {
+HelpText HelpTopics::topic(const char* name, bool hidden) const {
     if (name == nullptr) {
         return vocabulary(hidden);
     }
     std::size_t index = 0;
-    if (findOption(name, index, registry) != resultSuccess) {
+    // Whole names alone: an abbreviation is for those who know what they want.
+    if (findOption(name, index, registry_) != resultSuccess) {
         return unknownTopic(name, hidden);
     }
-    return renderer.render({&registry.items()[index]}, hidden);
+    return render({&registry_.items()[index]}, hidden);
 }
 
-const char* HelpTopics::modifiersOf(const char* action, bool hidden) const {
+HelpText HelpTopics::modifiersOf(const char* action, bool hidden) const {
     if (action == nullptr) {
-        return "";
+        return {};
     }
     std::size_t index = 0;
-    if (findOption(action, index, registry) != resultSuccess) {
+    if (findOption(action, index, registry_) != resultSuccess) {
         return unknownTopic(action, hidden);
     }
+    // Kept: any item passes for an action here, and lists what shares a tag with it.
     std::vector<const OptionDescription*> modifiers;
-    findActionModifiers(index, registry.items(), modifiers);
-    return modifiers.empty() ? "" : renderer.render(modifiers, hidden);
+    findActionModifiers(index, registry_.items(), modifiers);
+    return modifiers.empty() ? HelpText() : render(modifiers, hidden);
 }
 
-const char* HelpTopics::globalModifiers(bool hidden) const {
-    return renderer.render(getGlobalModifiers(), hidden);
+HelpText HelpTopics::globalModifiers(bool hidden) const {
+    return render(getGlobalModifiers(), hidden);
 }
 
-const char* HelpTopics::unknownTopic(const std::string& name, bool hidden) const {
-    return garbage.keep(messages::noSuchTopic(name) + vocabulary(hidden));
+HelpText HelpTopics::render(const std::vector<const OptionDescription*>& items, bool hidden) const {
+    return renderOptions(registry_.sectionList(), items, hidden);
+}
+
+HelpText HelpTopics::unknownTopic(const std::string& name, bool hidden) const {
+    HelpText help = vocabulary(hidden);
+    help.text.insert(0, messages::noSuchTopic(name));
+    return help;
 }
 
 std::vector<const OptionDescription*> HelpTopics::getGlobalActions() const {
-    return select(registry, [](const OptionDescription& item) { return item.kind == kindAction; });
+    return select(registry_, [](const OptionDescription& item) { return item.kind == kindAction; });
 }
 
 std::vector<const OptionDescription*> HelpTopics::getGlobalModifiers() const {
-    return select(registry, [](const OptionDescription& item) {
+    return select(registry_, [](const OptionDescription& item) {
         return item.kind != kindAction && item.tags.empty();
     });
 }

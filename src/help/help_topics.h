@@ -8,36 +8,39 @@
 
 #include "help/help_renderer.h"
 
-namespace zarn_3_3::internal {
+namespace zarn_3_3 {
 
-// Every text is kept by the garbage. Throws std::bad_alloc.
+class RegisteredOptionStorage;
+
+namespace internal {
+
+// Each operation throws std::bad_alloc.
 class HelpTopics {
 public:
-    HelpTopics(const RegisteredOptionStorage& theRegistry, Garbage& keeper, std::string& errorText)
-        : registry(theRegistry), garbage(keeper), renderer(theRegistry, keeper, errorText) {}
+    explicit HelpTopics(const RegisteredOptionStorage& registry) : registry_(registry) {}
 
     // The actions; for a vocabulary without actions its options.
-    const char* vocabulary(bool hidden) const;
+    HelpText vocabulary(bool hidden) const;
 
     // One item; null asks for the vocabulary.
-    const char* topic(const char* name, bool hidden) const;
+    HelpText topic(const char* name, bool hidden) const;
 
     // The options of an action; an empty text when there are none.
-    const char* modifiersOf(const char* action, bool hidden) const;
+    HelpText modifiersOf(const char* action, bool hidden) const;
 
     // The options of no action.
-    const char* globalModifiers(bool hidden) const;
+    HelpText globalModifiers(bool hidden) const;
 
 private:
-    const char* unknownTopic(const std::string& name, bool hidden) const;
+    HelpText render(const std::vector<const OptionDescription*>& items, bool hidden) const;
+    HelpText unknownTopic(const std::string& name, bool hidden) const;
     std::vector<const OptionDescription*> getGlobalActions() const;
     std::vector<const OptionDescription*> getGlobalModifiers() const;
 
-    const RegisteredOptionStorage& registry;
-    Garbage& garbage;
-    HelpRenderer renderer;
+    const RegisteredOptionStorage& registry_;
 };
 
-}  // namespace zarn_3_3::internal
+}  // namespace internal
+}  // namespace zarn_3_3
 
 #endif  // ZARN_HELP_HELP_TOPICS_H

@@ -9,14 +9,14 @@
 #include <string>
 #include <string_view>
 
-#include "text/joined.h"
+#include "text/filled.h"
 
 namespace zarn_3_3::internal::messages {
 
 constexpr const char* unknownError = "Unknown error handled.";
 
 inline std::string noSuchTopic(std::string_view topic) {
-    return joined({"Help for ", topic, " not available.Please use one of the following topics:\n"});
+    return filled("Help for {} not available.Please use one of the following topics:\n", {topic});
 }
 
 }  // namespace zarn_3_3::internal::messages

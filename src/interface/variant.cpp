@@ -1,15 +1,14 @@
 #include "plinth2/variant.h"
 
-#include <algorithm>
-#include <atomic>
 #include <cstring>
 #include <cwchar>
 #include <limits>
 #include <new>
 
-#include "interface/compare.h"
 #include "interface/owned_text.h"
+#include "interface/shared_data.h"
 #include "interface/sync.h"
+#include "interface/variant_kinds.h"
 #include "platform/assertion.h"
 
 namespace plinth2 {
@@ -17,24 +16,9 @@ namespace {
 
 using TROV_2_18::debugAssertionFailed;
 
-// Stands in front of shared data.
-struct DataHeader {
-    std::uint64_t size;  // in bytes; a text's terminator counts
-    std::atomic<std::int32_t> owners;
-};
-
-static_assert(sizeof(DataHeader) == 2 * sizeof(std::uint64_t));
-
-DataHeader* headerOf(const void* data) noexcept {
-    if (data == nullptr) {
-        debugAssertionFailed("h != NULL");
-        return nullptr;
-    }
-    return static_cast<DataHeader*>(const_cast<void*>(data)) - 1;
-}
-
 // A block for `size` bytes with one owner; at least `capacity` bytes can be written.
 void* allocateData(std::size_t size, std::size_t capacity) {
+    // The sum would begin again at zero, and the block be too small.
     if (capacity > std::numeric_limits<std::size_t>::max() - sizeof(DataHeader)) {
         throw std::bad_alloc();
     }
@@ -62,14 +46,6 @@ void* copyWide(const wchar_t* text) {
     return copyText(text, text != nullptr ? std::wcslen(text) : 0);
 }
 
-const char* narrowText(const void* data) noexcept {
-    return data != nullptr ? static_cast<const char*>(data) : "";
-}
-
-const wchar_t* wideText(const void* data) noexcept {
-    return data != nullptr ? static_cast<const wchar_t*>(data) : L"";
-}
-
 void acquireData(const void* data) noexcept {
     if (data == nullptr) {
         debugAssertionFailed("m_value.m_data != NULL");
@@ -90,43 +66,6 @@ void releaseData(const void* data) noexcept {
     }
 }
 
-bool isNumber(das_variant_type_t type) noexcept { return type <= vtDouble; }
-bool isFloating(das_variant_type_t type) noexcept { return type == 10 || type == vtDouble; }
-bool isUnsigned(das_variant_type_t integer) noexcept { return integer % 2 != 0; }
-bool isNarrowText(das_variant_type_t type) noexcept {
-    return type == vtString || type == vtStringRef;
-}
-bool isWideText(das_variant_type_t type) noexcept {
-    return type == vtWString || type == vtWStringRef;
-}
-
-template <typename Number>
-int compareNumbers(Number left, Number right) noexcept {
-    if (left < right) {
-        return -1;
-    }
-    return left == right ? 0 : 1;
-}
-
-int compareBlobs(const void* left, const void* right) noexcept {
-    const DataHeader* const leftHeader = headerOf(left);
-    const DataHeader* const rightHeader = headerOf(right);
-    const std::uint64_t leftSize = leftHeader != nullptr ? leftHeader->size : 0;
-    const std::uint64_t rightSize = rightHeader != nullptr ? rightHeader->size : 0;
-    if (leftSize != rightSize || leftSize == 0) {
-        return compareNumbers(leftSize, rightSize);
-    }
-    return std::memcmp(left, right, leftSize);
-}
-
-template <typename Number, typename Payload>
-Number bitsAs(const Payload& payload) noexcept {
-    static_assert(sizeof(Number) == sizeof(Payload));
-    Number number;
-    std::memcpy(&number, &payload, sizeof number);
-    return number;
-}
-
 // Reads the payload as it stands; `last` is the highest code for which that makes sense.
 template <typename Payload>
 std::int64_t integerBits(const Payload& payload,
@@ -141,6 +80,8 @@ std::int64_t integerBits(const Payload& payload,
 
 }  // namespace
 
+// Numbers stand in 64 bits whatever their type, so that comparisons and readers know one width.
+// Borrowed texts are never touched: whoever lends them keeps them.
 variant_t::variant_t(bool value) noexcept : m_value{value}, m_type(vtBool) {}
 variant_t::variant_t(int value) noexcept : m_value{value}, m_type(vtS32) {}
 variant_t::variant_t(unsigned value) noexcept : m_value{value}, m_type(vtU32) {}
@@ -186,6 +127,7 @@ variant_t::variant_t(const variant_t& other) noexcept
 }
 
 variant_t& variant_t::operator=(const variant_t& other) noexcept {
+    // The copy first: the data of a value that is assigned to itself has an owner all the time.
     return *this = variant_t(other);
 }
 
@@ -261,52 +203,5 @@ template <>
 std::string variant_t::get<std::string>() const {
     return get<const char*>();
 }
-
-int variant_t::compareSameKind(const variant_t& other) const noexcept {
-    const void* const left = m_value.pointer;
-    const void* const right = other.m_value.pointer;
-    switch (m_type) {
-        case vtString:
-        case vtStringRef:
-            return string_compare(narrowText(left), narrowText(right));
-        case vtWString:
-        case vtWStringRef:
-            return string_compare(plinth2::wideText(left), plinth2::wideText(right));
-        case vtBlob:
-            return compareBlobs(left, right);
-        case vtObject:
-            return notype_ptr_compare(left, right);
-        case vtNull:
-            return 0;
-        default:
-            debugAssertionFailed("m_type == vtNull && var.m_type == vtNull");
-            return 1;
-    }
-}
-
-// Above zero stands for "neither less nor equal" as well: values that do not compare, and NaN.
-int variant_t::compare(const variant_t& other) const noexcept {
-    if (isNumber(m_type) && isNumber(other.m_type)) {
-        if (isFloating(m_type) || isFloating(other.m_type)) {
-            return compareNumbers(asDouble(), other.asDouble());
-        }
-        if (isUnsigned(m_type) && isUnsigned(other.m_type)) {
-            return compareNumbers(bitsAs<std::uint64_t>(m_value),
-                                  bitsAs<std::uint64_t>(other.m_value));
-        }
-        return compareNumbers(bitsAs<std::int64_t>(m_value), bitsAs<std::int64_t>(other.m_value));
-    }
-    const bool isSameKind = m_type == other.m_type ||
-                            (isNarrowText(m_type) && isNarrowText(other.m_type)) ||
-                            (isWideText(m_type) && isWideText(other.m_type));
-    if (isSameKind) {
-        return compareSameKind(other);
-    }
-    return other.m_type < m_type ? -1 : 1;
-}
-
-bool variant_t::operator<(const variant_t& other) const noexcept { return compare(other) < 0; }
-
-bool variant_t::operator==(const variant_t& other) const noexcept { return compare(other) == 0; }
 
 }  // namespace plinth2

@@ -15,6 +15,7 @@ std::string_view textOrEmpty(const char* text) {
 
 // Where no column is left, lines break at the line feeds of the text alone.
 std::size_t columnWidth(std::size_t indent, std::size_t lineWidth) {
+    // Without an indent a space stands in front of the column all the same, and takes one more.
     const std::size_t narrowest = indent == 0 ? 3 : 2;
     const std::size_t unlimited = std::numeric_limits<std::size_t>::max() - indent;
     const bool hasColumn = lineWidth > indent && lineWidth - indent >= narrowest;

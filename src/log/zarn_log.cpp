@@ -10,14 +10,15 @@ namespace zarn_3_3::internal {
 std::atomic<bool> zarnLogEnabled{false};
 
 std::ostream& ZarnLog::discardingStream() {
-    if (stream == nullptr) {
-        buffer = std::make_unique<basic_nullbuf<char>>();
-        stream = std::make_unique<std::ostream>(buffer.get());
+    if (stream_ == nullptr) {
+        buffer_ = std::make_unique<basic_nullbuf<char>>();
+        stream_ = std::make_unique<std::ostream>(buffer_.get());
     }
-    return *stream;
+    return *stream_;
 }
 
 std::ostream& zarnLog() {
+    // Made when it is first needed: most processes never look at the log.
     static ZarnLog log;
     return isLogOn() ? TROV_2_18::strings::pl2::ucout : log.discardingStream();
 }

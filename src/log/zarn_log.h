@@ -37,8 +37,8 @@ public:
     std::ostream& discardingStream();
 
 private:
-    std::unique_ptr<basic_nullbuf<char>> buffer;
-    std::unique_ptr<std::ostream> stream;  // writes to the buffer, so it goes first
+    std::unique_ptr<basic_nullbuf<char>> buffer_;
+    std::unique_ptr<std::ostream> stream_;  // writes to the buffer, so it goes first
 };
 
 // Where trace lines go: the console, or nowhere while the log is off.

@@ -3,7 +3,7 @@
 #include "modern/messages.h"
 #include "parser/parse_driver.h"
 #include "text/cut_argument.h"
-#include "text/joined.h"
+#include "text/filled.h"
 #include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
@@ -44,7 +44,7 @@ public:
             join(argument);
         } else if (isPositional(argument)) {
             const std::string& name = vocabulary_.positionals().front()->primaryName();
-            words_.push_back({joined({"--", name, "=", argument}), argument});
+            words_.push_back({filled("--{}={}", {name, argument}), argument});
         } else if (!addLetters(argument)) {
             words_.push_back({argument, ""});
         }
@@ -80,7 +80,8 @@ private:
     // The argument is the value of the one before it.
     void join(const std::string& argument) {
         Word& option = words_.back();
-        option.typed = joined({option.typed.empty() ? option.text : option.typed, " ", argument});
+        option.typed =
+            filled("{} {}", {option.typed.empty() ? option.text : option.typed, argument});
         option.text += option.text.back() == '=' ? argument : "=" + argument;
     }
 
@@ -99,7 +100,7 @@ private:
             if (item == nullptr || (!letters.empty() && !has(bundles))) {
                 return false;
             }
-            std::string text = joined({"-", letter});
+            std::string text = filled("-{}", {letter});
             if (item->takesValue() && !rest.empty()) {
                 if (rest[0] != '=' && !has(gluedValues)) {
                     return false;
@@ -138,7 +139,7 @@ CutArgument cutArgument(const std::string& argument) {
     CutArgument cut;
     cut.isOption = argument.size() > 1 && hasDash(argument);
     if (cut.isOption) {
-        splitOptionValue(argument, &cut.name, &cut.value);
+        splitOptionValue(argument, &cut.name, &cut.value, globalTextLocale());
     }
     return cut;
 }
@@ -203,7 +204,7 @@ std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line)
 void quoteTyped(std::string& message, const std::vector<Word>& words) {
     for (const Word& word : words) {
         for (const std::string_view before : {"argument '", "argument: '"}) {
-            const std::size_t at = message.find(joined({before, word.text, "'"}));
+            const std::size_t at = message.find(filled("{}{}'", {before, word.text}));
             if (at == std::string::npos) {
                 continue;
             }

@@ -4,7 +4,7 @@
 #include <string_view>
 
 #include "modern/messages.h"
-#include "text/joined.h"
+#include "text/filled.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -12,16 +12,16 @@ namespace {
 // "--name=text"; of a boolean "--name" or "--no-name". Empty for a text that is no boolean.
 std::string argumentFor(const ItemRecord& item, std::string_view text) {
     if (item.type != vtBool) {
-        return joined({"--", item.primaryName(), "=", text});
+        return filled("--{}={}", {item.primaryName(), text});
     }
     for (const std::string_view yes : {"1", "true", "yes", "on"}) {
         if (text == yes) {
-            return joined({"--", item.primaryName()});
+            return filled("--{}", {item.primaryName()});
         }
     }
     for (const std::string_view no : {"0", "false", "no", "off"}) {
         if (text == no) {
-            return joined({"--no-", item.primaryName()});
+            return filled("--no-{}", {item.primaryName()});
         }
     }
     return "";
@@ -57,7 +57,7 @@ int takeVariable(const ItemRecord& item,
                  const char* text,
                  StoredOutcome& outcome,
                  std::string& error) {
-    const std::string assignment = joined({item.environment, "=", text});
+    const std::string assignment = filled("{}={}", {item.environment, text});
     const std::string argument = argumentFor(item, text);
     if (argument.empty()) {
         error = messages::invalidVariable(assignment, messages::noBoolean);
@@ -92,7 +92,7 @@ struct RuleState {
 RuleState stateOf(const Rule& rule, const StoredOutcome& outcome) {
     RuleState state;
     for (const ItemRecord* const item : rule.items) {
-        state.all += joined({state.all.empty() ? "'" : ", '", item->called(), "'"});
+        state.all += filled("{}{}'", {state.all.empty() ? "'" : ", '", item->called()});
         (outcome.origin(*item) > Origin::byDefault ? state.given : state.others).push_back(item);
     }
     return state;

@@ -213,7 +213,7 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     if (found) {
         answer = std::move(*found);
     } else if (outcome->code != resultOk) {
-        answer.error = joined({tool, ": ", visible(outcome->text), "\n"});
+        answer.error = filled("{}: {}\n", {tool, visible(outcome->text)});
         answer.exitCode = exitCodeFor(outcome->code);
     } else {
         writeTargets(*outcome);

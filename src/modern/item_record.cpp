@@ -6,7 +6,7 @@
 
 #include "modern/messages.h"
 #include "options/option_description.h"
-#include "text/joined.h"
+#include "text/filled.h"
 #include "zarn/option.h"
 
 namespace zarn_3_3::internal {
@@ -112,7 +112,7 @@ Value ItemRecord::replaced(const Value& value) const {
 }
 
 std::string typedName(std::string_view name) {
-    return joined({name.size() == 1 ? "-" : "--", name});
+    return filled("{}{}", {name.size() == 1 ? "-" : "--", name});
 }
 
 void requireNames(const ItemRecord& item) {

@@ -7,45 +7,45 @@
 #include <string_view>
 
 #include "modern/item_record.h"
-#include "text/joined.h"
+#include "text/filled.h"
 
 namespace zarn_3_3::internal::messages {
 
 // Reasons, which stand behind the message that a value was refused.
 
 inline std::string numberBetween(std::string_view least, std::string_view greatest) {
-    return joined({"it must be between ", least, " and ", greatest});
+    return filled("it must be between {} and {}", {least, greatest});
 }
 inline std::string numberAtLeast(std::string_view least) {
-    return joined({"it must be at least ", least});
+    return filled("it must be at least {}", {least});
 }
 inline std::string numberAtMost(std::string_view greatest) {
-    return joined({"it must be at most ", greatest});
+    return filled("it must be at most {}", {greatest});
 }
 inline std::string wholeNumberOf(std::string_view unit) {
-    return joined({"it must be a whole number of ", unit});
+    return filled("it must be a whole number of {}", {unit});
 }
 constexpr const char* noDuration = "it must be a number with a unit, as in 250ms, 10s, 5m or 1.5h";
 constexpr const char* noBytes = "it must be a number of bytes, as in 4096, 64K, 2MiB or 1.5GB";
 constexpr const char* noBoolean = "it must be 1, true, yes, on, 0, false, no or off";
 
 inline std::string withReason(std::string_view message, std::string_view reason) {
-    return joined({message, ": ", reason});
+    return filled("{}: {}", {message, reason});
 }
 
 // Command lines that the plain interface would take, or take otherwise.
 
 inline std::string unexpectedArgument(std::string_view argument) {
-    return joined({"Unknown option: ", argument});
+    return filled("Unknown option: {}", {argument});
 }
 inline std::string emptyArgument(std::string_view option) {
-    return joined({"Option '", option, "' received an empty argument"});
+    return filled("Option '{}' received an empty argument", {option});
 }
 inline std::string emptyValue(std::string_view option, std::string_view argument) {
-    return joined({"Option '", option, "' requires a value in argument: '", argument, "'"});
+    return filled("Option '{}' requires a value in argument: '{}'", {option, argument});
 }
 inline std::string invalidVariable(std::string_view assignment, std::string_view reason) {
-    return joined({"Value validation problem in argument '", assignment, "': ", reason});
+    return filled("Value validation problem in argument '{}': {}", {assignment, reason});
 }
 
 // Rules.
@@ -53,52 +53,52 @@ inline std::string invalidVariable(std::string_view assignment, std::string_view
 // "Option '--jobs'", "Action '--pack'", "Argument 'FILE'"
 inline std::string first(const ItemRecord& item) {
     const char* const kinds[] = {"Option '", "Action '", "Argument '"};
-    return joined({kinds[static_cast<int>(item.role)], item.called(), "'"});
+    return filled("{}{}'", {kinds[static_cast<int>(item.role)], item.called()});
 }
 // The same within a sentence.
 inline std::string second(const ItemRecord& item) {
     const char* const kinds[] = {"option '", "action '", "argument '"};
-    return joined({kinds[static_cast<int>(item.role)], item.called(), "'"});
+    return filled("{}{}'", {kinds[static_cast<int>(item.role)], item.called()});
 }
 inline std::string isRequired(const ItemRecord& item) {
-    return joined({first(item), " is required"});
+    return filled("{} is required", {first(item)});
 }
 inline std::string oneRequired(std::string_view names) {
-    return joined({"One of ", names, " is required"});
+    return filled("One of {} is required", {names});
 }
 inline std::string exclude(const ItemRecord& item, const ItemRecord& other) {
-    return joined({first(item), " does not go with ", second(other)});
+    return filled("{} does not go with {}", {first(item), second(other)});
 }
 inline std::string needs(const ItemRecord& item, const ItemRecord& other) {
-    return joined({first(item), " requires ", second(other)});
+    return filled("{} requires {}", {first(item), second(other)});
 }
 
 // Mistakes of the author.
 
 inline std::string mistakeAt(std::string_view names, std::string_view what) {
-    return joined({"zarn: '", names, "': ", what});
+    return filled("zarn: '{}': {}", {names, what});
 }
 constexpr const char* nameEmpty = "a name is empty";
 inline std::string nameUntypable(std::string_view name) {
-    return joined({"the name '", name, "' begins with a dash, or holds a blank or '='"});
+    return filled("the name '{}' begins with a dash, or holds a blank or '='", {name});
 }
 constexpr const char* tooManyNames = "there are more than three names";
 inline std::string thirdNameLong(std::string_view name) {
-    return joined({"the third name, '", name, "', is longer than two bytes"});
+    return filled("the third name, '{}', is longer than two bytes", {name});
 }
 inline std::string nameTaken(std::string_view name, std::string_view owner) {
-    return joined({"the name '", name, "' is taken by '", owner, "'"});
+    return filled("the name '{}' is taken by '{}'", {name, owner});
 }
 inline std::string variableTaken(std::string_view owner) {
-    return joined({"its variable is that of '", owner, "'"});
+    return filled("its variable is that of '{}'", {owner});
 }
 constexpr const char* noVariable = "byDefault() shows a variable, and into() names none";
 constexpr const char* defaultNotAllowed = "its default is not among its allowed values";
 inline std::string defaultRefused(std::string_view reason) {
-    return joined({"its default is refused: ", reason});
+    return filled("its default is refused: {}", {reason});
 }
 inline std::string noSuchAction(std::string_view action) {
-    return joined({"no action has the primary name '", action, "'"});
+    return filled("no action has the primary name '{}'", {action});
 }
 constexpr const char* noSuchOption = "no option of this name is declared";
 

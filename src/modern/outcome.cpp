@@ -23,7 +23,7 @@ Value StoredOutcome::Values::operator[](std::size_t index) const {
         return {nullptr, variant_t(), entry->positions[at]};
     }
     const StoredValue& value = entry->values[at];
-    return {value.text, value, value.position};
+    return {value.text, value.value, value.position};
 }
 
 StoredOutcome::Values StoredOutcome::under(const ParseResult& result, std::string_view name) {
@@ -135,7 +135,7 @@ void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& 
     for (const StoredValue& value : entry->values) {
         const auto owner = found.upper_bound(value.position);
         if (owner != found.begin()) {
-            std::prev(owner)->second.values.emplace_back(value.text, value, value.position);
+            std::prev(owner)->second.values.emplace_back(value.text, value.value, value.position);
         }
     }
     occurrences.merge(found);

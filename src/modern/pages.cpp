@@ -2,7 +2,7 @@
 
 #include <string_view>
 
-#include "text/joined.h"
+#include "text/filled.h"
 #include "text/paragraph.h"
 #include "zarn/typed/declaration.h"
 #include "zarn/typed/parser.h"
@@ -27,14 +27,14 @@ void appendEscaped(std::string& text, unsigned char byte) {
 // "FILE", "[FILE]", "FILE ...", "[FILE ...]"
 std::string usageOf(const ItemRecord& item, bool isLast) {
     const std::string name = item.called() + (isLast && item.takesMany() ? " ..." : "");
-    return item.isRequired ? name : joined({"[", name, "]"});
+    return item.isRequired ? name : filled("[{}]", {name});
 }
 
 // `action`: as it is typed, or empty.
 std::string usageLine(const Vocabulary& vocabulary,
                       const std::string& tool,
                       const std::string& action) {
-    std::string line = joined({"Usage: ", tool});
+    std::string line = filled("Usage: {}", {tool});
     if (!action.empty()) {
         line.append(" ").append(action);
     } else if (vocabulary.hasRole(Role::action)) {
@@ -67,11 +67,11 @@ std::string wholePage(Vocabulary& vocabulary, const std::string& tool) {
 }
 
 std::string actionPage(Vocabulary& vocabulary, const std::string& tool, const ItemRecord& action) {
-    return joined(
-        {usageLine(vocabulary, tool, action.called()),
-         action.description,
-         "\n\n",
-         vocabulary.plain().getActionModifiersDescription(action.primaryName().c_str(), false)});
+    const char* const modifiers = vocabulary.plain().getActionModifiersDescription(
+        action.primaryName().c_str(), false);
+    return filled(
+        "{}{}\n\n{}",
+        {usageLine(vocabulary, tool, action.called()), action.description, modifiers});
 }
 
 Answer answerFor(const ItemRecord& item,
@@ -79,14 +79,14 @@ Answer answerFor(const ItemRecord& item,
                  const std::string& tool,
                  const std::string& topic) {
     if (item.primaryName() == versionName) {
-        return {joined({tool, " ", vocabulary.tool().version, "\n"}), "", exitAnswered};
+        return {filled("{} {}\n", {tool, vocabulary.tool().version}), "", exitAnswered};
     }
     if (topic.empty() || vocabulary.isName(topic)) {
         return {pageOf(vocabulary, tool, Page::topic, topic.c_str()), "", exitAnswered};
     }
     const std::string quoted = visible(topic);
     return {"",
-            joined({tool, ": ", vocabulary.plain().getDescription(quoted.c_str(), false)}),
+            filled("{}: {}", {tool, vocabulary.plain().getDescription(quoted.c_str(), false)}),
             exitUsage};
 }
 

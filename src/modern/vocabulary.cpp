@@ -6,7 +6,7 @@
 
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
-#include "text/joined.h"
+#include "text/filled.h"
 #include "zarn/option.h"
 
 namespace zarn_3_3::internal {
@@ -106,7 +106,7 @@ void Vocabulary::requireFreeNames(const ItemRecord& item) const {
     for (const std::string& name : item.names) {
         requireFree(name);
         if (item.type == vtBool) {
-            requireFree(joined({noPrefix, name}));
+            requireFree(filled("{}{}", {noPrefix, name}));
         }
     }
 }
@@ -297,7 +297,7 @@ bool Vocabulary::takePositional(const Value& value) {
     if (last == 0 || !item.needsOwnParse()) {
         return accepts(item, value);
     }
-    const std::string argument = joined({"--", item.primaryName(), "=", value.text});
+    const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
     std::string error;
     if (parseAside(item, argument, positionalAside(item), error) == resultOk) {
         return true;

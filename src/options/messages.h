@@ -9,7 +9,7 @@
 #include <string>
 #include <string_view>
 
-#include "text/joined.h"
+#include "text/filled.h"
 
 namespace zarn_3_3::internal::messages {
 
@@ -19,41 +19,28 @@ constexpr const char* nameIsTaken =
 inline std::string notOfItsType(std::string_view option,
                                 std::string_view text,
                                 std::string_view typeName) {
-    return joined({"Option '",
-                   option,
-                   "' can not parse '",
-                   text,
-                   "' value, requires a type '",
-                   typeName,
-                   "' here."});
+    return filled("Option '{}' can not parse '{}' value, requires a type '{}' here.",
+                  {option, text, typeName});
 }
 
 inline std::string ambiguousValue(std::string_view option, std::string_view valueList) {
-    return joined(
-        {"Ambiguous value for option '", option, "'. Possible values follows: ", valueList});
+    return filled("Ambiguous value for option '{}'. Possible values follows: {}",
+                  {option, valueList});
 }
 
 inline std::string valueNotAllowed(std::string_view option,
                                    std::string_view text,
                                    std::string_view valueList) {
-    return joined({"Option '",
-                   option,
-                   "' does not allow value '",
-                   text,
-                   "'. Possible values follows: ",
-                   valueList});
+    return filled("Option '{}' does not allow value '{}'. Possible values follows: {}",
+                  {option, text, valueList});
 }
 
 inline std::string valueIsDeprecated(std::string_view option,
                                      std::string_view text,
                                      std::string_view replacement) {
-    return joined({"Warning: '",
-                   text,
-                   "' argument is deprecated for the option '-",
-                   option,
-                   "'. Use the '",
-                   replacement,
-                   "' argument instead."});
+    return filled(
+        "Warning: '{}' argument is deprecated for the option '-{}'. Use the '{}' argument instead.",
+        {text, option, replacement});
 }
 
 }  // namespace zarn_3_3::internal::messages

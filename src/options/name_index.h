@@ -27,8 +27,8 @@ public:
     static constexpr std::size_t none = static_cast<std::size_t>(-1);
 
     bool isUpToDate(const OptionList& options) const {
-        return itemsTaken == options.size() &&
-               (options.empty() || namesTaken == options.back().names.size());
+        return itemsTaken_ == options.size() &&
+               (options.empty() || namesTaken_ == options.back().names.size());
     }
 
     // Takes in the names that were declared since. Throws std::bad_alloc; what was taken in stays.
@@ -37,15 +37,15 @@ public:
     // Whether isWanted(item) holds for one of the items that have this name. `item` is an index.
     template <typename IsWanted>
     bool isAnyNamed(std::string_view name, IsWanted isWanted) const {
-        const std::uint32_t number = texts.find(name);
-        if (number == KeptTexts::none || entries[number].namedItem == noItem) {
+        const std::uint32_t number = texts_.find(name);
+        if (number == KeptTexts::none || entries_[number].namedItem == noItem) {
             return false;
         }
-        if (isWanted(entries[number].namedItem)) {
+        if (isWanted(entries_[number].namedItem)) {
             return true;
         }
-        const auto further = furtherItems.find(number);
-        return further != furtherItems.end() &&
+        const auto further = furtherItems_.find(number);
+        return further != furtherItems_.end() &&
                std::any_of(further->second.begin(), further->second.end(), isWanted);
     }
 
@@ -53,9 +53,9 @@ public:
     std::size_t first(std::string_view nameOrNoForm) const;
 
     // All names and "no-" forms; a form is meant by its number there.
-    const KeptTexts& forms() const { return texts; }
+    const KeptTexts& forms() const { return texts_; }
 
-    std::size_t firstWithForm(std::uint32_t number) const { return entries[number].item; }
+    std::size_t firstWithForm(std::uint32_t number) const { return entries_[number].item; }
 
 private:
     // Of a form: the first item that it stands for, and the first that has it as its name.
@@ -69,13 +69,13 @@ private:
     void add(const OptionDescription& item, std::uint32_t itemIndex, std::string_view name);
     Entry& findOrAdd(std::string_view form, std::uint32_t itemIndex);
 
-    std::size_t itemsTaken = 0;  // the last of them perhaps with further names to come
-    std::size_t namesTaken = 0;  // of that last item
-    KeptTexts texts;
-    std::vector<Entry> entries;  // by the number of the text
+    std::size_t itemsTaken_ = 0;  // the last of them perhaps with further names to come
+    std::size_t namesTaken_ = 0;  // of that last item
+    KeptTexts texts_;
+    std::vector<Entry> entries_;  // by the number of the text
 
     // Behind the first item with a name. Only synonyms give one to several.
-    std::map<std::uint32_t, std::vector<std::uint32_t>> furtherItems;
+    std::map<std::uint32_t, std::vector<std::uint32_t>> furtherItems_;
 };
 
 }  // namespace zarn_3_3::internal

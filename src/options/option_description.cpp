@@ -27,6 +27,7 @@ IOption& OptionDescription::synonym(const char* name) {
 
 IOption& OptionDescription::allowValue(const variant_t& value) {
     makeOrLeave([&] {
+        // Kept: where values stay whole, those of an item with allowed values are cut all the same.
         allowedValues.push_back(value);
         if (tokenizer == 0) {
             tokenizer = ',';
@@ -37,11 +38,13 @@ IOption& OptionDescription::allowValue(const variant_t& value) {
 
 IOption& OptionDescription::allowDeprecatedValue(const variant_t& deprecated,
                                                  const variant_t& replacement) {
+    // The first replacement stays: emplace does not look at a second one.
     makeOrLeave([&] { deprecatedValues.emplace(deprecated, replacement); });
     return *this;
 }
 
 IOption& OptionDescription::defaultValue(const variant_t& value) {
+    // A copy shares its data, so that this cannot fail.
     defaultVal = value;
     hasDefault = true;
     return *this;
@@ -60,6 +63,7 @@ IOption& OptionDescription::positional() {
 IOption& OptionDescription::tag(const char* tagList) {
     if (tagList != nullptr) {
         makeOrLeave([&] {
+            // Cut apart first: moving nodes over cannot fail, so that it is all tags or none.
             std::set<std::string> added;
             split(tagList, added);
             tags.merge(added);
@@ -68,6 +72,8 @@ IOption& OptionDescription::tag(const char* tagList) {
     return *this;
 }
 
+// Taken for each argument of the item declared last while somebody listens: what only help and
+// rules ask for stays out.
 OptionDescription OptionDescription::forBinding() const {
     OptionDescription copy;
     copy.names = names;
@@ -84,6 +90,7 @@ bool OptionDescription::operator<(const OptionDescription& other) const {
 }
 
 const std::string& OptionDescription::noName() {
+    // Made when it is first asked for: a parser may itself be a static object.
     static const std::string empty;
     return empty;
 }

@@ -65,11 +65,10 @@ public:
     bool validate(std::string_view& text,
                   variant_t& converted,
                   std::string& error,
-                  internal::TextLocale locale = internal::globalTextLocale()) const;
+                  internal::TextLocale locale) const;
 
     // `text` as a value of the declared type; vtNull when it is none.
-    variant_t fromString(std::string_view text,
-                         internal::TextLocale locale = internal::globalTextLocale()) const;
+    variant_t fromString(std::string_view text, internal::TextLocale locale) const;
 
     // The text of `value`, read as the declared type.
     std::string toString(const variant_t& value) const;

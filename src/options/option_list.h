@@ -16,41 +16,41 @@ namespace zarn_3_3 {
 // number.
 class OptionList {
 public:
-    bool empty() const { return count == 0; }
-    std::size_t size() const { return count; }
+    bool empty() const { return count_ == 0; }
+    std::size_t size() const { return count_; }
 
     const OptionDescription& operator[](std::size_t index) const {
-        return blocks[index / ofBlock][index % ofBlock];
+        return blocks_[index / ofBlock][index % ofBlock];
     }
     OptionDescription& operator[](std::size_t index) {
-        return blocks[index / ofBlock][index % ofBlock];
+        return blocks_[index / ofBlock][index % ofBlock];
     }
     const OptionDescription& front() const { return (*this)[0]; }
-    const OptionDescription& back() const { return *last; }
+    const OptionDescription& back() const { return *last_; }
 
     // Throws std::bad_alloc and changes nothing then.
     OptionDescription& add() {
-        if (count == blocks.size() * ofBlock) {
-            blocks.push_back(std::make_unique<OptionDescription[]>(ofBlock));
+        if (count_ == blocks_.size() * ofBlock) {
+            blocks_.push_back(std::make_unique<OptionDescription[]>(ofBlock));
         }
-        last = &blocks[count / ofBlock][count % ofBlock];
-        ++count;
-        return *last;
+        last_ = &blocks_[count_ / ofBlock][count_ % ofBlock];
+        ++count_;
+        return *last_;
     }
 
     void removeLast() {
-        *last = OptionDescription();
-        --count;
-        last = count == 0 ? nullptr : &blocks[(count - 1) / ofBlock][(count - 1) % ofBlock];
+        *last_ = OptionDescription();
+        --count_;
+        last_ = count_ == 0 ? nullptr : &blocks_[(count_ - 1) / ofBlock][(count_ - 1) % ofBlock];
     }
 
 private:
     // Below one kilobyte in all: larger ones make the allocator tidy up at each start of a tool.
     static constexpr std::size_t ofBlock = 4;
 
-    std::vector<std::unique_ptr<OptionDescription[]>> blocks;
-    std::size_t count = 0;
-    OptionDescription* last = nullptr;  // every argument asks whether it has changed
+    std::vector<std::unique_ptr<OptionDescription[]>> blocks_;
+    std::size_t count_ = 0;
+    OptionDescription* last_ = nullptr;  // every argument asks whether it has changed
 };
 
 }  // namespace zarn_3_3

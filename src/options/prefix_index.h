@@ -49,11 +49,11 @@ private:
     std::size_t countOf(std::size_t size, const KeptTexts& texts) const;
     void catchUp(Length& length, std::size_t size, const KeptTexts& texts) const;
 
-    std::size_t measured = 0;                        // that many texts
-    std::array<std::size_t, ordinary + 1> ofSize{};  // how many there are, the long ones last
-    std::vector<std::uint32_t> longOnes;
-    std::size_t longest = 0;  // of all texts
-    std::map<std::size_t, Length> lengths;
+    std::size_t measured_ = 0;                        // that many texts
+    std::array<std::size_t, ordinary + 1> ofSize_{};  // how many there are, the long ones last
+    std::vector<std::uint32_t> longOnes_;
+    std::size_t longest_ = 0;  // of all texts
+    std::map<std::size_t, Length> lengths_;
 };
 
 }  // namespace zarn_3_3::internal

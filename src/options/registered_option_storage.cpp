@@ -13,9 +13,26 @@ using namespace internal;
 
 namespace {
 
-const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
+std::string_view orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
 }  // namespace
+
+// What a client says of an item, without null texts.
+struct RegisteredOptionStorage::Declaration {
+    std::string_view names;
+    std::string_view actionNames;
+    std::string_view description;
+    std::string_view section;
+    bool isAction;
+    das_variant_type_t type;
+};
+
+IOption& RegisteredOptionStorage::action(const char* names,
+                                         const char* description,
+                                         das_variant_type_t type,
+                                         const char* section) {
+    return option(names, nullptr, description, true, type, section);
+}
 
 IOption& RegisteredOptionStorage::option(const char* names,
                                          const char* actionNames,
@@ -24,18 +41,17 @@ IOption& RegisteredOptionStorage::option(const char* names,
                                          das_variant_type_t type,
                                          const char* section) {
     try {
-        return declare(
-            orEmpty(names), actionNames, orEmpty(description), isAction, type, orEmpty(section));
+        return declare({orEmpty(names),
+                        orEmpty(actionNames),
+                        orEmpty(description),
+                        orEmpty(section),
+                        isAction,
+                        type});
+        // Clients chain settings onto whatever they get, without a look: they get something that
+        // takes them.
     } catch (const std::exception&) {
         return refused();
     }
-}
-
-IOption& RegisteredOptionStorage::action(const char* names,
-                                         const char* description,
-                                         das_variant_type_t type,
-                                         const char* section) {
-    return option(names, nullptr, description, true, type, section);
 }
 
 IOption& RegisteredOptionStorage::modifier(const char* names,
@@ -46,64 +62,50 @@ IOption& RegisteredOptionStorage::modifier(const char* names,
     return option(names, actionNames, description, false, type, section);
 }
 
-IOption& RegisteredOptionStorage::declare(const char* names,
-                                          const char* actionNames,
-                                          const char* description,
-                                          bool isAction,
-                                          das_variant_type_t type,
-                                          const char* section) {
-    const std::uint32_t sectionIndex = findOrAddSection(section);
+IOption& RegisteredOptionStorage::declare(const Declaration& given) {
+    // Kept: a declaration that is refused opens its section, and help shows it without items.
+    const std::uint32_t section = sections.findOrAdd(given.section);
     std::vector<std::string> nameList;
-    split(names, nameList);
-    std::size_t taken = 0;
+    split(given.names, nameList);
     if (validateName(nameList) != resultSuccess) {
         return refused();
     }
-    if (findOption(nameList, taken, *this) == resultSuccess) {
-        trace(messages::nameIsTaken, names);
+    if (isTaken(nameList)) {
+        // In the log alone: whoever declares has no code to look at, only a handle.
+        trace(messages::nameIsTaken, given.names);
         return refused();
     }
-    firstPositional();  // the last item stays as it is from now on
+    // The handle of the item before ends here: whether that became positional is known now, and
+    // nobody looks at it again.
+    firstPositional();
+    // What can fail comes first, on an item that is taken back then. Behind it nothing does: names
+    // are moved, and numbers set.
     OptionDescription& item = options.add();
     try {
-        item.description = descriptions.keep(description);
-        if (actionNames != nullptr) {
-            split(actionNames, item.tags);
-        }
-        if (isAction) {
-            split(names, item.tags);
+        item.description = descriptions_.keep(given.description);
+        split(given.actionNames, item.tags);
+        // The tags of an action are its names: that is how its modifiers name it.
+        if (given.isAction) {
+            split(given.names, item.tags);
         }
     } catch (...) {
         options.removeLast();
         throw;
     }
-    item.section = sectionIndex;
+    item.section = section;
     item.names = std::move(nameList);
-    item.kind = isAction ? kindAction : kindOption;
-    item.type = type;
+    item.kind = given.isAction ? kindAction : kindOption;
+    item.type = given.type;
     item.tokenizer = separator;
-    actionCount += isAction ? 1 : 0;
+    actionCount_ += given.isAction ? 1 : 0;
     return item;
 }
 
-std::uint32_t RegisteredOptionStorage::findOrAddSection(std::string_view section) {
-    const std::size_t colon = section.find(':');
-    const std::string_view key = section.substr(0, colon);
-    if (!options.empty() && sectionKey(options.back()) == key) {
-        return options.back().section;  // most items stand in the section of the one before
-    }
-    const std::uint32_t hash = TextHash::of(key);
-    const std::uint32_t known = sectionTable.find(
-        hash, [&](std::uint32_t number) { return sections[number].first == key; });
-    if (known != TextTable::none) {
-        return known;
-    }
-    const std::string_view title =
-        colon == std::string_view::npos ? std::string_view() : section.substr(colon + 1);
-    sectionTable.makeRoom(1);
-    sections.emplace_back(key, title);
-    sectionTable.add(hash, static_cast<std::uint32_t>(sections.size() - 1));
-    return static_cast<std::uint32_t>(sections.size() - 1);
+// As a name or as the "no-" form of a boolean.
+bool RegisteredOptionStorage::isTaken(const std::vector<std::string>& nameList) const {
+    return std::any_of(nameList.begin(), nameList.end(), [this](const std::string& name) {
+        return names().first(name) != NameIndex::none;
+    });
 }
 
 // What clients chain onto a refused declaration must not pile up.
@@ -116,26 +118,12 @@ IOption& RegisteredOptionStorage::refused() noexcept {
 bool RegisteredOptionStorage::isDeclared(std::string_view name,
                                          bool isAction,
                                          const char* section) const {
+    // Synonyms give one name to several items, so that the first one need not be the one asked for.
     return names().isAnyNamed(name, [&](std::size_t number) {
         const OptionDescription& item = options[number];
         return (item.kind == kindAction) == isAction &&
                (section == nullptr || sectionKey(item) == section);
     });
-}
-
-std::size_t RegisteredOptionStorage::firstPositional() const {
-    // The item declared last may still become positional, so it is looked at each time.
-    if (positionalItem == NameIndex::none && !options.empty() && options.back().isPositional) {
-        positionalItem = options.size() - 1;
-    }
-    return positionalItem;
-}
-
-PrefixIndex::Found RegisteredOptionStorage::findBeginning(std::string_view beginning) const {
-    if (prefixIndex == nullptr) {
-        prefixIndex = std::make_unique<PrefixIndex>();
-    }
-    return prefixIndex->find(beginning, names().forms());
 }
 
 void RegisteredOptionStorage::takeAnyText(std::size_t number) {
@@ -146,14 +134,8 @@ void RegisteredOptionStorage::takeAnyText(std::size_t number) {
     item.tokenizer = 0;
 }
 
-const NameIndex& RegisteredOptionStorage::names() const {
-    if (!index.isUpToDate(options)) {
-        index.catchUp(options);
-    }
-    return index;
-}
-
 result_t validateName(const std::vector<std::string>& names) {
+    // A primary name, a synonym, and a short form of one or two letters.
     constexpr std::size_t mostNames = 3;
     constexpr std::size_t longestThirdName = 2;
     const bool isRefused = names.size() > mostNames ||
@@ -170,15 +152,6 @@ result_t findOption(std::string_view name,
     }
     index = found;
     return resultSuccess;
-}
-
-result_t findOption(const std::vector<std::string>& names,
-                    std::size_t& index,
-                    const RegisteredOptionStorage& registry) {
-    const bool isFound = std::any_of(names.begin(), names.end(), [&](const std::string& name) {
-        return findOption(name, index, registry) == resultSuccess;
-    });
-    return isFound ? resultSuccess : resultFailure;
 }
 
 }  // namespace zarn_3_3

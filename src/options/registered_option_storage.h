@@ -4,18 +4,15 @@
 #define ZARN_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
-#include "options/name_index.h"
+#include "options/item_indexes.h"
 #include "options/option_list.h"
-#include "options/prefix_index.h"
+#include "options/section_list.h"
 #include "text/status.h"
 #include "text/text_arena.h"
-#include "text/text_table.h"
 
 namespace zarn_3_3 {
 
@@ -49,16 +46,12 @@ public:
 
     const OptionList& items() const { return options; }
 
-    // The (key, title) pairs of the help in the order of their first mention; an item's `section`
-    // counts in them.
-    const std::vector<std::pair<std::string, std::string>>& sectionPairs() const {
-        return sections;
-    }
+    const SectionList& sectionList() const { return sections; }
     const std::string& sectionKey(const OptionDescription& item) const {
-        return sections[item.section].first;
+        return sections[item.section].key;
     }
 
-    bool hasActions() const { return actionCount != 0; }
+    bool hasActions() const { return actionCount_ != 0; }
 
     // Whether an item has exactly this name, among the actions or among the others, and with a
     // section that is not null in the one with that key.
@@ -67,37 +60,27 @@ public:
     // Whether settings can still be made on the item: it is the one declared last.
     bool isOpen(std::size_t item) const { return item + 1 == options.size(); }
 
-    // The index of the first positional item, or NameIndex::none.
-    std::size_t firstPositional() const;
-
-    // The index over all names, up to date.
-    const internal::NameIndex& names() const;
-
-    // What `beginning` can stand for, among the forms of the index. Throws std::bad_alloc.
-    internal::PrefixIndex::Found findBeginning(std::string_view beginning) const;
+    // See ItemIndexes.
+    const internal::NameIndex& names() const { return indexes_.names(options); }
+    internal::PrefixIndex::Found findBeginning(std::string_view beginning) const {
+        return indexes_.findBeginning(beginning, options);
+    }
+    std::size_t firstPositional() const { return indexes_.firstPositional(options); }
 
 private:
-    IOption& declare(const char* names,
-                     const char* actionNames,
-                     const char* description,
-                     bool isAction,
-                     das_variant_type_t type,
-                     const char* section);
-    std::uint32_t findOrAddSection(std::string_view section);
+    struct Declaration;
+
+    IOption& declare(const Declaration& given);
+    bool isTaken(const std::vector<std::string>& nameList) const;
     IOption& refused() noexcept;
 
     char separator = ',';
     OptionList options;
-    internal::TextArena descriptions;
-    std::vector<std::pair<std::string, std::string>> sections;
-    internal::TextTable sectionTable;  // key to section
-    std::size_t actionCount = 0;
+    internal::TextArena descriptions_;
+    SectionList sections;
+    std::size_t actionCount_ = 0;
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
-
-    mutable internal::NameIndex index;
-    mutable std::unique_ptr<internal::PrefixIndex>
-        prefixIndex;  // null until something is abbreviated
-    mutable std::size_t positionalItem = internal::NameIndex::none;  // as far as it was looked for
+    mutable internal::ItemIndexes indexes_;
 };
 
 // Refuses (resultFailure) four names and more, and three of which the third has more than two
@@ -107,11 +90,6 @@ result_t validateName(const std::vector<std::string>& names);
 // The first item that has the name, or is a boolean of which it is the "no-" form: its index in
 // `index`, or resultFailure.
 result_t findOption(std::string_view name,
-                    std::size_t& index,
-                    const RegisteredOptionStorage& registry);
-
-// The same for the first of `names` that is found.
-result_t findOption(const std::vector<std::string>& names,
                     std::size_t& index,
                     const RegisteredOptionStorage& registry);
 

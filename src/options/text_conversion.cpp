@@ -17,6 +17,8 @@ using namespace internal;
 constexpr const char* hexadecimalDigits = "1234567890ABCDEFabcdef";
 
 bool isHexadecimal(std::string_view text) {
+    // A text with neither mark is decimal, also where all its digits could be hexadecimal ones.
+    // "0x" alone passes here, and fails where it is read.
     const auto areDigits = [&text](std::size_t from, std::size_t to) {
         return text.find_first_not_of(hexadecimalDigits, from) >= to;
     };
@@ -70,6 +72,7 @@ struct OperationToString {
 
 template <>
 void OperationToString::execute<bool>() {
+    // As a user types it, not as a stream writes it.
     result = value.get<bool>() ? "1" : "0";
 }
 
@@ -123,6 +126,9 @@ void OperatorGetTypeName::execute<const char*>() {
 // Calls operation.execute with the native type of a declared code; other codes have none.
 template <typename Operation>
 void executeAs(das_variant_type_t type, Operation& operation) {
+    // The one place that knows which types can be declared; the operations are written once for
+    // each of them. Unsigned and signed 64 bits are long long, so that it is the same on every
+    // platform.
     switch (type) {
         case vtBool:
             return operation.template execute<bool>();

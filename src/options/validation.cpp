@@ -42,6 +42,7 @@ struct Abbreviated {
 
 Abbreviated findAbbreviated(const OptionDescription& option, std::string_view text) {
     Abbreviated found;
+    // A deprecated value may be abbreviated too, and makes others ambiguous.
     visitAccepted(option, [&](const variant_t& candidate) {
         const std::string full = plinth2::get_variant_value(candidate, "");
         if (full.compare(0, text.size(), text) == 0) {
@@ -62,11 +63,10 @@ void warn(const std::string& line) {
     }
 }
 
-void warnIfDeprecated(const OptionDescription& option, std::string_view text) {
-    if (option.deprecatedValues.empty()) {
-        return;
-    }
-    const auto deprecated = option.deprecatedValues.find(option.fromString(text));
+void warnIfDeprecated(const OptionDescription& option,
+                      std::string_view text,
+                      const variant_t& value) {
+    const auto deprecated = option.deprecatedValues.find(value);
     if (deprecated == option.deprecatedValues.end()) {
         return;
     }
@@ -85,13 +85,17 @@ bool OptionDescription::validate(std::string_view& text,
         error = messages::notOfItsType(primaryName(), text, getTypeName());
         return false;
     }
+    // Deprecated values without allowed ones have no say: everything is accepted already.
     if (allowedValues.empty()) {
         return true;
     }
+    // Values are compared, not texts: 0x10 is 16, and 1.0 is 1. What is equal to one of them is
+    // never taken for the beginning of another.
     if (visitAccepted(*this, [&](const variant_t& value) { return value == converted; })) {
-        warnIfDeprecated(*this, text);
+        warnIfDeprecated(*this, text, converted);
         return true;
     }
+    // Texts alone can be abbreviated; of a number, the beginning is another number.
     const Abbreviated found = type == vtString ? findAbbreviated(*this, text) : Abbreviated{};
     if (found.matches == 0) {
         error = messages::valueNotAllowed(primaryName(), text, allowedValueList(*this));
@@ -101,8 +105,10 @@ bool OptionDescription::validate(std::string_view& text,
         error = messages::ambiguousValue(primaryName(), allowedValueList(*this));
         return false;
     }
+    // From here on the full value counts, for handlers and results; the log and a veto name what
+    // was typed.
     converted = variant_t(found.match);
-    warnIfDeprecated(*this, found.match);
+    warnIfDeprecated(*this, found.match, converted);
     text = converted.get<const char*>();
     return true;
 }

@@ -20,8 +20,8 @@ public:
     const std::vector<std::size_t>& holding(const std::string& action) const;
 
 private:
-    std::unordered_map<std::string, std::vector<std::size_t>> groupsByAction;
-    std::size_t groupCount = 0;
+    std::unordered_map<std::string, std::vector<std::size_t>> groupsByAction_;
+    std::size_t groupCount_ = 0;
 };
 
 }  // namespace zarn_3_3::internal

@@ -39,25 +39,27 @@ std::vector<GivenItem> entriesToCheck(const RegisteredOptionStorage& registry,
     return given;
 }
 
+// Two passes over the entries: the first finds the actions and whether they go together, the second
+// asks each modifier whether one of them takes it. A broken rule of the first kind is told first.
 class ActionCheck {
 public:
-    ActionCheck(const RegisteredOptionStorage& theRegistry,
-                const ActionGroups& allowedGroups,
-                std::string& errorText)
-        : registry(theRegistry), groups(allowedGroups), error(errorText) {}
+    ActionCheck(const RegisteredOptionStorage& registry,
+                const ActionGroups& groups,
+                std::string& error)
+        : registry_(registry), groups_(groups), error_(error) {}
 
     int check(const ParseResult& result) {
-        std::vector<GivenItem> given = entriesToCheck(registry, result);
+        std::vector<GivenItem> given = entriesToCheck(registry_, result);
         for (GivenItem& one : given) {
             const int code = take(one);
             if (code != resultOk) {
                 return code;
             }
         }
-        if (firstAction != nullptr) {
+        if (firstAction_ != nullptr) {
             return checkModifiers(given);
         }
-        if (registry.hasActions() && isOptionSeen) {
+        if (registry_.hasActions() && isOptionSeen_) {
             return refuse(messages::noAction);
         }
         return resultOk;
@@ -65,55 +67,61 @@ public:
 
 private:
     int refuse(const std::string& message) {
-        error = message;
+        error_ = message;
         return resultRuleBroken;
     }
 
     int take(GivenItem& given) {
         std::size_t index = 0;
-        const result_t found = findOption(given.entry->name, index, registry);
+        const result_t found = findOption(given.entry->name, index, registry_);
+        // A name that another parser stored. Kept: the code of the lookup becomes that of the
+        // parse, which reads as a veto, and the error text stays as it was.
         if (found != resultSuccess) {
             return found;
         }
-        given.item = &registry.items()[index];
+        given.item = &registry_.items()[index];
         if (given.item->kind != kindAction) {
-            isOptionSeen = true;
+            // A default is enough: the tool has something set, and nothing to do with it.
+            isOptionSeen_ = true;
             return resultOk;
         }
         return takeAction(*given.item);
     }
 
     int takeAction(const OptionDescription& action) {
-        const bool isFirst = firstAction == nullptr;
+        // Two entries of one action exclude each other as little as one does itself.
+        const bool isFirst = firstAction_ == nullptr;
         if (isFirst) {
-            firstAction = &action;
+            firstAction_ = &action;
         }
-        if (actions.insert(action.primaryName()).second) {
+        // An action with synonyms stands in the result under each of them.
+        if (actions_.insert(action.primaryName()).second) {
             narrowGroups(action.primaryName(), isFirst);
         }
-        if (&action != firstAction && !assertActionsCanBeUsedSimultaneously()) {
+        if (&action != firstAction_ && !assertActionsCanBeUsedSimultaneously()) {
             return refuse(
-                messages::actionsExclude(action.primaryName(), firstAction->primaryName()));
+                messages::actionsExclude(action.primaryName(), firstAction_->primaryName()));
         }
         return resultOk;
     }
 
     // Whether a group holds all the actions that were given so far.
-    bool assertActionsCanBeUsedSimultaneously() const { return !commonGroups.empty(); }
+    bool assertActionsCanBeUsedSimultaneously() const { return !commonGroups_.empty(); }
 
     void narrowGroups(const std::string& action, bool isFirst) {
-        const std::vector<std::size_t>& holding = groups.holding(action);
+        // Both lists ascend, so that what they share is found in one walk.
+        const std::vector<std::size_t>& holding = groups_.holding(action);
         if (isFirst) {
-            commonGroups = holding;
+            commonGroups_ = holding;
             return;
         }
         std::vector<std::size_t> stillCommon;
-        std::set_intersection(commonGroups.begin(),
-                              commonGroups.end(),
+        std::set_intersection(commonGroups_.begin(),
+                              commonGroups_.end(),
                               holding.begin(),
                               holding.end(),
                               std::back_inserter(stillCommon));
-        commonGroups.swap(stillCommon);
+        commonGroups_.swap(stillCommon);
     }
 
     // Any tag makes an option a modifier; one that has only its default is never refused.
@@ -121,21 +129,21 @@ private:
         for (const GivenItem& one : given) {
             const OptionDescription& item = *one.item;
             if (item.kind != kindAction && !item.tags.empty() && !one.entry->positions.empty() &&
-                !isIntersected(item.tags, actions)) {
+                !isIntersected(item.tags, actions_)) {
                 return refuse(
-                    messages::actionRefusesOption(firstAction->primaryName(), item.primaryName()));
+                    messages::actionRefusesOption(firstAction_->primaryName(), item.primaryName()));
             }
         }
         return resultOk;
     }
 
-    const RegisteredOptionStorage& registry;
-    const ActionGroups& groups;
-    std::string& error;
-    const OptionDescription* firstAction = nullptr;
-    bool isOptionSeen = false;
-    std::set<std::string> actions;          // the primary names of those given
-    std::vector<std::size_t> commonGroups;  // that hold all of them
+    const RegisteredOptionStorage& registry_;
+    const ActionGroups& groups_;
+    std::string& error_;
+    const OptionDescription* firstAction_ = nullptr;
+    bool isOptionSeen_ = false;
+    std::set<std::string> actions_;          // the primary names of those given
+    std::vector<std::size_t> commonGroups_;  // that hold all of them
 };
 
 }  // namespace

@@ -22,69 +22,78 @@ std::string_view argumentOf(std::string_view line) {
 
 }  // namespace
 
-CommandLineSource::CommandLineSource(int argc, const char* const* argv) {
+CommandLineArguments::CommandLineArguments(int argc, const char* const* argv) {
     if (argv == nullptr) {
         throw std::invalid_argument("The argument vector is null");
     }
-    at = argv + 1;
-    end = argv + argc;
+    // The name of the program is no argument.
+    at_ = argv + 1;
+    end_ = argv + argc;
 }
 
-bool CommandLineSource::next(std::string& argument) {
-    if (at == end || *at == nullptr) {
+bool CommandLineArguments::next(std::string& argument) {
+    if (at_ == end_ || *at_ == nullptr) {
         return false;
     }
-    argument = *at;
-    ++at;
+    // Into the memory of the argument before, mostly: no allocation for each.
+    argument = *at_;
+    ++at_;
     return true;
 }
 
-void CommandLineSource::copyRest() {
-    for (; at != end && *at != nullptr; ++at) {
-        copies.push_back(texts.keep(*at));
+void CommandLineArguments::copyRest() {
+    // The pointers too: a handler may write into the vector itself.
+    for (; at_ != end_ && *at_ != nullptr; ++at_) {
+        copies_.push_back(texts_.keep(*at_));
     }
-    at = copies.data();
-    end = at + copies.size();
+    at_ = copies_.data();
+    end_ = at_ + copies_.size();
 }
 
-bool VectorSource::next(std::string& argument) {
-    if (position == arguments.size()) {
+VectorArguments::~VectorArguments() {
+    // What was looked at, and not taken, stays.
+    const std::size_t taken = read_ - window().size();
+    all_.erase(all_.begin(), all_.begin() + static_cast<std::ptrdiff_t>(taken));
+}
+
+bool VectorArguments::next(std::string& argument) {
+    if (read_ == all_.size()) {
         return false;
     }
-    argument = arguments[position];
-    ++position;
+    argument = all_[read_];
+    ++read_;
     return true;
 }
 
 // Kept: "-1" reads as "?".
-TextSource::TextSource(std::string_view read, Owner ofRead)
-    : rest(read == "-1" ? "?" : read), owner(ofRead) {}
+TextArguments::TextArguments(std::string_view text, Owner owner)
+    : rest_(text == "-1" ? "?" : text), owner_(owner) {}
 
-bool TextSource::next(std::string& argument) {
-    if (position == arguments.size()) {
-        arguments.clear();
-        position = 0;
-        parseStreamToArgs(rest, arguments, 16);
-        if (arguments.empty()) {
+bool TextArguments::next(std::string& argument) {
+    if (position_ == lines_.size()) {
+        lines_.clear();
+        position_ = 0;
+        // A few at a time: a large file is not cut in full before its first line is parsed.
+        parseStreamToArgs(rest_, lines_, 16);
+        if (lines_.empty()) {
             return false;
         }
     }
-    argument = arguments[position];
-    ++position;
+    argument = lines_[position_];
+    ++position_;
     return true;
 }
 
-// From the first argument that was not given out yet.
-void TextSource::copyRest() {
-    if (owner == Owner::library) {
+// From the first argument that was not given out yet. A text of the library's own is safe as it is.
+void TextArguments::copyRest() {
+    if (owner_ == Owner::library) {
         return;
     }
-    const char* const start =
-        position == arguments.size() ? rest.data() : arguments[position].data();
-    copy.assign(start, rest.data() + rest.size());
-    rest = copy;
-    arguments.clear();
-    position = 0;
+    const char* const start = position_ == lines_.size() ? rest_.data() : lines_[position_].data();
+    copy_.assign(start, rest_.data() + rest_.size());
+    rest_ = copy_;
+    lines_.clear();
+    position_ = 0;
 }
 
 void parseStreamToArgs(std::string_view& text,

@@ -8,60 +8,61 @@
 #include <string_view>
 #include <vector>
 
-#include "recognizers/argument_source.h"
+#include "recognizers/arguments.h"
 #include "text/text_arena.h"
 
 namespace zarn_3_3::internal {
 
 // What main was given, without the name of the program. A null entry ends it.
-class CommandLineSource final : public ArgumentSource {
+class CommandLineArguments final : public Arguments {
 public:
     // `argc` is at least 1. Throws std::invalid_argument when `argv` is null.
-    CommandLineSource(int argc, const char* const* argv);
+    CommandLineArguments(int argc, const char* const* argv);
 
 private:
     bool next(std::string& argument) override;
     void copyRest() override;
 
-    const char* const* at = nullptr;
-    const char* const* end = nullptr;
-    TextArena texts;  // of the copy
-    std::vector<const char*> copies;
+    const char* const* at_ = nullptr;
+    const char* const* end_ = nullptr;
+    TextArena texts_;  // of the copy
+    std::vector<const char*> copies_;
 };
 
-// A vector of the library's own, which is read and left as it is.
-class VectorSource final : public ArgumentSource {
+// A vector, from the front of which is removed what was taken, however the taking ends. Client code
+// has no hold on it.
+class VectorArguments final : public Arguments {
 public:
-    explicit VectorSource(const std::vector<std::string>& read) : arguments(read) {}
-
-    // How many arguments were read.
-    std::size_t taken() const { return position; }
+    explicit VectorArguments(std::vector<std::string>& all) : all_(all) {}
+    VectorArguments(const VectorArguments&) = delete;
+    VectorArguments& operator=(const VectorArguments&) = delete;
+    ~VectorArguments();
 
 private:
     bool next(std::string& argument) override;
     void copyRest() override {}
 
-    const std::vector<std::string>& arguments;
-    std::size_t position = 0;
+    std::vector<std::string>& all_;
+    std::size_t read_ = 0;  // from its front; those in the window are not taken yet
 };
 
 // The arguments of a text.
-class TextSource final : public ArgumentSource {
+class TextArguments final : public Arguments {
 public:
     enum class Owner { client, library };
 
-    // A text of the library's own must outlive the source.
-    TextSource(std::string_view read, Owner owner);
+    // A text of the library's own must outlive this object.
+    TextArguments(std::string_view read, Owner owner);
 
 private:
     bool next(std::string& argument) override;
     void copyRest() override;
 
-    std::string_view rest;
-    std::vector<std::string_view> arguments;  // those that were cut off last
-    std::size_t position = 0;                 // among them
-    Owner owner;
-    std::string copy;
+    std::string_view rest_;
+    std::vector<std::string_view> lines_;  // those that were cut off last
+    std::size_t position_ = 0;             // among them
+    Owner owner_;
+    std::string copy_;
 };
 
 // Cuts arguments off the front of `text`, one a line, and appends them to `args`, until those are

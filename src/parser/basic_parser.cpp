@@ -4,6 +4,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "help/help_topics.h"
+#include "help/messages.h"
 #include "parser/action_rules.h"
 #include "parser/argument_sources.h"
 #include "parser/guarded.h"
@@ -24,7 +26,8 @@ void requireOut(Made** out) {
     }
 }
 
-// Throws std::bad_cast for a result of somebody else's making.
+// Results of any parser will do, but a class of the client's own that implements the interface has
+// no place to store into: std::bad_cast.
 ParseResult& ownResult(IParseResult* result) {
     if (result == nullptr) {
         throw std::invalid_argument("The result is null");
@@ -32,32 +35,14 @@ ParseResult& ownResult(IParseResult* result) {
     return dynamic_cast<ParseResult&>(*result);
 }
 
-// Removes what was taken from a vector however the taking ends.
-class TakenArguments {
-public:
-    TakenArguments(std::vector<std::string>& all,
-                   const VectorSource& reader,
-                   const std::vector<std::string>& lookahead)
-        : arguments(all), source(reader), notYetTaken(lookahead) {}
-    TakenArguments(const TakenArguments&) = delete;
-    TakenArguments& operator=(const TakenArguments&) = delete;
-    ~TakenArguments() {
-        const std::size_t count = source.taken() - notYetTaken.size();
-        arguments.erase(arguments.begin(), arguments.begin() + static_cast<std::ptrdiff_t>(count));
-    }
-
-private:
-    std::vector<std::string>& arguments;
-    const VectorSource& source;
-    const std::vector<std::string>& notYetTaken;
-};
-
 }  // namespace
 
 int createParser(IParser** out, int flags) {
+    // There is no parser yet that could keep the text of a failure.
     std::string discarded;
     return guarded(discarded, [&] {
         requireOut(out);
+        // Freed by destroy, and by nobody else.
         *out = new BasicParser(flags);
         return resultOk;
     });
@@ -69,15 +54,18 @@ BasicParser::BasicParser(int creationFlags) : flags(creationFlags) {
     }
 }
 
-// Calls tell(handler, text) until it answers false. The text is kept, so that handlers may store
-// the pointer.
+// Passes an event on: calls tell(handler, text) for each handler until it answers false. The text
+// is kept, so that handlers may store the pointer.
+//
+// The parser is an event handler itself, so that recognisers need not know who listens, and so that
+// a parser can be a handler of another one.
 template <typename Tell>
 void BasicParser::passOn(EventKind kind, const char* text, const Value* value, Tell tell) {
     if (handlers.isEmpty()) {
         return;
     }
     const char* const kept = garbage.init(text);
-    passing.passOnce({kind, kept, value, ParseDriver::innermostParse()}, [&] {
+    passing_.passOnce({kind, kept, value, ParseDriver::innermostParse()}, [&] {
         handlers.visitWhile([&](EventHandler& handler) { return tell(handler, kept); });
     });
 }
@@ -105,6 +93,7 @@ bool BasicParser::onUknownArgument(const char* argument) {
            argument,
            nullptr,
            [&](EventHandler& handler, const char* kept) {
+               // The handler comes first: whatever those before it said, it is asked.
                isUnhandled = handler.onUknownArgument(kept) && isUnhandled;
                return true;
            });
@@ -151,20 +140,23 @@ bool BasicParser::isOptionDeclared(const char* name, bool action, const char* se
 int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
+        // Defaults come before anything that can fail, so that a failed parse leaves them, and in
+        // front of all numbers of the line.
         filled.applyDefault(registry.items());
+        // Kept: an empty command line breaks no rule, not even that an action is needed.
         if (argc < 2) {
             return static_cast<int>(resultOk);
         }
-        CommandLineSource source(argc, argv);
-        return parseSource(source, filled);
+        CommandLineArguments arguments(argc, argv);
+        return parseAll(arguments, filled);
     });
 }
 
 int BasicParser::parseStream(const char* text, IParseResult* result) {
     return guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
-        TextSource source(text == nullptr ? "" : text, TextSource::Owner::client);
-        return parseSource(source, filled);
+        TextArguments arguments(text == nullptr ? "" : text, TextArguments::Owner::client);
+        return parseAll(arguments, filled);
     });
 }
 
@@ -172,20 +164,32 @@ const char* BasicParser::getErrorDesc() {
     return guardedAnswer("", [&] { return garbage.keep(lastError); });
 }
 
+// Keeps what write(topics) answers.
+template <typename Write>
+const char* BasicParser::keptHelp(Write write) {
+    return guardedAnswer("", [&] {
+        const HelpText help = write(HelpTopics(registry));
+        if (help.isFailure) {
+            lastError = messages::unknownError;
+        }
+        return garbage.keep(help.text);
+    });
+}
+
 const char* BasicParser::getDescription(bool hidden) {
-    return guardedAnswer("", [&] { return help().vocabulary(hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.vocabulary(hidden); });
 }
 
 const char* BasicParser::getDescription(const char* topic, bool hidden) {
-    return guardedAnswer("", [&] { return help().topic(topic, hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.topic(topic, hidden); });
 }
 
 const char* BasicParser::getActionModifiersDescription(const char* action, bool hidden) {
-    return guardedAnswer("", [&] { return help().modifiersOf(action, hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.modifiersOf(action, hidden); });
 }
 
 const char* BasicParser::getGlobalModifiersDescription(bool hidden) {
-    return guardedAnswer("", [&] { return help().globalModifiers(hidden); });
+    return keptHelp([&](const HelpTopics& topics) { return topics.globalModifiers(hidden); });
 }
 
 bool BasicParser::addHandler(EventHandler* handler) {
@@ -198,6 +202,8 @@ bool BasicParser::addHandler(EventHandler* handler) {
 bool BasicParser::removeHandler(EventHandler* handler) { return handlers.remove(handler); }
 
 bool BasicParser::addOptionFileOption(const char* description, const char* section) {
+    // Kept: also when a client has declared an "option-file" of its own, which then names the
+    // files.
     optionFileDeclared = true;
     option(optionFileName, description, vtString, section);
     return true;
@@ -217,20 +223,20 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
         return code;
     }
     ParseDriver driver = driverFor(&filled, lastError);
-    VectorSource source(args);
-    std::vector<std::string> front;
-    return parseBehindOptions(driver, front, source, filled);
+    // A copy: the terminator and what follows stay in the vector of whoever called.
+    std::vector<std::string> rest(args);
+    VectorArguments arguments(rest);
+    return parseBehindOptions(driver, arguments, filled);
 }
 
 int BasicParser::parse_phase_one(const std::string& terminator,
                                  std::vector<std::string>& args,
                                  IParseResult* result,
                                  std::string& error) {
+    // What would be refused can be asked without a result.
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
-    VectorSource source(args);
-    std::vector<std::string> front;
-    const TakenArguments taken(args, source, front);
-    return driverFor(filled, error).parseOptions(terminator, front, source);
+    VectorArguments arguments(args);
+    return driverFor(filled, error).parseOptions(terminator, arguments);
 }
 
 int BasicParser::parse_phase_two(const std::string& /*terminator*/,
@@ -240,19 +246,19 @@ int BasicParser::parse_phase_two(const std::string& /*terminator*/,
     return checkActionRules(registry, allowedActionSets, ownResult(result), error);
 }
 
-int BasicParser::parseSource(ArgumentSource& source, ParseResult& result) {
+int BasicParser::parseAll(Arguments& arguments, ParseResult& result) {
     ParseDriver driver = driverFor(&result, lastError);
-    std::vector<std::string> front;
-    const int code = driver.parseOptions(endOfOptions, front, source);
-    return code != resultOk ? code : parseBehindOptions(driver, front, source, result);
+    const int code = driver.parseOptions(endOfOptions, arguments);
+    return code != resultOk ? code : parseBehindOptions(driver, arguments, result);
 }
 
 // What follows when the options of a command line are parsed: plain arguments, files, rules.
 int BasicParser::parseBehindOptions(ParseDriver& driver,
-                                    std::vector<std::string>& args,
-                                    ArgumentSource& source,
+                                    Arguments& arguments,
                                     ParseResult& result) {
-    int code = driver.collectNonparsingArguments(endOfOptions, args, source);
+    int code = driver.collectNonparsingArguments(endOfOptions, arguments);
+    // Files come behind the line itself, so that of values given in both the last one is the
+    // file's.
     if (code == resultOk && optionFileDeclared) {
         code = OptionFileWalk(driver, result, lastError).run();
     }
@@ -263,7 +269,10 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
 }
 
 ParseDriver BasicParser::driverFor(ParseResult* result, std::string& error) {
-    return {registry, *this, handlers, flags, result, error};
+    return {
+        registry, {*this, handlers},
+         flags, result, error
+    };
 }
 
 }  // namespace zarn_3_3

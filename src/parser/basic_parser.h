@@ -7,7 +7,6 @@
 #include <string>
 #include <vector>
 
-#include "help/help_topics.h"
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
 #include "parser/passing_events.h"
@@ -20,7 +19,7 @@ namespace zarn_3_3 {
 class ParseResult;
 
 namespace internal {
-class ArgumentSource;
+class Arguments;
 class ParseDriver;
 }  // namespace internal
 
@@ -93,20 +92,20 @@ private:
     template <typename Tell>
     void passOn(internal::EventKind kind, const char* text, const Value* value, Tell tell);
 
-    int parseSource(internal::ArgumentSource& source, ParseResult& result);
+    int parseAll(internal::Arguments& arguments, ParseResult& result);
     int parseBehindOptions(internal::ParseDriver& driver,
-                           std::vector<std::string>& args,
-                           internal::ArgumentSource& source,
+                           internal::Arguments& arguments,
                            ParseResult& result);
     internal::ParseDriver driverFor(ParseResult* result, std::string& error);
-    internal::HelpTopics help() { return {registry, garbage, lastError}; }
+    template <typename Write>
+    const char* keptHelp(Write write);
 
     RegisteredOptionStorage registry;
     Garbage garbage;
     std::string lastError;
     int flags;
     internal::HandlerSet handlers;
-    internal::PassingEvents passing;
+    internal::PassingEvents passing_;
     bool optionFileDeclared = false;
     internal::ActionGroups allowedActionSets;
 };

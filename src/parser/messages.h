@@ -9,20 +9,20 @@
 #include <string>
 #include <string_view>
 
-#include "text/joined.h"
+#include "text/filled.h"
 
 namespace zarn_3_3::internal::messages {
 
 inline std::string unknownArgument(std::string_view argument) {
-    return joined({"Unknown option: ", argument});
+    return filled("Unknown option: {}", {argument});
 }
 
 inline std::string optionFileUnreadable(std::string_view path) {
-    return joined({"Error reading option file '", path, "'"});
+    return filled("Error reading option file '{}'", {path});
 }
 
 inline std::string optionFileRefused(std::string_view path, std::string_view reason) {
-    return joined({optionFileUnreadable(path), ": ", reason});
+    return filled("{}: {}", {optionFileUnreadable(path), reason});
 }
 
 constexpr const char* optionFileCycle = "the files name each other in a cycle";
@@ -30,15 +30,12 @@ constexpr const char* tooManyOptionFiles = "more than 1000 option files in one p
 constexpr const char* tooMuchOptionText = "more than 256 MiB of option files in one parse";
 
 inline std::string actionsExclude(std::string_view action, std::string_view firstAction) {
-    return joined({"Action '-",
-                   action,
-                   "' and action '-",
-                   firstAction,
-                   "' were defined, but only one action possible."});
+    return filled("Action '-{}' and action '-{}' were defined, but only one action possible.",
+                  {action, firstAction});
 }
 
 inline std::string actionRefusesOption(std::string_view action, std::string_view option) {
-    return joined({"Action '-", action, "' doesn't accept option '-", option, "'"});
+    return filled("Action '-{}' doesn't accept option '-{}'", {action, option});
 }
 
 constexpr const char* noAction = "No action defined.";

@@ -14,12 +14,13 @@ constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
 
 }  // namespace
 
-OptionFileWalk::OptionFileWalk(ParseDriver& theDriver, ParseResult& filled, std::string& errorText)
-    : driver(theDriver), result(filled), error(errorText) {}
-
+// A walk by index over a list that grows: the files that a file names are values behind those that
+// stand there already. This takes the place of recursion, whose depth a file could choose.
 int OptionFileWalk::run() {
     noteNewValues(none);
-    const StoredOption* entry = result.find(optionFileName);
+    const StoredOption* entry = result_.find(optionFileName);
+    // A default names a file like a value. The walk begins at the first value then, which that file
+    // may have brought.
     if (entry != nullptr && entry->isDefaultOnly()) {
         const int code = read(entry->defaultText, none);
         if (code != resultOk) {
@@ -28,11 +29,11 @@ int OptionFileWalk::run() {
     }
     // By index, and found anew each time: every file may add values.
     for (std::size_t i = 0;; ++i) {
-        entry = result.find(optionFileName);
+        entry = result_.find(optionFileName);
         if (entry == nullptr || i >= entry->values.size()) {
             return resultOk;
         }
-        const int code = read(entry->values[i].text, valueNamedIn[i]);
+        const int code = read(entry->values[i].text, valueNamedIn_[i]);
         if (code != resultOk) {
             return code;
         }
@@ -40,37 +41,41 @@ int OptionFileWalk::run() {
 }
 
 int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
+    // A file is known by what it is, not by its path: links and other spellings lead to it as well.
+    // The cycle is looked for before the limits, which one would reach in the end: it is the better
+    // reason.
     const auto identity = TROV_2_18::system::identify(path);
     if (identity && isBeingRead(*identity, namedIn)) {
         return refuse(messages::optionFileRefused(path, messages::optionFileCycle));
     }
-    if (files.size() == mostFiles) {
+    if (files_.size() == mostFiles) {
         return refuse(messages::optionFileRefused(path, messages::tooManyOptionFiles));
     }
     std::string content;
     if (TROV_2_18::system::load_file(path, content) != 0) {
         return refuse(messages::optionFileUnreadable(path));
     }
-    bytesRead += content.size();
-    if (bytesRead > mostBytes) {
+    // After the load, which has a limit of its own: a file may change until it is read, a pipe has
+    // no size.
+    bytesRead_ += content.size();
+    if (bytesRead_ > mostBytes) {
         return refuse(messages::optionFileRefused(path, messages::tooMuchOptionText));
     }
-    files.push_back({identity, namedIn});
+    files_.push_back({identity, namedIn});
     const int code = parse(content);
-    noteNewValues(files.size() - 1);
+    noteNewValues(files_.size() - 1);
     return code;
 }
 
 int OptionFileWalk::parse(const std::string& content) {
-    const ParseResult::FromFile numbers(result);
-    TextSource source(content, TextSource::Owner::library);
-    std::vector<std::string> front;
-    const int code = driver.parseOptions(endOfOptions, front, source);
-    return code != resultOk ? code : driver.collectNonparsingArguments(endOfOptions, front, source);
+    const ParseResult::FromFile numbers(result_);
+    TextArguments arguments(content, TextArguments::Owner::library);
+    const int code = driver_.parseOptions(endOfOptions, arguments);
+    return code != resultOk ? code : driver_.collectNonparsingArguments(endOfOptions, arguments);
 }
 
 int OptionFileWalk::refuse(const std::string& message) {
-    error = message;
+    error_ = message;
     return resultOptionFileUnreadable;
 }
 
@@ -78,8 +83,8 @@ int OptionFileWalk::refuse(const std::string& message) {
 // named as often as one likes.
 bool OptionFileWalk::isBeingRead(const TROV_2_18::system::FileIdentity& identity,
                                  std::size_t innermost) const {
-    for (std::size_t i = innermost; i != none; i = files[i].namedIn) {
-        if (files[i].identity && *files[i].identity == identity) {
+    for (std::size_t i = innermost; i != none; i = files_[i].namedIn) {
+        if (files_[i].identity && *files_[i].identity == identity) {
             return true;
         }
     }
@@ -87,9 +92,9 @@ bool OptionFileWalk::isBeingRead(const TROV_2_18::system::FileIdentity& identity
 }
 
 void OptionFileWalk::noteNewValues(std::size_t namedIn) {
-    const StoredOption* const entry = result.find(optionFileName);
-    if (entry != nullptr && entry->values.size() > valueNamedIn.size()) {
-        valueNamedIn.resize(entry->values.size(), namedIn);
+    const StoredOption* const entry = result_.find(optionFileName);
+    if (entry != nullptr && entry->values.size() > valueNamedIn_.size()) {
+        valueNamedIn_.resize(entry->values.size(), namedIn);
     }
 }
 

@@ -25,7 +25,8 @@ constexpr const char* optionFileName = "option-file";
 // is named again below itself would make that endless.
 class OptionFileWalk {
 public:
-    OptionFileWalk(ParseDriver& theDriver, ParseResult& filled, std::string& errorText);
+    OptionFileWalk(ParseDriver& driver, ParseResult& result, std::string& error)
+        : driver_(driver), result_(result), error_(error) {}
 
     // resultOk, resultOptionFileUnreadable, or the code with which a file's arguments failed.
     int run();
@@ -44,12 +45,12 @@ private:
     bool isBeingRead(const TROV_2_18::system::FileIdentity& identity, std::size_t innermost) const;
     void noteNewValues(std::size_t namedIn);
 
-    ParseDriver& driver;
-    ParseResult& result;
-    std::string& error;
-    std::vector<File> files;
-    std::vector<std::size_t> valueNamedIn;  // for each value the file that named it, or none
-    std::size_t bytesRead = 0;
+    ParseDriver& driver_;
+    ParseResult& result_;
+    std::string& error_;
+    std::vector<File> files_;
+    std::vector<std::size_t> valueNamedIn_;  // for each value the file that named it, or none
+    std::size_t bytesRead_ = 0;
 };
 
 }  // namespace internal

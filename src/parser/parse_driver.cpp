@@ -18,57 +18,54 @@ namespace {
 
 constexpr const char* logPrefix = "collectNonparsingArguments: ";
 
-void removeLogSwitch(std::vector<std::string>& args, ArgumentSource& source) {
+// Each command line and each file decides anew: a log that was asked for in one place says nothing
+// of the next.
+void removeLogSwitch(Arguments& arguments) {
     switchLogOff();
-    source.fillUp(args);
-    if (!args.empty() && switchLog(args[0])) {
-        source.removeFront(args);
+    if (!arguments.isEmpty() && switchLog(arguments.front())) {
+        arguments.take();
     }
 }
 
 }  // namespace
 
-std::atomic<int> ParseDriver::depth{0};
+std::atomic<int> ParseDriver::depth_{0};
 
-ParseDriver::ParseDriver(RegisteredOptionStorage& theRegistry,
-                         EventHandler& eventParser,
-                         const HandlerSet& whoListens,
-                         int creationFlags,
-                         ParseResult* filled,
-                         std::string& errorText)
-    : registry(theRegistry),
-      parser(eventParser),
-      listeners(whoListens),
-      flags(creationFlags),
-      result(filled),
-      collector(filled),
-      error(errorText) {
-    depth.store(innermostParse() + 1, std::memory_order_relaxed);
+ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
+                         const Audience& audience,
+                         int flags,
+                         ParseResult* result,
+                         std::string& error)
+    : registry_(registry), audience_(audience), flags_(flags), result_(result), error_(error) {
+    // Parses run inside each other when handlers parse. An atomic, since parsers in other threads
+    // count here as well; they only get numbers that tell less.
+    depth_.store(innermostParse() + 1, std::memory_order_relaxed);
 }
 
-ParseDriver::~ParseDriver() { depth.store(innermostParse() - 1, std::memory_order_relaxed); }
+ParseDriver::~ParseDriver() { depth_.store(innermostParse() - 1, std::memory_order_relaxed); }
 
 // Whether client code runs as a matter of course: handlers, a stream under the log, or a locale
 // that is perhaps the client's own.
 bool ParseDriver::isObserved() const {
-    return !listeners.isEmpty() || isLogOn() || globalTextLocale() != TextLocale::classic;
+    return audience_.isThere() || isLogOn() || globalTextLocale() != TextLocale::classic;
 }
 
-int ParseDriver::parseOptions(const std::string& terminator,
-                              std::vector<std::string>& args,
-                              ArgumentSource& source) {
-    removeLogSwitch(args, source);
+int ParseDriver::parseOptions(const std::string& terminator, Arguments& arguments) {
+    removeLogSwitch(arguments);
+    // With nobody there the texts are read where the caller has them, and most tools never pay for
+    // a copy.
     if (isObserved()) {
-        source.secure();
+        arguments.secure();
     }
-    PositionalOptionsParser positional(parser, listeners, flags, source);
-    AbbreviationParser abbreviation(parser, listeners, flags, source);
+    PositionalOptionsParser positional(audience_, arguments, flags_);
+    AbbreviationParser abbreviation(audience_, arguments);
     const Recognizers recognizers{&positional, &abbreviation};
     std::size_t matched = 0;
-    while (!args.empty() && args[0] != terminator) {
-        IArgumentParser* const taker = chooseRecognizer(recognizers, args);
-        const int code = taker != nullptr ? taker->parse(args, collector, registry, matched, error)
-                                          : passOver(args, source);
+    while (!arguments.isEmpty() && arguments.front() != terminator) {
+        IArgumentParser* const taker = chooseRecognizer(recognizers, arguments);
+        const int code = taker != nullptr
+                             ? taker->parse(arguments.window(), result_, registry_, matched, error_)
+                             : passOver(arguments);
         if (code != resultOk) {
             return code;
         }
@@ -78,12 +75,14 @@ int ParseDriver::parseOptions(const std::string& terminator,
 
 // Of those that take the argument in front, the one with the highest priority; null for none.
 IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
-                                               std::vector<std::string>& args) {
+                                               Arguments& arguments) {
     std::string discarded;  // they are only asked
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
+    // All are asked, also when one has said yes: the log shows what each of them makes of an
+    // argument.
     for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(args, registry, discarded) != 0) {
+        if (recognizer->recognize(arguments.window(), registry_, discarded) != 0) {
             continue;
         }
         const int priority = recognizer->getPriority();
@@ -96,31 +95,32 @@ IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
 }
 
 // An argument that nobody takes is an error or skipped; the handlers are asked in both cases.
-int ParseDriver::passOver(std::vector<std::string>& args, ArgumentSource& source) {
-    const bool isUnhandled = parser.onUknownArgument(args[0].c_str());
-    if (isUnhandled && (flags & flagUnknownIsError) != 0) {
-        error = messages::unknownArgument(args[0]);
+int ParseDriver::passOver(Arguments& arguments) {
+    // Handlers hear of it before it is an error: that is how a tool takes arguments that it does
+    // not declare.
+    const bool isUnhandled = audience_.handler.onUknownArgument(arguments.front().c_str());
+    if (isUnhandled && (flags_ & flagUnknownIsError) != 0) {
+        error_ = messages::unknownArgument(arguments.front());
         return resultRuleBroken;
     }
-    trace("ignoring ", args[0]);
-    source.removeFront(args);
+    trace("ignoring ", arguments.front());
+    arguments.take();
     return resultOk;
 }
 
-int ParseDriver::collectNonparsingArguments(const std::string& terminator,
-                                            std::vector<std::string>& args,
-                                            ArgumentSource& source) {
-    source.fillUp(args);
-    if (args.empty() || args[0] != terminator) {
+int ParseDriver::collectNonparsingArguments(const std::string& terminator, Arguments& arguments) {
+    if (arguments.isEmpty() || arguments.front() != terminator) {
         return resultOk;
     }
-    for (source.removeFront(args); !args.empty(); source.removeFront(args)) {
-        result->storeArgument(args[0]);
-        trace(logPrefix, "stored argument: '", args[0], "'");
-        if ((flags & flagPositionalBehindTerminator) == 0) {
+    arguments.take();
+    while (!arguments.isEmpty()) {
+        result_->storeArgument(arguments.front());
+        trace(logPrefix, "stored argument: '", arguments.front(), "'");
+        if ((flags_ & flagPositionalBehindTerminator) == 0) {
+            arguments.take();
             continue;
         }
-        const int code = offerToPositional(args[0]);
+        const int code = offerToPositional(arguments);
         if (code != resultOk) {
             return code;
         }
@@ -128,21 +128,20 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator,
     return resultOk;
 }
 
-// One argument at a time, which behind the terminator may begin with a dash.
-int ParseDriver::offerToPositional(const std::string& argument) {
-    const std::vector<std::string> none;
-    VectorSource nothingElse(none);
-    PositionalOptionsParser positional(
-        parser, listeners, flags & ~flagPositionalWithoutDash, nothingElse);
-    std::vector<std::string> args{argument};
-    const int recognized = positional.recognize(args, registry, error);
-    trace(logPrefix, "recognize result: ", recognized, ", message: ", error);
+// One argument at a time, which behind the terminator may begin with a dash. Each is a plain
+// argument first, and only then an occurrence: the result shows it in both ways.
+int ParseDriver::offerToPositional(Arguments& arguments) {
+    const int flags = flags_ & ~(flagPositionalWithoutDash | flagPositionalTakesRest);
+    PositionalOptionsParser positional(audience_, arguments, flags);
+    const int recognized = positional.recognize(arguments.window(), registry_, error_);
+    trace(logPrefix, "recognize result: ", recognized, ", message: ", error_);
     if (recognized != 0) {
+        arguments.take();
         return resultOk;
     }
     std::size_t matched = 0;
-    const int code = positional.parse(args, collector, registry, matched, error);
-    trace(logPrefix, "parse result: ", code, ", message: ", error);
+    const int code = positional.parse(arguments.window(), result_, registry_, matched, error_);
+    trace(logPrefix, "parse result: ", code, ", message: ", error_);
     return code;
 }
 

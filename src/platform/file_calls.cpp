@@ -12,6 +12,8 @@ int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
     return ::fstat(descriptor, status);
 }
 
+// Not inherited by programs that the tool starts; and a terminal that a path names does not take
+// over the process.
 int openForReading(const char* path) { return ::open(path, O_RDONLY | O_CLOEXEC | O_NOCTTY); }
 
 ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
@@ -19,6 +21,8 @@ ssize_t readSome(int descriptor, char* buffer, std::size_t size) {
 }
 
 void closeDescriptor(int descriptor) noexcept {
+    // A descriptor whose closing is cancelled may be open or not: nobody could tell what to do with
+    // it.
     int before = 0;
     ::pthread_setcancelstate(PTHREAD_CANCEL_DISABLE, &before);
     ::close(descriptor);

@@ -27,28 +27,28 @@ auto uninterrupted(Call call) {
 class OpenFile {
 public:
     explicit OpenFile(const ustring8& path)
-        : descriptor(uninterrupted([&path] { return calls::openForReading(path.c_str()); })) {}
+        : descriptor_(uninterrupted([&path] { return calls::openForReading(path.c_str()); })) {}
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
     ~OpenFile() {
         if (isOpen()) {
-            calls::closeDescriptor(descriptor);
+            calls::closeDescriptor(descriptor_);
         }
     }
 
-    bool isOpen() const { return descriptor != -1; }
+    bool isOpen() const { return descriptor_ != -1; }
 
     bool readStatus(struct stat& status) const {
-        return calls::statusOfDescriptor(descriptor, &status) == 0;
+        return calls::statusOfDescriptor(descriptor_, &status) == 0;
     }
 
     // The bytes read, 0 at the end, -1 after an error.
     ssize_t read(char* buffer, std::size_t size) const {
-        return uninterrupted([&] { return calls::readSome(descriptor, buffer, size); });
+        return uninterrupted([&] { return calls::readSome(descriptor_, buffer, size); });
     }
 
 private:
-    int descriptor;
+    int descriptor_;
 };
 
 bool isLoadable(const struct stat& status) {
@@ -62,11 +62,14 @@ Outcome readAll(const OpenFile& file, ustring8& content) {
     constexpr std::size_t bufferSize = 32 * 1024;
     const std::unique_ptr<char[]> buffer(new char[bufferSize]);  // threads may have small stacks
     for (;;) {
+        // Until there is nothing more: pipes give what they have, and files may grow or shrink
+        // while they are read.
         const ssize_t got = file.read(buffer.get(), bufferSize);
         if (got <= 0) {
             return got == 0 ? Outcome::succeeded : Outcome::failed;
         }
         const std::size_t size = static_cast<std::size_t>(got);
+        // No text has a NUL byte: this is no option file, and the argument would end in the middle.
         const bool hasNul = std::memchr(buffer.get(), '\0', size) != nullptr;
         if (hasNul || size > largestFile - content.size()) {
             return Outcome::failed;
@@ -82,6 +85,7 @@ Outcome load(const ustring8& path, ustring8& content) {
         return Outcome::failed;
     }
     const OpenFile file(path);
+    // What was looked at may not be what was opened: the path can name another file by now.
     if (!file.isOpen() || !file.readStatus(status) || !isLoadable(status)) {
         return Outcome::failed;
     }

@@ -15,20 +15,9 @@ using namespace internal;
 
 namespace {
 
-constexpr int recognized = 0;
-constexpr int declined = 1;
-
 bool beginsWithNo(std::string_view name) { return name.substr(0, noPrefix.size()) == noPrefix; }
 
 }  // namespace
-
-AbbreviationParser::AbbreviationParser(EventHandler& eventHandler,
-                                       const HandlerSet& whoListens,
-                                       int creationFlags,
-                                       ArgumentSource& rest)
-    : IArgumentParser(eventHandler, whoListens, creationFlags, rest) {
-    name = "AbbreviationParser";
-}
 
 int AbbreviationParser::recognize(std::vector<std::string>& args,
                                   RegisteredOptionStorage& registry,
@@ -37,11 +26,12 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
     candidates.clear();
     trace(name, ": recognizing argument '", argument, "'");
     matchIndex = NameIndex::none;
+    // A lone dash is no option: many tools take it for the standard input.
     if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
         return declined;
     }
-    value = {};
-    hasValue = splitOptionValue(argument, &text, &value, textLocale());
+    value_ = {};
+    hasValue_ = splitOptionValue(argument, &text_, &value_, textLocale());
     return recognizeName(argument, registry) ? recognized : declined;
 }
 
@@ -49,14 +39,14 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
 bool AbbreviationParser::recognizeName(const std::string& argument,
                                        RegisteredOptionStorage& registry) {
     // An exact name beats every longer one, so there is nothing to search.
-    if (findOption(text, matchIndex, registry) == resultSuccess) {
-        matchName = text;
+    if (findOption(text_, matchIndex, registry) == resultSuccess) {
+        matchName = text_;
     } else if (const int matches = findBestMatch(argument, registry); matches != 1) {
         return matches > 1;
     }
     trace(name,
           ": best match option for '",
-          text,
+          text_,
           "' in argument '",
           argument,
           "' is '",
@@ -65,28 +55,34 @@ bool AbbreviationParser::recognizeName(const std::string& argument,
     return true;
 }
 
+// Looking for the best match. A form that is typed in full was found before; of the others those
+// match that begin with the text, letter by letter. One match is taken. Nothing is ever guessed
+// beyond that, however close a name may be: a tool could do something else than its user asked for.
+//
 // The number of matches: one is left in `matchName` and `matchIndex`, several in `candidates`.
 int AbbreviationParser::findBestMatch(const std::string& argument,
                                       RegisteredOptionStorage& registry) {
-    const PrefixIndex::Found found = registry.findBeginning(text);
+    const PrefixIndex::Found found = registry.findBeginning(text_);
     if (found.first == KeptTexts::none) {
         return 0;
     }
+    // The index counts forms, not items: two names of one item that begin so are ambiguous too.
     if (found.isOnly) {
         matchName = registry.names().forms()[found.first];
         matchIndex = registry.names().firstWithForm(found.first);
         return 1;
     }
-    // Who they are is asked once in a parse, which fails with that: a walk over all forms will do.
+    // The index knows that there are several, not which. That is asked once in a parse, which fails
+    // with it: a walk over all forms will do.
     std::vector<std::string> tied;
-    makeOptionNamesList(registry, text, tied);
+    makeOptionNamesList(registry, text_, tied);
     for (const std::string& form : tied) {
         candidates += candidates.empty() ? "'" : ", '";
         candidates += form + "'";
     }
     trace(name,
           ": failed to get best match for '",
-          text,
+          text_,
           "' in argument '",
           argument,
           "':",
@@ -95,101 +91,93 @@ int AbbreviationParser::findBestMatch(const std::string& argument,
     return static_cast<int>(tied.size());
 }
 
-int AbbreviationParser::parse(std::vector<std::string>& args,
-                              IResultCollector* collector,
-                              RegisteredOptionStorage& registry,
-                              std::size_t& optionIndex,
-                              std::string& error) {
+const OptionDescription* AbbreviationParser::match(RegisteredOptionStorage& registry,
+                                                   std::size_t& optionIndex,
+                                                   std::string& error) {
     optionIndex = matchIndex;
-    trace(name, ": parsing argument '", args[0], "'");
-    if (text.empty() || text[0] == '-') {
-        error = messages::unknownOption(args[0]);
-        return resultRuleBroken;
-    }
-    if (!candidates.empty()) {
-        error = messages::ambiguousOption(text, formatTokenMessage(args[0]), candidates);
-        return resultRuleBroken;
+    const bool isName = !text_.empty() && text_[0] != '-';
+    if (!isName || !candidates.empty()) {
+        tellProblem(isName, error);
+        return nullptr;
     }
     const OptionDescription& option = registry.items()[matchIndex];
     trace(name, ": detected option: '", option.primaryName(), "'");
-    if (hasValue) {
-        trace(name, ": value from the same argument taken: '", value, "'");
+    if (hasValue_) {
+        trace(name, ": value from the same argument taken: '", value_, "'");
     }
-    std::size_t count = 1;
-    int code = decideValue(option, args, count, error);
-    if (code != resultOk) {
-        return code;
-    }
-    if (mayChange(option, matchIndex, registry)) {
-        const OptionDescription copy = option.forBinding();
-        code = bind(copy, args, collector, error);
-    } else {
-        code = bind(option, args, collector, error);
-    }
-    for (; code == resultOk && count > 0; --count) {
-        removeFront(args);
-    }
-    return code;
+    return decideValue(option, error) == resultOk ? &option : nullptr;
 }
 
-int AbbreviationParser::decideValue(const OptionDescription& option,
-                                    std::vector<std::string>& args,
-                                    std::size_t& count,
-                                    std::string& error) {
-    if (option.type == vtNull) {
-        if (!value.empty()) {
-            error = messages::switchTakesNoValue(option.primaryName(), formatTokenMessage(args[0]));
-            return refuse(error);
-        }
-        return resultOk;
-    }
-    if (option.type == vtBool) {
-        if (!value.empty()) {
-            error =
-                messages::booleanTakesNoValue(option.primaryName(), formatTokenMessage(args[0]));
-            return refuse(error);
-        }
-        value = beginsWithNo(matchName) ? "0" : "1";
-        return resultOk;
-    }
-    return value.empty() ? takeNextArgument(option, args, count, error) : resultOk;
+// "--" with a value behind it, or a third dash: it looked like an option, and can be none. The log
+// has no line for either problem, unlike for those that are refused below.
+void AbbreviationParser::tellProblem(bool isName, std::string& error) {
+    std::string& argument = arguments_.front();
+    error = isName ? messages::ambiguousOption(text_, formatTokenMessage(argument), candidates)
+                   : messages::unknownOption(argument);
 }
 
-int AbbreviationParser::takeNextArgument(const OptionDescription& option,
-                                         std::vector<std::string>& args,
-                                         std::size_t& count,
-                                         std::string& error) {
+int AbbreviationParser::decideValue(const OptionDescription& option, std::string& error) {
+    argumentCount_ = 1;
+    const bool isSwitch = option.type == vtNull;
+    if (!isSwitch && option.type != vtBool) {
+        return value_.empty() ? takeNextArgument(option, error) : resultOk;
+    }
+    // For these the name is all there is to say. An empty value, as in "--name=", says nothing
+    // more.
+    if (!value_.empty()) {
+        return refuseValue(option, error);
+    }
+    if (!isSwitch) {
+        value_ = beginsWithNo(matchName) ? "0" : "1";
+    }
+    return resultOk;
+}
+
+int AbbreviationParser::refuseValue(const OptionDescription& option, std::string& error) {
+    const std::string suffix = formatTokenMessage(arguments_.front());
+    return refuse(option.type == vtNull
+                      ? messages::switchTakesNoValue(option.primaryName(), suffix)
+                      : messages::booleanTakesNoValue(option.primaryName(), suffix),
+                  error);
+}
+
+int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::string& error) {
     trace(name, ": no value in the same argument, looking next");
-    source.fillUp(args, 2);
-    if (args.size() < 2) {
-        error = messages::valueRequired(option.primaryName(), formatTokenMessage(args[0]));
-        return refuse(error);
+    const std::string* const next = arguments_.second();
+    // Most likely the value was forgotten, and this is the next option. A negative number looks the
+    // same, and has to be attached.
+    if (next != nullptr && !next->empty() && next->front() == '-') {
+        return refuse(messages::valueSeemsToBeOption(option.primaryName(), *next), error);
     }
-    value = args[1];
-    if (!value.empty() && value[0] == '-') {
-        error = messages::valueSeemsToBeOption(option.primaryName(), args[1]);
-        return refuse(error);
+    if (next != nullptr) {
+        value_ = *next;
+        argumentCount_ = 2;
+        trace(name, ": got value from the next argument: '", value_, "'");
     }
-    count = 2;
-    trace(name, ": got value from the next argument: '", value, "'");
-    if (value.empty()) {
-        error = messages::valueRequired(option.primaryName(), formatTokenMessage(args[0]));
-        return refuse(error);
+    if (value_.empty()) {
+        return refuse(
+            messages::valueRequired(option.primaryName(), formatTokenMessage(arguments_.front())),
+            error);
     }
     return resultOk;
 }
 
 int AbbreviationParser::bind(const OptionDescription& option,
-                             std::vector<std::string>& args,
                              IResultCollector* collector,
                              std::string& error) {
-    if (isHeard()) {
-        handler.onOptionParse(option.primaryName().c_str());
+    if (audience_.isThere()) {
+        audience_.handler.onOptionParse(option.primaryName().c_str());
     }
     trace(name, ": sent event on option parsed");
-    return parseValueAndAddOption(value, error, option, args, collector);
+    const int code = parseValueAndAddOption(value_, error, option, collector);
+    // Only now: what failed still stands in front, for whoever looks at the rest of the arguments.
+    for (std::size_t count = argumentCount_; code == resultOk && count > 0; --count) {
+        take();
+    }
+    return code;
 }
 
+// Forms are numbered in the order of declaration, which is that of the message.
 void makeOptionNamesList(const RegisteredOptionStorage& registry,
                          std::string_view beginning,
                          std::vector<std::string>& names) {

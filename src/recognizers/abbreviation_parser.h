@@ -16,43 +16,37 @@ namespace zarn_3_3 {
 // `parse` relies on what the `recognize` before it, on the same arguments, left here.
 class AbbreviationParser final : public IArgumentParser {
 public:
-    AbbreviationParser(EventHandler& eventHandler,
-                       const internal::HandlerSet& whoListens,
-                       int creationFlags,
-                       internal::ArgumentSource& rest);
+    AbbreviationParser(const internal::Audience& audience, internal::Arguments& arguments)
+        : IArgumentParser("AbbreviationParser", audience, arguments) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,
                   std::string& error) override;
-    int parse(std::vector<std::string>& args,
-              IResultCollector* collector,
-              RegisteredOptionStorage& registry,
-              std::size_t& optionIndex,
-              std::string& error) override;
     int getPriority() override { return -10; }
 
 private:
     bool recognizeName(const std::string& argument, RegisteredOptionStorage& registry);
     int findBestMatch(const std::string& argument, RegisteredOptionStorage& registry);
-    int decideValue(const OptionDescription& option,
-                    std::vector<std::string>& args,
-                    std::size_t& count,
-                    std::string& error);
-    int takeNextArgument(const OptionDescription& option,
-                         std::vector<std::string>& args,
-                         std::size_t& count,
-                         std::string& error);
+    const OptionDescription* match(RegisteredOptionStorage& registry,
+                                   std::size_t& optionIndex,
+                                   std::string& error) override;
+    [[gnu::cold]] void tellProblem(bool isName, std::string& error);
+    int decideValue(const OptionDescription& option, std::string& error);
+    [[gnu::cold]] int refuseValue(const OptionDescription& option, std::string& error);
+    int takeNextArgument(const OptionDescription& option, std::string& error);
     int bind(const OptionDescription& option,
-             std::vector<std::string>& args,
              IResultCollector* collector,
-             std::string& error);
+             std::string& error) override;
 
     std::size_t matchIndex = internal::NameIndex::none;
-    std::string candidates;      // tied names, quoted; empty unless the argument is ambiguous
-    std::string_view matchName;  // the name or "no-" form that was matched
-    std::string_view text;       // the argument cut: its name,
-    std::string_view value;      // its value,
-    bool hasValue = false;       // and whether one was attached
+    std::string candidates;          // tied names, quoted; empty unless the argument is ambiguous
+    std::string_view matchName;      // the name or "no-" form that was matched
+    std::size_t argumentCount_ = 1;  // 2 when the value is the next argument
+
+    // Views into the arguments in front, which stay where they are until they are taken.
+    std::string_view text_;   // the name in the argument
+    std::string_view value_;  // the value, attached to it or the next argument
+    bool hasValue_ = false;   // whether one was attached
 };
 
 // Appends the names and the "no-" forms of booleans that begin with `beginning`, each once, in the

@@ -1,6 +1,11 @@
+// The way of a value: an occurrence is bound as a whole or not at all. It gets its number, its text
+// is cut into pieces, each piece is checked, converted, numbered and announced, and only behind the
+// last one the result hears of it. What fails in between leaves numbers that nothing has.
+
 #include "recognizers/argument_parser.h"
 
 #include <stdexcept>
+#include <utility>
 
 #include "recognizers/messages.h"
 #include "result/option_data.h"
@@ -15,15 +20,13 @@ using namespace internal;
 
 std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
 
-IArgumentParser::IArgumentParser(EventHandler& eventHandler,
-                                 const HandlerSet& whoListens,
-                                 int creationFlags,
-                                 ArgumentSource& rest)
-    : handler(eventHandler),
-      listeners(whoListens),
-      flags(creationFlags),
-      source(rest),
-      data(std::make_unique<OptionData>()) {}
+IArgumentParser::IArgumentParser(std::string_view component,
+                                 const Audience& audience,
+                                 Arguments& arguments)
+    : name(component),
+      audience_(audience),
+      arguments_(arguments),
+      data_(std::make_unique<OptionData>()) {}
 
 IArgumentParser::~IArgumentParser() = default;
 
@@ -31,101 +34,136 @@ std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
 }
 
-int IArgumentParser::refuse(const std::string& error) const {
-    trace(name, ": ", error);
+int IArgumentParser::parse(std::vector<std::string>& args,
+                           IResultCollector* collector,
+                           RegisteredOptionStorage& registry,
+                           std::size_t& optionIndex,
+                           std::string& error) {
+    trace(name, ": parsing argument '", args[0], "'");
+    const OptionDescription* const option = match(registry, optionIndex, error);
+    if (option == nullptr) {
+        return resultRuleBroken;
+    }
+    return mayChange(*option, optionIndex, registry) ? bindCopy(*option, collector, error)
+                                                     : bind(*option, collector, error);
+}
+
+// Handlers may go on with the settings of the item, or declare the next one, and must not change
+// the rules in the middle of an occurrence.
+int IArgumentParser::bindCopy(const OptionDescription& option,
+                              IResultCollector* collector,
+                              std::string& error) {
+    const OptionDescription copy = option.forBinding();
+    return bind(copy, collector, error);
+}
+
+// Client code may run while an occurrence is bound: where it is observed, or else in a stream to
+// which the warning about a deprecated value is written. Then the arguments are made safe from it,
+// and the answer is whether it could change the item too.
+bool IArgumentParser::mayChange(const OptionDescription& option,
+                                std::size_t index,
+                                const RegisteredOptionStorage& registry) {
+    if (!isObserved() && option.deprecatedValues.empty()) {
+        return false;
+    }
+    arguments_.secure();
+    return registry.isOpen(index);
+}
+
+int IArgumentParser::refuse(std::string reason, std::string& error) const {
+    trace(name, ": ", reason);
+    error = std::move(reason);
     return resultRuleBroken;
 }
 
-void IArgumentParser::removeFront(std::vector<std::string>& args) {
-    trace(name, ": removing argument: '", args[0], "'");
-    source.removeFront(args);
+void IArgumentParser::take() {
+    trace(name, ": removing argument: '", arguments_.front(), "'");
+    arguments_.take();
 }
-
-// One occurrence on its way into the result.
-struct IArgumentParser::Binding {
-    std::string_view value;
-    const std::string& option;  // the primary name
-    const OptionDescription& description;
-    const std::string& argument;
-    OptionData& data;
-    std::string& error;
-};
 
 int IArgumentParser::parseValueAndAddOption(std::string_view value,
                                             std::string& error,
                                             const OptionDescription& option,
-                                            std::vector<std::string>& args,
                                             IResultCollector* collector) {
-    data->positions.assign(1, Sequence::draw());
-    data->values.clear();
+    // The number of the occurrence is drawn before those of its values: in the order of a result it
+    // stands in front of them.
+    data_->positions.assign(1, Sequence::draw());
+    data_->values.clear();
     if (!value.empty()) {
-        const Binding binding{value, option.primaryName(), option, args[0], *data, error};
         trace(name, ": adding values to result container:");
-        const int code = bindPieces(binding, option.tokenizer);
+        const int code = bindPieces(value, option, error);
         if (code != resultOk) {
             return code;
         }
     }
+    // Without a result, arguments can be checked and announced as ever.
     if (collector == nullptr) {
         throw std::invalid_argument("There is no result to store into");
     }
-    collector->store(option, *data);
+    collector->store(option, *data_);
     trace(name, ": stored option to result container.");
     return resultOk;
 }
 
-int IArgumentParser::bindPieces(const Binding& binding, char separator) {
-    const std::string_view value = binding.value;
+int IArgumentParser::bindPieces(std::string_view value,
+                                const OptionDescription& option,
+                                std::string& error) {
+    const char separator = option.tokenizer;
     if (separator == 0) {
         trace(name, ": not using tokenizer");
-        return bindPiece(binding, value);
+        return bindPiece(value, value, option, error);
     }
     trace(name, ": using tokenizer on char: '", std::string_view(&separator, 1), "'");
+    // Separators in a row count as one, and those at the ends as none: there are no empty pieces. A
+    // value that is nothing else is an error.
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        binding.error = messages::noValueParsed(value, binding.option);
-        return refuse(binding.error);
+        return refuse(messages::noValueParsed(value, option.primaryName()), error);
     }
     while (start != std::string_view::npos) {
         const std::size_t end = value.find(separator, start);
         const std::string_view piece = value.substr(start, end - start);
         trace(name, ": value is: '", piece, "'");
-        const int code = bindPiece(binding, piece);
+        const int code = bindPiece(piece, value, option, error);
         if (code != resultOk) {
             return code;
         }
         trace(name,
               ": sent event on value parsed, option: '",
-              binding.option,
+              option.primaryName(),
               "', value: '",
-              binding.data.values.back().text,
+              data_->values.back().text,
               "'");
         start = end == std::string_view::npos ? end : value.find_first_not_of(separator, end);
     }
     return resultOk;
 }
 
-int IArgumentParser::bindPiece(const Binding& binding, std::string_view piece) {
-    OptionValue& bound = binding.data.values.emplace_back();
+int IArgumentParser::bindPiece(std::string_view piece,
+                               std::string_view value,
+                               const OptionDescription& option,
+                               std::string& error) {
+    OptionValue& bound = data_->values.emplace_back();
     bound.text = piece;
-    if (!binding.description.validate(bound.text, bound.value, binding.error, textLocale())) {
-        binding.error = messages::invalidValue(binding.argument, binding.error);
-        return refuse(binding.error);
+    // What is wrong about the value is known to the item; which argument it stands in, only here.
+    if (!option.validate(bound.text, bound.value, error, textLocale())) {
+        return refuse(messages::invalidValue(arguments_.front(), error), error);
     }
     bound.position = Sequence::draw();
-    return isHeard() ? announce(binding, bound) : resultOk;
+    if (!audience_.isThere() || isWelcome(bound, option.primaryName())) {
+        return resultOk;
+    }
+    error = messages::vetoedValue(value, option.primaryName(), arguments_.front());
+    trace(name, error, messages::handlerVetoed);  // kept: nothing behind the name
+    return resultVetoed;
 }
 
-int IArgumentParser::announce(const Binding& binding, const OptionValue& value) {
+bool IArgumentParser::isWelcome(const OptionValue& value, const std::string& option) const {
+    // A text that the value holds has a terminator already; others are views into the argument.
     const char* const held = plinth2::get_variant_value(value.value, nullptr);
     const std::string copy(held == nullptr ? value.text : "");  // with a terminator
     const Value announced(held == nullptr ? copy.c_str() : held, value.value, value.position);
-    if (handler.onValueParse(binding.option.c_str(), announced)) {
-        return resultOk;
-    }
-    binding.error = messages::vetoedValue(binding.value, binding.option, binding.argument);
-    trace(name, binding.error, messages::handlerVetoed);  // kept: nothing behind the name
-    return resultVetoed;
+    return audience_.handler.onValueParse(option.c_str(), announced);
 }
 
 }  // namespace zarn_3_3

@@ -12,29 +12,28 @@
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
-#include "recognizers/argument_source.h"
-#include "recognizers/handler_set.h"
+#include "recognizers/arguments.h"
+#include "recognizers/audience.h"
 #include "text/text_locale.h"
 
 namespace zarn_3_3 {
 
-class EventHandler;
 class IResultCollector;
 struct OptionData;
 struct OptionValue;
 
-// Takes arguments from the front of an argument vector.
+// Takes arguments from the front of those that it was made for. The vector `args`, with which the
+// driver calls, is their window: the argument in front is `args[0]`.
 //
-// `handler` hears of every option and value; it is not called while it has no listeners. An
-// occurrence is bound to its item as it was when it was recognised, and only the item declared last
-// can change: of that one a copy is taken when client code may run meanwhile. Others are used where
-// they stand. `rest` holds what stands behind the argument vectors that are parsed.
+// An occurrence is bound to its item as it was when it was recognised, and only the item declared
+// last can change: of that one a copy is taken when client code may run meanwhile. Others are used
+// where they stand.
 class IArgumentParser {
 public:
-    IArgumentParser(EventHandler& eventHandler,
-                    const internal::HandlerSet& whoListens,
-                    int creationFlags,
-                    internal::ArgumentSource& rest);
+    // `component` stands in front of every line of the log.
+    IArgumentParser(std::string_view component,
+                    const internal::Audience& audience,
+                    internal::Arguments& arguments);
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
     virtual ~IArgumentParser();
@@ -51,7 +50,7 @@ public:
                       IResultCollector* collector,
                       RegisteredOptionStorage& registry,
                       std::size_t& optionIndex,
-                      std::string& error) = 0;
+                      std::string& error);
 
     // What is put behind a message to name the argument that it is about.
     virtual std::string formatTokenMessage(std::string& token);
@@ -63,61 +62,63 @@ public:
     static std::atomic<int>& m_idx;
 
 protected:
+    // What recognize answers.
+    static constexpr int recognized = 0;
+    static constexpr int declined = 1;
+
     // Binds `value`, which may be empty for an occurrence without one, to `option`: cuts, checks
     // and announces it, and stores the occurrence. 0; 1 when a handler refused a value; 2 when a
     // value is wrong.
     int parseValueAndAddOption(std::string_view value,
                                std::string& error,
                                const OptionDescription& option,
-                               std::vector<std::string>& args,
                                IResultCollector* collector);
 
-    // Logs `error` and gives the code of a broken rule.
-    int refuse(const std::string& error) const;
+    // Logs why the argument in front is refused, and makes it the error.
+    int refuse(std::string reason, std::string& error) const;
 
-    void removeFront(std::vector<std::string>& args);
-
-    bool isHeard() const { return !listeners.isEmpty(); }
+    void take();
 
     // Whether client code runs with every step: in a handler, or in a stream under the log.
-    bool isObserved() const { return isHeard() || internal::isLogOn(); }
-
-    // To be called before an item, the one with this index, is bound. Client code may run
-    // meanwhile, in a stream to which a warning about a deprecated value is written if nowhere
-    // else: then the arguments are made safe from it, and the answer is whether it could change the
-    // item too.
-    bool mayChange(const OptionDescription& option,
-                   std::size_t index,
-                   const RegisteredOptionStorage& registry) {
-        if (!isObserved() && option.deprecatedValues.empty()) {
-            return false;
-        }
-        source.secure();
-        return registry.isOpen(index);
-    }
+    bool isObserved() const { return audience_.isThere() || internal::isLogOn(); }
 
     // Asked once unless client code runs meanwhile, which may set another locale.
     internal::TextLocale textLocale() const {
-        return isObserved() ? internal::globalTextLocale() : initialLocale;
+        return isObserved() ? internal::globalTextLocale() : initialLocale_;
     }
 
-    EventHandler& handler;
-    const internal::HandlerSet& listeners;
-    std::string_view name = "UndefinedParser";  // in front of every line of the log
-    int flags;
-    internal::ArgumentSource& source;
+    std::string_view name;
+    const internal::Audience audience_;
+    internal::Arguments& arguments_;
 
 private:
-    struct Binding;
+    // The two halves of `parse`. The first says which item it is, or what is wrong about the
+    // argument, and null then; the second stores what was given of it.
+    virtual const OptionDescription* match(RegisteredOptionStorage& registry,
+                                           std::size_t& optionIndex,
+                                           std::string& error) = 0;
+    virtual int bind(const OptionDescription& option,
+                     IResultCollector* collector,
+                     std::string& error) = 0;
 
-    internal::TextLocale initialLocale = internal::globalTextLocale();
+    bool mayChange(const OptionDescription& option,
+                   std::size_t index,
+                   const RegisteredOptionStorage& registry);
+    // Kept out of the way of those parses, by far the most, that need no copy.
+    [[gnu::noinline]] int bindCopy(const OptionDescription& option,
+                                   IResultCollector* collector,
+                                   std::string& error);
+    int bindPieces(std::string_view value, const OptionDescription& option, std::string& error);
+    int bindPiece(std::string_view piece,
+                  std::string_view value,
+                  const OptionDescription& option,
+                  std::string& error);
+    bool isWelcome(const OptionValue& value, const std::string& option) const;
+
+    internal::TextLocale initialLocale_ = internal::globalTextLocale();
 
     // Of the occurrence in progress; kept for the next one, which then allocates nothing.
-    std::unique_ptr<OptionData> data;
-
-    int bindPieces(const Binding& binding, char separator);
-    int bindPiece(const Binding& binding, std::string_view piece);
-    int announce(const Binding& binding, const OptionValue& value);
+    std::unique_ptr<OptionData> data_;
 };
 
 }  // namespace zarn_3_3

@@ -15,13 +15,13 @@ namespace internal {
 // Ordered by address; not owned.
 class HandlerSet {
 public:
-    bool isEmpty() const { return handlers.empty(); }
+    bool isEmpty() const { return handlers_.empty(); }
 
     // False when it is there already. Throws std::bad_alloc.
-    bool add(EventHandler* handler) { return handlers.insert(handler).second; }
+    bool add(EventHandler* handler) { return handlers_.insert(handler).second; }
 
     // False when it is not there.
-    bool remove(EventHandler* handler) { return handlers.erase(handler) != 0; }
+    bool remove(EventHandler* handler) { return handlers_.erase(handler) != 0; }
 
     // Calls visit(handler) in ascending order of the addresses until one answers false.
     //
@@ -29,18 +29,18 @@ public:
     // whoever was removed is not visited any more.
     template <typename Visit>
     void visitWhile(Visit visit) const {
-        auto at = handlers.begin();
-        while (at != handlers.end()) {
+        auto at = handlers_.begin();
+        while (at != handlers_.end()) {
             EventHandler* const visited = *at;
             if (!visit(*visited)) {
                 return;
             }
-            at = handlers.upper_bound(visited);
+            at = handlers_.upper_bound(visited);
         }
     }
 
 private:
-    std::set<EventHandler*, std::less<>> handlers;
+    std::set<EventHandler*, std::less<>> handlers_;
 };
 
 }  // namespace internal

@@ -9,65 +9,45 @@ namespace zarn_3_3 {
 
 using namespace internal;
 
-namespace {
-
-constexpr int recognized = 0;
-constexpr int declined = 1;
-
-}  // namespace
-
-PositionalOptionsParser::PositionalOptionsParser(EventHandler& eventHandler,
-                                                 const HandlerSet& whoListens,
-                                                 int creationFlags,
-                                                 ArgumentSource& rest)
-    : IArgumentParser(eventHandler, whoListens, creationFlags, rest) {
-    name = "PositionalOptionsParser";
-}
-
 int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        RegisteredOptionStorage& registry,
                                        std::string& /*error*/) {
     const std::string& argument = args[0];
     trace(name, ": recognizing argument '", argument, "'");
+    // Without the flag every argument is taken that is no option: the other recogniser, which is
+    // asked as well, takes precedence.
     const bool isRefused =
-        (flags & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
+        (flags_ & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
     const bool isTaken = !isRefused && registry.firstPositional() != NameIndex::none;
     return isTaken ? recognized : declined;
 }
 
-int PositionalOptionsParser::parse(std::vector<std::string>& args,
-                                   IResultCollector* collector,
-                                   RegisteredOptionStorage& registry,
-                                   std::size_t& optionIndex,
-                                   std::string& error) {
-    trace(name, ": parsing argument '", args[0], "'");
+const OptionDescription* PositionalOptionsParser::match(RegisteredOptionStorage& registry,
+                                                        std::size_t& optionIndex,
+                                                        std::string& /*error*/) {
     optionIndex = registry.firstPositional();
     // Kept: the log and onOptionParse name the item declared first, whichever that is.
-    trace(name, ": option is '", registry.items().front().primaryName(), "'");
-    const OptionDescription& option = registry.items()[optionIndex];
-    if (mayChange(option, optionIndex, registry)) {
-        const OptionDescription copy = option.forBinding();
-        return parseArguments(copy, args, collector, registry, error);
-    }
-    return parseArguments(option, args, collector, registry, error);
+    firstItem_ = &registry.items().front();
+    trace(name, ": option is '", firstItem_->primaryName(), "'");
+    return &registry.items()[optionIndex];
 }
 
-int PositionalOptionsParser::parseArguments(const OptionDescription& option,
-                                            std::vector<std::string>& args,
-                                            IResultCollector* collector,
-                                            const RegisteredOptionStorage& registry,
-                                            std::string& error) {
-    const bool takesRest = (flags & flagPositionalTakesRest) != 0;
+int PositionalOptionsParser::bind(const OptionDescription& option,
+                                  IResultCollector* collector,
+                                  std::string& error) {
+    const bool takesRest = (flags_ & flagPositionalTakesRest) != 0;
+    // Each argument is an occurrence of its own. Behind the first one nothing is recognised any
+    // more: this is how a tool passes the rest of its line on to another one.
     do {
-        if (isHeard()) {
-            handler.onOptionParse(registry.items().front().primaryName().c_str());
+        if (audience_.isThere()) {
+            audience_.handler.onOptionParse(firstItem_->primaryName().c_str());
         }
-        const int code = parseValueAndAddOption(args[0], error, option, args, collector);
+        const int code = parseValueAndAddOption(arguments_.front(), error, option, collector);
         if (code != resultOk) {
             return code;
         }
-        removeFront(args);
-    } while (takesRest && !args.empty());
+        take();
+    } while (takesRest && !arguments_.isEmpty());
     return resultOk;
 }
 

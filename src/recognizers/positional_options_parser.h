@@ -11,31 +11,30 @@
 
 namespace zarn_3_3 {
 
-// With flagPositionalTakesRest `parse` does not stop after one argument: it goes on until the
-// source is empty.
+// With flagPositionalTakesRest `parse` does not stop after one argument: it goes on until there is
+// none left.
 class PositionalOptionsParser final : public IArgumentParser {
 public:
-    PositionalOptionsParser(EventHandler& eventHandler,
-                            const internal::HandlerSet& whoListens,
-                            int creationFlags,
-                            internal::ArgumentSource& rest);
+    PositionalOptionsParser(const internal::Audience& audience,
+                            internal::Arguments& arguments,
+                            int flags)
+        : IArgumentParser("PositionalOptionsParser", audience, arguments), flags_(flags) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,
                   std::string& error) override;
-    int parse(std::vector<std::string>& args,
-              IResultCollector* collector,
-              RegisteredOptionStorage& registry,
-              std::size_t& optionIndex,
-              std::string& error) override;
     int getPriority() override { return -100; }
 
 private:
-    int parseArguments(const OptionDescription& option,
-                       std::vector<std::string>& args,
-                       IResultCollector* collector,
-                       const RegisteredOptionStorage& registry,
-                       std::string& error);
+    const OptionDescription* match(RegisteredOptionStorage& registry,
+                                   std::size_t& optionIndex,
+                                   std::string& error) override;
+    int bind(const OptionDescription& option,
+             IResultCollector* collector,
+             std::string& error) override;
+
+    int flags_;
+    const OptionDescription* firstItem_ = nullptr;  // which the log and the handlers are told of
 };
 
 }  // namespace zarn_3_3

@@ -57,6 +57,7 @@ bool ParseResult::isFromFile(int position) const {
 }
 
 int ParseResult::store(const OptionDescription& option, const OptionData& data) {
+    // The primary name decides for all of them whether this is the first occurrence.
     const std::size_t primary = findStored(option.names.at(0));
     if (primary == none) {
         for (const std::string& name : option.names) {
@@ -74,11 +75,14 @@ int ParseResult::store(const OptionDescription& option, const OptionData& data) 
 void ParseResult::applyDefault(const OptionList& items) {
     for (std::size_t i = 0; i < items.size(); ++i) {
         const OptionDescription& item = items[i];
+        // A switch has no value that could be its default.
         if (item.type == vtNull || !item.hasDefault) {
             continue;
         }
         const char* const text = keptDefault(item);
         for (const std::string& name : item.names) {
+            // Each name has a number of its own. It is drawn first: when there is none left, no
+            // entry is made.
             const int position = Sequence::draw();
             StoredOption& entry = findOrAdd(name);
             entry.defaultText = text;
@@ -92,21 +96,21 @@ void ParseResult::applyDefault(const OptionList& items) {
 const char* ParseResult::keptDefault(const OptionDescription& item) {
     const std::string text = item.getDefaultValueAsText();
     const StoredOption* const entry = find(item.primaryName());
-    return entry != nullptr && text == entry->defaultText ? entry->defaultText : texts.keep(text);
+    return entry != nullptr && text == entry->defaultText ? entry->defaultText : texts_.keep(text);
 }
 
 void ParseResult::storeArgument(std::string_view argument) {
-    const char* const kept = texts.keep(argument);
+    const char* const kept = texts_.keep(argument);
     Sequence::draw();  // the number is part of the order, though no query shows it
     arguments.push_back(kept);
 }
 
-// The same option often comes several times in a row.
+// The same option often comes several times in a row, and then needs no second look into the table.
 std::size_t ParseResult::findStored(std::string_view name) {
-    if (lastStored >= options.size() || options[lastStored].name != name) {
-        lastStored = findIndex(name);
+    if (lastStored_ >= options.size() || options[lastStored_].name != name) {
+        lastStored_ = findIndex(name);
     }
-    return lastStored;
+    return lastStored_;
 }
 
 const StoredOption* ParseResult::find(std::string_view name) const {
@@ -115,15 +119,16 @@ const StoredOption* ParseResult::find(std::string_view name) const {
 }
 
 std::size_t ParseResult::findIndex(std::string_view name) const {
-    const std::uint32_t number = names.find(name);
+    const std::uint32_t number = names_.find(name);
     return number < options.size() ? number : none;
 }
 
 StoredOption& ParseResult::findOrAdd(std::string_view name) {
+    // Room first, so that there is no name without its entry.
     makeRoom(options, 1);
-    const std::uint32_t number = names.keep(name);
+    const std::uint32_t number = names_.keep(name);
     if (number == options.size()) {
-        options.emplace_back().name = names[number];
+        options.emplace_back().name = names_[number];
     }
     return options[number];
 }
@@ -150,10 +155,11 @@ void ParseResult::append(StoredOption& entry, const OptionData& data) {
 // synonym, or a default, left there.
 void ParseResult::replace(std::string_view name, const OptionData& data) {
     StoredOption fresh;
+    // Complete before the old entry is touched: what cannot be stored changes nothing.
     append(fresh, data);
     StoredOption& entry = findOrAdd(name);
-    makeRoom(replaced, entry.values.size());
-    std::move(entry.values.begin(), entry.values.end(), std::back_inserter(replaced));
+    makeRoom(replaced_, entry.values.size());
+    std::move(entry.values.begin(), entry.values.end(), std::back_inserter(replaced_));
     fresh.name = entry.name;
     entry = std::move(fresh);
 }
@@ -161,7 +167,7 @@ void ParseResult::replace(std::string_view name, const OptionData& data) {
 // A value that holds the text itself lends it: most texts are then kept once.
 const char* ParseResult::textOf(const OptionValue& value) {
     const char* const held = plinth2::get_variant_value(value.value, nullptr);
-    return held != nullptr ? held : texts.keep(value.text);
+    return held != nullptr ? held : texts_.keep(value.text);
 }
 
 }  // namespace zarn_3_3

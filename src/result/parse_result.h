@@ -94,10 +94,10 @@ private:
     Value stepOccurrence(const internal::StoredOption& entry);
     Value stepValue(const internal::StoredOption& entry);
 
-    internal::KeptTexts names;
+    internal::KeptTexts names_;
     std::vector<internal::StoredOption> options;  // by the number of the name
-    internal::TextArena texts;
-    std::size_t lastStored = none;  // the entry that the last store found
+    internal::TextArena texts_;
+    std::size_t lastStored_ = none;  // the entry that the last store found
 
     std::size_t current = none;      // the entry that the last query selected
     std::size_t valueCursor = 0;     // in its values
@@ -112,7 +112,7 @@ private:
     std::vector<std::pair<int, int>> fileNumbers_;
 
     // What a clash of synonyms replaced: its texts may have been handed out.
-    std::vector<internal::StoredValue> replaced;
+    std::vector<internal::StoredValue> replaced_;
 };
 
 }  // namespace zarn_3_3

@@ -21,6 +21,7 @@ std::size_t skipBelow(const std::vector<Element>& elements,
         return std::min(cursor, elements.size());  // as nearly always when a walk goes on
     }
     const auto start = elements.begin() + static_cast<std::ptrdiff_t>(cursor);
+    // A range may begin anywhere in a long list; halving finds it, where the order allows that.
     const auto found = isAscending ? std::partition_point(start, elements.end(), isBelow)
                                    : std::find_if_not(start, elements.end(), isBelow);
     return static_cast<std::size_t>(found - elements.begin());
@@ -30,6 +31,8 @@ std::size_t skipBelow(const std::vector<Element>& elements,
 std::size_t firstOccurrence(const StoredOption& entry, int from, int to) {
     const std::vector<int>& positions = entry.positions;
     std::size_t found = skipBelow(positions, 0, from, entry.isAscending);
+    // The first one from `from` on may lie behind the range already. In ascending order so do all
+    // that follow; otherwise one of them may still be inside.
     while (found < positions.size() && positions[found] >= to) {
         found = entry.isAscending ? positions.size()
                                   : skipBelow(positions, found + 1, from, entry.isAscending);
@@ -121,6 +124,8 @@ Value ParseResult::step() {
         return {};
     }
     if (entry->isDefaultOnly()) {
+        // The range doubles as a mark: this one selects nothing, and only `present` leaves it
+        // behind.
         if (rangeFrom != lastPosition || rangeTo != lastPosition) {
             return {};
         }
@@ -145,7 +150,7 @@ Value ParseResult::stepValue(const StoredOption& entry) {
         return {};
     }
     const StoredValue& value = entry.values[valueCursor++];
-    return {value.text, value, value.position};
+    return {value.text, value.value, value.position};
 }
 
 }  // namespace zarn_3_3

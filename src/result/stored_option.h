@@ -10,16 +10,15 @@
 
 namespace zarn_3_3::internal {
 
-// A value with its text, which belongs to the result, or to the value where that holds the same.
-//
-// Derived, so that the position fits into the bytes that a variant_t leaves free at its end: a
-// result holds one of these for every value.
-struct StoredValue : variant_t {
-    StoredValue(const variant_t& value, const char* keptText, int number)
-        : variant_t(value), position(number), text(keptText) {}
+// A result holds one of these for every value, so the position stands in the bytes that a variant_t
+// leaves free at its end.
+struct StoredValue {
+    StoredValue(const variant_t& converted, const char* keptText, int number)
+        : value(converted), position(number), text(keptText) {}
 
+    [[no_unique_address]] variant_t value;
     int position;
-    const char* text;
+    const char* text;  // belongs to the result, or to the value where that holds the same
 };
 
 static_assert(sizeof(StoredValue) == sizeof(variant_t) + sizeof(const char*));

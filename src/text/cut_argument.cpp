@@ -63,6 +63,8 @@ bool splitAt(const std::string& argument,
     if (end == rest.size()) {
         return false;
     }
+    // Behind a sign the value begins at once, blanks and all; blanks between name and value
+    // separate them, however many there are.
     std::size_t valueStart = end + 1;
     if (rest[end] != '=') {
         while (valueStart < rest.size() && isSpace(rest[valueStart])) {
@@ -89,6 +91,7 @@ bool splitOptionValue(const std::string& argument,
     if (locale == internal::TextLocale::classic) {
         return splitAt(argument, name, value, internal::isClassicSpace);
     }
+    // Held while its facet is used: another thread may set another one.
     const std::locale global;
     const auto& classes = std::use_facet<std::ctype<char>>(global);
     return splitAt(argument, name, value, [&classes](char c) {

@@ -20,7 +20,7 @@ std::size_t getDashLength(const std::string& text, std::size_t pos);
 bool splitOptionValue(const std::string& argument,
                       std::string_view* name,
                       std::string_view* value,
-                      internal::TextLocale locale = internal::globalTextLocale());
+                      internal::TextLocale locale);
 
 }  // namespace zarn_3_3
 

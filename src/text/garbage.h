@@ -22,10 +22,10 @@ public:
     virtual const char* init(const char* text) { return text == nullptr ? "" : keep(text); }
 
     // The same for a text whose length is known.
-    const char* keep(std::string_view text) { return texts[texts.keep(text)].data(); }
+    const char* keep(std::string_view text) { return texts_[texts_.keep(text)].data(); }
 
 private:
-    internal::KeptTexts texts;
+    internal::KeptTexts texts_;
 };
 
 }  // namespace zarn_3_3

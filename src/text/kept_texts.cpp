@@ -8,16 +8,17 @@ std::uint32_t KeptTexts::keep(std::string_view text) {
     if (known != none) {
         return known;
     }
-    table.makeRoom(1);
-    texts.emplace_back();
+    // Everything that can fail comes before the table knows of the text.
+    table_.makeRoom(1);
+    texts_.emplace_back();
     try {
-        texts.back() = {arena.keep(text), text.size()};
+        texts_.back() = {arena_.keep(text), text.size()};
     } catch (...) {
-        texts.pop_back();
+        texts_.pop_back();
         throw;
     }
-    const auto number = static_cast<std::uint32_t>(texts.size() - 1);
-    table.add(hash, number);
+    const auto number = static_cast<std::uint32_t>(texts_.size() - 1);
+    table_.add(hash, number);
     return number;
 }
 

@@ -20,9 +20,9 @@ class KeptTexts final {
 public:
     static constexpr std::uint32_t none = TextTable::none;
 
-    std::size_t size() const { return texts.size(); }
+    std::size_t size() const { return texts_.size(); }
 
-    std::string_view operator[](std::uint32_t number) const { return texts[number]; }
+    std::string_view operator[](std::uint32_t number) const { return texts_[number]; }
 
     // The number of a text that is kept, or none.
     std::uint32_t find(std::string_view text) const { return find(TextHash::of(text), text); }
@@ -33,12 +33,12 @@ public:
 
 private:
     std::uint32_t find(std::uint32_t hash, std::string_view text) const {
-        return table.find(hash, [&](std::uint32_t number) { return texts[number] == text; });
+        return table_.find(hash, [&](std::uint32_t number) { return texts_[number] == text; });
     }
 
-    std::vector<std::string_view> texts;
-    TextTable table;  // text to number
-    TextArena arena;
+    std::vector<std::string_view> texts_;
+    TextTable table_;  // text to number
+    TextArena arena_;
 };
 
 }  // namespace zarn_3_3::internal

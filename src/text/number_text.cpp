@@ -34,7 +34,9 @@ bool mayFollow(const char* at, const char* end, Trailing trailing) {
     return trailing == Trailing::ignored || skipSpace(at, end) == end;
 }
 
-// Gives the magnitude its sign. An unsigned type takes a negative number and wraps, as streams do.
+// Gives the magnitude its sign. An unsigned type takes a negative number and wraps, as streams do:
+// -1 is the largest number, and what is too large without the sign is too large with it. The
+// magnitude of the smallest signed number is one more than that of the largest.
 template <typename T>
 bool applySign(unsigned long long magnitude, bool isNegative, T& number) {
     using Limits = std::numeric_limits<T>;
@@ -46,6 +48,9 @@ bool applySign(unsigned long long magnitude, bool isNegative, T& number) {
     return true;
 }
 
+// Reading an integer, as formatted extraction does and std::from_chars alone does not: white space
+// in front, a plus sign, a minus sign of unsigned numbers, "0x" in front of hexadecimal ones. So
+// space and sign are read here, and the magnitude in the widest type.
 template <typename T>
 Reading readInteger(std::string_view text, Trailing trailing, int base, T& number) {
     const char* const end = text.data() + text.size();
@@ -54,6 +59,7 @@ Reading readInteger(std::string_view text, Trailing trailing, int base, T& numbe
     if (at != end && isSign(*at)) {
         ++at;
     }
+    // Also where no digit follows: "0x" is no number, though a "0" stands in it.
     if (base == 16 && end - at >= 2 && at[0] == '0' && (at[1] == 'x' || at[1] == 'X')) {
         at += 2;
     }
@@ -66,7 +72,8 @@ Reading readInteger(std::string_view text, Trailing trailing, int base, T& numbe
 }
 
 // The end of the longest text from `at` that has the form of a decimal floating-point number, or
-// null when it breaks off in the middle of one.
+// null when it breaks off in the middle of one: "1e" is no number for a stream, and 1 for
+// std::from_chars, which would also read "inf" and "nan".
 const char* endOfDouble(const char* at, const char* end) {
     const char* const digits = at;
     at = skipDigits(at, end);
@@ -113,6 +120,7 @@ Reading readByHand(std::string_view text, Trailing trailing, T& number) {
     if constexpr (std::is_same_v<T, double>) {
         return readDouble(text, trailing, number);
     } else if constexpr (std::is_same_v<T, bool>) {
+        // A boolean is a number for a stream: "01" and "+1" are true, "2" is none.
         int digit = 0;
         const Reading reading = readInteger(text, trailing, 10, digit);
         number = digit == 1;
@@ -138,7 +146,7 @@ public:
 
     template <typename T>
     bool read(T& number) {
-        stream >> number;
+        stream_ >> number;
         return isRead();
     }
 
@@ -148,26 +156,26 @@ public:
 private:
     bool isRead() const;
 
-    std::istringstream stream;
+    std::istringstream stream_;
 };
 
-NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream(std::string(text)) {
+NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream_(std::string(text)) {
     if (isHexadecimal) {
-        stream >> std::hex;
+        stream_ >> std::hex;
     }
 }
 
 NumberStream::~NumberStream() = default;
 
 bool NumberStream::isRead() const {
-    throwIfOutOfMemory(stream);
-    return !stream.fail();
+    throwIfOutOfMemory(stream_);
+    return !stream_.fail();
 }
 
 bool NumberStream::isAtEnd() {
     char following = 0;
-    const bool isThere = static_cast<bool>(stream >> following);
-    throwIfOutOfMemory(stream);
+    const bool isThere = static_cast<bool>(stream_ >> following);
+    throwIfOutOfMemory(stream_);
     return !isThere;
 }
 
@@ -221,6 +229,7 @@ std::string textFromNumber(T number) {
     if (globalTextLocale() != TextLocale::classic) {
         return textFromStream(number);
     }
+    // Room for any of them: twenty digits and a sign, or six digits with an exponent.
     std::array<char, 32> text{};
     char* const end = text.data() + text.size();
     if constexpr (std::is_same_v<T, double>) {

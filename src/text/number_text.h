@@ -22,13 +22,10 @@ enum class Trailing {
 //
 // T is bool, int, unsigned, long long, unsigned long long or double. Throws std::bad_alloc.
 template <typename T>
-std::optional<T> numberFromText(std::string_view text,
-                                Trailing trailing,
-                                TextLocale locale = globalTextLocale());
+std::optional<T> numberFromText(std::string_view text, Trailing trailing, TextLocale locale);
 
 // The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
-std::optional<unsigned long long> hexadecimalFromText(std::string_view text,
-                                                      TextLocale locale = globalTextLocale());
+std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale);
 
 // The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
 // Throws std::bad_alloc.

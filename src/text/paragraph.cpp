@@ -32,6 +32,8 @@ std::size_t chunkLength(std::string_view text, std::size_t limit) {
         throw std::out_of_range(
             "basic_string::at: __n (which is 18446744073709551615) >= this->size() (which is 0)");
     }
+    // The line is full: it may end here if a word does, and otherwise behind the word before. A
+    // word that is longer than the line is cut.
     const char next = text[line.size()];
     if (next == ' ' || next == '\n' || line.back() == ' ') {
         return line.size();
@@ -47,6 +49,8 @@ std::size_t enterColumn(std::string& out,
                         std::size_t indent,
                         std::size_t width) {
     const std::size_t longest = indent + width - 2;
+    // A head that fills its line stands alone. One that only reaches into the column leaves it what
+    // is left.
     if (length >= indent && length >= longest) {
         out += '\n';
         length = 0;

@@ -5,8 +5,9 @@
 namespace zarn_3_3::internal {
 
 namespace {
+// Blocks double up to this size: the few texts of a small tool take little, many texts few blocks.
 constexpr std::size_t largestBlock = 65536;
-}
+}  // namespace
 
 const char* TextArena::keep(std::string_view text) {
     char* kept = take(text.size() + 1);
@@ -15,28 +16,29 @@ const char* TextArena::keep(std::string_view text) {
 }
 
 char* TextArena::newBlock(std::size_t size) {
-    blocks.emplace_back();
+    // The place in the list first: a block for which the list has no room would be lost.
+    blocks_.emplace_back();
     try {
-        blocks.back().reset(new char[size]);
+        blocks_.back().reset(new char[size]);
     } catch (...) {
-        blocks.pop_back();
+        blocks_.pop_back();
         throw;
     }
-    return blocks.back().get();
+    return blocks_.back().get();
 }
 
 char* TextArena::take(std::size_t size) {
-    if (size > left) {
-        if (size > nextBlockSize / 4) {
+    if (size > left_) {
+        if (size > nextBlockSize_ / 4) {
             return newBlock(size);  // a large text does not waste the rest of the current block
         }
-        next = newBlock(nextBlockSize);
-        left = nextBlockSize;
-        nextBlockSize = std::min(2 * nextBlockSize, largestBlock);
+        next_ = newBlock(nextBlockSize_);
+        left_ = nextBlockSize_;
+        nextBlockSize_ = std::min(2 * nextBlockSize_, largestBlock);
     }
-    char* taken = next;
-    next += size;
-    left -= size;
+    char* taken = next_;
+    next_ += size;
+    left_ -= size;
     return taken;
 }
 

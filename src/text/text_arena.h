@@ -26,10 +26,10 @@ private:
     char* newBlock(std::size_t size);
     char* take(std::size_t size);
 
-    std::vector<std::unique_ptr<char[]>> blocks;
-    char* next = nullptr;
-    std::size_t left = 0;
-    std::size_t nextBlockSize = 256;
+    std::vector<std::unique_ptr<char[]>> blocks_;
+    char* next_ = nullptr;
+    std::size_t left_ = 0;
+    std::size_t nextBlockSize_ = 256;
 };
 
 }  // namespace zarn_3_3::internal

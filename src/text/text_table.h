@@ -19,11 +19,11 @@ public:
     // The number that was added with `hash` and for which isIt(number) holds, or none.
     template <typename IsIt>
     std::uint32_t find(std::uint32_t hash, IsIt isIt) const {
-        if (slots.empty()) {
+        if (slots_.empty()) {
             return none;
         }
         for (std::size_t at = hash & mask();; at = (at + 1) & mask()) {
-            const Slot& slot = slots[at];
+            const Slot& slot = slots_[at];
             if (slot.number == none || (slot.hash == hash && isIt(slot.number))) {
                 return slot.number;
             }
@@ -35,32 +35,32 @@ public:
     template <typename IsIt>
     std::uint32_t& findOrAdd(std::uint32_t hash, std::uint32_t number, IsIt isIt) {
         std::size_t at = hash & mask();
-        for (; slots[at].number != none; at = (at + 1) & mask()) {
-            if (slots[at].hash == hash && isIt(slots[at].number)) {
-                return slots[at].number;
+        for (; slots_[at].number != none; at = (at + 1) & mask()) {
+            if (slots_[at].hash == hash && isIt(slots_[at].number)) {
+                return slots_[at].number;
             }
         }
-        slots[at] = {hash, number};
-        ++used;
-        return slots[at].number;
+        slots_[at] = {hash, number};
+        ++used_;
+        return slots_[at].number;
     }
 
-    std::size_t size() const noexcept { return used; }
+    std::size_t size() const noexcept { return used_; }
 
     // Makes sure that `count` adds will not allocate. Throws std::bad_alloc and changes nothing
     // then.
     void makeRoom(std::size_t count) {
-        const std::size_t needed = (used + count) * 4 / 3 + 1;
-        if (needed <= slots.size()) {
+        const std::size_t needed = (used_ + count) * 4 / 3 + 1;
+        if (needed <= slots_.size()) {
             return;
         }
-        std::size_t size = slots.empty() ? 16 : 2 * slots.size();
+        std::size_t size = slots_.empty() ? 16 : 2 * slots_.size();
         while (size < needed) {
             size *= 2;
         }
         TextTable larger;
-        larger.slots.resize(size);
-        for (const Slot& slot : slots) {
+        larger.slots_.resize(size);
+        for (const Slot& slot : slots_) {
             if (slot.number != none) {
                 larger.add(slot.hash, slot.number);
             }
@@ -71,11 +71,11 @@ public:
     // Adds a number that find does not find yet; needs room.
     void add(std::uint32_t hash, std::uint32_t number) noexcept {
         std::size_t at = hash & mask();
-        while (slots[at].number != none) {
+        while (slots_[at].number != none) {
             at = (at + 1) & mask();
         }
-        slots[at] = {hash, number};
-        ++used;
+        slots_[at] = {hash, number};
+        ++used_;
     }
 
 private:
@@ -84,10 +84,10 @@ private:
         std::uint32_t number = none;
     };
 
-    std::size_t mask() const noexcept { return slots.size() - 1; }
+    std::size_t mask() const noexcept { return slots_.size() - 1; }
 
-    std::vector<Slot> slots;  // a power of two, at most three quarters used
-    std::size_t used = 0;
+    std::vector<Slot> slots_;  // a power of two, at most three quarters used
+    std::size_t used_ = 0;
 };
 
 }  // namespace zarn_3_3::internal

@@ -10,6 +10,9 @@ namespace TROV_2_18 {
 
 // The UTF-8 form of one code point.
 struct Utf8Character {
+    constexpr Utf8Character(std::size_t size, char first, char second = 0, char third = 0)
+        : bytes{first, second, third}, length(size) {}
+
     char bytes[3];
     std::size_t length;
 
@@ -25,18 +28,12 @@ constexpr Utf8Character utf32_to_utf8(char32_t codePoint) {
         return static_cast<char>(0x80 | ((codePoint >> shift) & 0x3F));
     };
     if (codePoint < 0x80) {
-        return {{leading(0, 0)}, 1};
+        return {1, leading(0, 0)};
     }
     if (codePoint < 0x800) {
-        return {
-            {leading(0xC0, 6), trailing(0)},
-            2
-        };
+        return {2, leading(0xC0, 6), trailing(0)};
     }
-    return {
-        {leading(0xE0, 12), trailing(6), trailing(0)},
-        3
-    };
+    return {3, leading(0xE0, 12), trailing(6), trailing(0)};
 }
 
 }  // namespace TROV_2_18

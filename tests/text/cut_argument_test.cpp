@@ -15,7 +15,7 @@ namespace {
 std::string cut(const std::string& argument) {
     std::string_view name = "stale";
     std::string_view value = "untouched";
-    const bool hasValue = splitOptionValue(argument, &name, &value);
+    const bool hasValue = splitOptionValue(argument, &name, &value, internal::globalTextLocale());
     EXPECT_TRUE(hasValue || value == "untouched");
     return std::string(name) + (hasValue ? "|" + std::string(value) : "");
 }

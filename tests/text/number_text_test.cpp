@@ -51,11 +51,11 @@ TYPED_TEST(NumberText, ReadsAsStreamsDo) {
     using T = TypeParam;
     for (const std::string& text : texts()) {
         for (const Trailing trailing : {Trailing::refused, Trailing::ignored}) {
-            ASSERT_EQ(bits(numberFromText<T>(text, trailing)),
+            ASSERT_EQ(bits(numberFromText<T>(text, trailing, globalTextLocale())),
                       bits(numberFromStream<T>(text, trailing, false)))
                 << "'" << text << "'";
         }
-        ASSERT_EQ(hexadecimalFromText(text),
+        ASSERT_EQ(hexadecimalFromText(text, globalTextLocale()),
                   numberFromStream<unsigned long long>(text, Trailing::ignored, true))
             << "'" << text << "'";
     }
@@ -75,16 +75,19 @@ TYPED_TEST(NumberText, WritesAsStreamsDo) {
 
 // Fixed points, so that the comparisons above cannot all be wrong together.
 TEST(NumberTextLocale, FollowsTheGlobalLocale) {
-    const auto read = [](const char* text) { return numberFromText<int>(text, Trailing::refused); };
+    const auto read = [](const char* text) {
+        return numberFromText<int>(text, Trailing::refused, globalTextLocale());
+    };
     EXPECT_EQ(read("1.000"), std::nullopt);
     const GroupingLocale german;
     EXPECT_EQ(read("1.000"), 1000);
     EXPECT_EQ(read("10.00"), std::nullopt);
     EXPECT_EQ(read("5\xA0"), 5);
     EXPECT_EQ(read("5\xA0x"), std::nullopt);
-    EXPECT_EQ(numberFromText<double>("2,5x", Trailing::ignored), 2.5);
+    EXPECT_EQ(numberFromText<double>("2,5x", Trailing::ignored, TextLocale::other), 2.5);
     EXPECT_EQ(hexadecimalFromText("\xA0"
-                                  "0x1Fx"),
+                                  "0x1Fx",
+                                  TextLocale::other),
               31U);
     EXPECT_EQ(textFromNumber(1234567), "1.234.567");
     EXPECT_EQ(textFromNumber(2.5), "2,5");

@@ -185,7 +185,7 @@ def make_environment(build, work):
         **os.environ,
         "LC_ALL": "C.UTF-8",
         "CMAKE_GENERATOR": "Ninja",
-        "PATH": f"{work}/page/bin:{build}/examples:{os.environ['PATH']}",
+        "PATH": f"{work}/page/bin:{os.environ['PATH']}",
         "LD_LIBRARY_PATH": str(libraries),
         # As seen from the page: in a shell, blanks in flags would cut them in two.
         "PKG_CONFIG_PATH": os.path.relpath(libraries / "pkgconfig", work / "page"),

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "disturbers/lack_of_memory.h"
+#include "disturbers/disturbances.h"
 #include "scenario_from_bytes.h"
 #include "support/failing_new.h"
 #include "support/invariants.h"

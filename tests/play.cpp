@@ -1,12 +1,18 @@
-// Plays scenarios: play [--record] FILE...
+// Plays scenarios: play [MODE] FILE...
 //
 // Compares what is seen with the answers in the files, and shows where they differ. With --record
-// it writes what is seen into the files instead.
+// it writes what is seen into the files first. Other modes play them otherwise, and judge what
+// comes of it: --ways heard by one more or nobody, as texts and as option files; --memory STRIDE
+// while each allocation (or each of so many) fails in its turn; --files STRIDE the same with calls
+// that read files.
 
 #include <fstream>
+#include <iostream>
 #include <stdexcept>
 
+#include "disturbers/disturbances.h"
 #include "disturbers/judged_files.h"
+#include "support/invariants.h"
 #include "support/stage.h"
 
 namespace {
@@ -38,7 +44,7 @@ std::string differences(const Scenario& scenario) {
     return text;
 }
 
-void record(const char* file) {
+void record(const std::string& file) {
     const std::string text = contentOf(file);
     Answers all;
     for (const Scenario& scenario : readScenarios(text)) {
@@ -51,12 +57,28 @@ void record(const char* file) {
     std::ofstream(file, std::ios::binary) << withAnswers(text, all);
 }
 
+// What `wrong` says of disturbed plays; failures are counted.
+int judgeDisturbed(Words words, std::string (*wrong)(const Scenario&, long, long&)) {
+    const long stride = std::stol(words.at(0));
+    words.erase(words.begin());
+    long failures = 0;
+    const int code = judgeFiles(
+        words, [&](const Scenario& scenario) { return wrong(scenario, stride, failures); });
+    std::cout << failures << " calls failed\n";
+    return code;
+}
+
 }  // namespace
 
 int main(int argc, char** argv) {
-    const bool isRecording = argc > 1 && std::string(argv[1]) == "--record";
-    for (int i = 2; isRecording && i < argc; ++i) {
-        record(argv[i]);
+    Words words(argv + 1, argv + argc);
+    const std::string mode = !words.empty() && startsWith(words[0], "--") ? words[0] : "";
+    words.erase(words.begin(), words.begin() + (mode.empty() ? 0 : 1));
+    if (mode == "--memory" || mode == "--files") {
+        return judgeDisturbed(words, mode == "--memory" ? wrongWithoutMemory : wrongWithoutFiles);
     }
-    return judgeFiles(argc - (isRecording ? 1 : 0), argv + (isRecording ? 1 : 0), differences);
+    for (const std::string& file : mode == "--record" ? words : Words()) {
+        record(file);
+    }
+    return judgeFiles(words, mode == "--ways" ? differencesInOtherWays : differences);
 }

@@ -1,6 +1,5 @@
 #include "disturbers/judged_files.h"
 
-#include <algorithm>
 #include <fstream>
 #include <iostream>
 #include <sstream>
@@ -8,7 +7,7 @@
 
 namespace zarn_3_3::testing_support {
 
-std::string contentOf(const char* file) {
+std::string contentOf(const std::string& file) {
     std::ostringstream text;
     if (!(text << std::ifstream(file, std::ios::binary).rdbuf())) {
         throw std::invalid_argument("nothing to read");
@@ -16,37 +15,27 @@ std::string contentOf(const char* file) {
     return text.str();
 }
 
-int judgeFiles(int argc, char** argv, const Judge& judge) {
+int judgeFiles(const Words& files, const Judge& judge) {
     int scenarios = 0;
     int violated = 0;
-    for (int i = 1; i < argc; ++i) {
+    for (const std::string& file : files) {
         try {
-            for (const Scenario& scenario : readScenarios(contentOf(argv[i]))) {
+            for (const Scenario& scenario : readScenarios(contentOf(file))) {
                 const std::string wrong = judge(scenario);
                 ++scenarios;
                 if (!wrong.empty()) {
                     ++violated;
-                    std::cerr << argv[i] << ":" << scenario.line << ": " << scenario.title << ": "
+                    std::cerr << file << ":" << scenario.line << ": " << scenario.title << ": "
                               << wrong << "\n";
                 }
             }
         } catch (const std::invalid_argument& bad) {
             ++violated;
-            std::cerr << argv[i] << ":" << bad.what() << "\n";
+            std::cerr << file << ":" << bad.what() << "\n";
         }
     }
     std::cout << scenarios << " scenarios, " << violated << " of them violated\n";
     return scenarios > 0 && violated == 0 ? 0 : 1;
-}
-
-bool isAmong(const std::string& word, std::initializer_list<const char*> words) {
-    return std::find(words.begin(), words.end(), word) != words.end();
-}
-
-bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs) {
-    return std::any_of(scenario.steps.begin(), scenario.steps.end(), [&verbs](const Step& step) {
-        return isAmong(step.verb, verbs);
-    });
 }
 
 }  // namespace zarn_3_3::testing_support

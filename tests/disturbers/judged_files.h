@@ -4,7 +4,6 @@
 #define ZARN_TESTS_DISTURBERS_JUDGED_FILES_H
 
 #include <functional>
-#include <initializer_list>
 #include <string>
 
 #include "support/scenario.h"
@@ -12,17 +11,13 @@
 namespace zarn_3_3::testing_support {
 
 // Throws std::invalid_argument when there is none.
-std::string contentOf(const char* file);
+std::string contentOf(const std::string& file);
 
 // `judge` says what does not hold of a scenario, or nothing when all does.
 using Judge = std::function<std::string(const Scenario& scenario)>;
 
-// Judges every scenario in the files that a command line names, and shows what does not hold.
-// Returns what main returns.
-int judgeFiles(int argc, char** argv, const Judge& judge);
-
-bool isAmong(const std::string& word, std::initializer_list<const char*> words);
-bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs);
+// Judges every scenario in the files, and shows what does not hold. Returns what main returns.
+int judgeFiles(const Words& files, const Judge& judge);
 
 }  // namespace zarn_3_3::testing_support
 

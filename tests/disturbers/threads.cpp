@@ -127,7 +127,7 @@ int main(int argc, char** argv) {
     std::cerr.rdbuf(std::cout.rdbuf());
     switchLog();  // first, since what is made once for all is made here
     shareValues();
-    const int code = judgeFiles(argc, argv, judge);
+    const int code = judgeFiles({argv + 1, argv + argc}, judge);
     std::fprintf(stderr, "threads: %ld violations\n", mistakes.load());
     return mistakes == 0 ? code : 1;
 }

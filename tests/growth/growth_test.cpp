@@ -11,6 +11,10 @@ namespace zarn_3_3 {
 namespace {
 
 using testing_support::Tool;
+using Words = std::vector<std::string>;
+
+struct Listener final : EventHandler {
+} listener;
 
 // The clock tells too little; a step that goes through everything seen before shows in what it
 // takes from memory, compares and copies.
@@ -66,7 +70,7 @@ TEST(Growth, IsLinearInArguments) {
         SCOPED_TRACE(line.argument);
         expectLinear([&line](std::size_t n) {
             Tool tool(line.flags);
-            tool.listen();
+            tool->addHandler(&listener);
             tool.option("x");
             if (line.isPositional) {
                 tool.option("files").positional();
@@ -126,12 +130,12 @@ TEST(Growth, IsLinearInDeclarations) {
 TEST(Growth, IsLinearInTagsAndOccurrences) {
     expectLinear([](std::size_t n) {
         Tool tool;
-        tool.listen();
+        tool->addHandler(&listener);
         IOption& item = tool.option("x", vtNull);
         for (std::size_t i = 0; i < n; ++i) {
             item.tag(numbered("tag", i).c_str());
         }
-        const testing_support::Words line(n, "-x");
+        const Words line(n, "-x");
         return measure([&] { ASSERT_EQ(tool.parse(line), resultOk); });
     });
 }
@@ -182,7 +186,7 @@ TEST(Growth, OfBeginningsEndsWithTheNames) {
     for (std::size_t i = 0; i < n; ++i) {
         tool.option(numbered("name", i), vtNull);
     }
-    testing_support::Words line;
+    Words line;
     for (std::size_t length = n / 2; length < n; length += 10) {
         line.push_back("-" + std::string(length, 'x'));
     }
@@ -228,7 +232,7 @@ TEST(ErrorText, IsLeftOutWhenItCannotBeKept) {
         memory.left = nth;
         EXPECT_EQ(tool->createResult(nullptr), resultException);
         memory.left = 0;
-        seen += tool.error() + "|";
+        seen += std::string(tool->getErrorDesc()) + "|";
     }
     EXPECT_EQ(seen, "std::bad_alloc||The pointer to store the object through is null|");
 }

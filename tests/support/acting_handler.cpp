@@ -40,12 +40,16 @@ bool ActingHandler::hear(const char* kind, const char* text, const Value* value)
     }
     stage->observer.say(Kind::event, name + " " + shown);
     const Restored refusal(stage->isRefused, false);
+    react(event);
+    return !stage->isRefused;
+}
+
+void ActingHandler::react(const std::string& event) {
     const Restored parser(stage->parser, stage->parser);
     const Restored result(stage->result, stage->result);
     for (Plan& plan : plans) {
         act(plan, event);
     }
-    return !stage->isRefused;
 }
 
 void ActingHandler::act(Plan& plan, const std::string& event) {

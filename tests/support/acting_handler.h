@@ -19,8 +19,11 @@ public:
     bool onValueParse(const char* name, const Value& value) override;
     bool onUknownArgument(const char* argument) override;
 
-    // From now on `step` is done inside the `nth` such event, 0: inside each of them.
+    // From now on `step` is done inside the `nth` such event, 0: inside each of them. Lines of the
+    // console are events too, "log TEXT" and "warning TEXT", although nobody hears them.
     void plan(long nth, const std::string& event, const Step& step);
+
+    void react(const std::string& event);
 
     Stage* stage = nullptr;
     std::string name;

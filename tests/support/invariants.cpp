@@ -17,16 +17,6 @@ using Steps = std::vector<Step>;
 // Steps that a scenario gets in addition have negative lines.
 bool isAdded(int line) { return line < 0; }
 
-bool startsWith(const std::string& text, const std::string& start) {
-    return text.compare(0, start.size(), start) == 0;
-}
-
-bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs) {
-    return std::any_of(scenario.steps.begin(), scenario.steps.end(), [&](const Step& step) {
-        return std::find(verbs.begin(), verbs.end(), step.verb) != verbs.end();
-    });
-}
-
 bool hasDeed(const Scenario& scenario, const std::string& deed) {
     return std::any_of(scenario.steps.begin(), scenario.steps.end(), [&](const Step& step) {
         return step.verb == "on" &&
@@ -184,6 +174,25 @@ std::string contradictionsOfNumbers(const std::string& events) {
     return "";
 }
 
+template <typename IsUnwanted>
+Scenario without(Scenario scenario, IsUnwanted isUnwanted) {
+    Steps& steps = scenario.steps;
+    steps.erase(std::remove_if(steps.begin(), steps.end(), isUnwanted), steps.end());
+    return scenario;
+}
+
+// Each command line on its own: files are read again by every parse behind the one that names them.
+std::string differencesAsOptionFiles(const Scenario& scenario) {
+    std::string differences;
+    for (const Step& parse : scenario.steps) {
+        const auto isAnother = [&parse](const Step& step) {
+            return isParse(step) && step.line != parse.line;
+        };
+        differences += isParse(parse) ? differencesAsOptionFile(without(scenario, isAnother)) : "";
+    }
+    return differences;
+}
+
 }  // namespace
 
 std::string contradictions(const Scenario& scenario, const Answers& seen) {
@@ -242,6 +251,22 @@ std::string differencesAsOptionFile(const Scenario& scenario) {
     }
     const Answers found = instead(asOptionFile);
     return difference("As an option file:", found, beside, {Kind::log, Kind::assertion});
+}
+
+std::string differencesInOtherWays(const Scenario& scenario) {
+    const auto isAboutHandlers = [](const Step& step) {
+        return isAmong(step.verb, {"add", "remove", "on"});
+    };
+    std::string differences;
+    for (const Scenario& one : {scenario, without(scenario, isAboutHandlers)}) {
+        const Answers seen = play(one);
+        differences += differencesWhenHeard(one, seen);
+        // The defaults of a text are drawn by a parse of their own, which may go well to its end.
+        if (!hasStep(one, {"left"})) {
+            differences += differencesAsText(one, seen) + differencesAsOptionFiles(one);
+        }
+    }
+    return differences;
 }
 
 }  // namespace zarn_3_3::testing_support

@@ -24,6 +24,9 @@ std::string differencesAsText(const Scenario& scenario, const Answers& seen);
 // The first command line becomes an option file, when nothing else names one.
 std::string differencesAsOptionFile(const Scenario& scenario);
 
+// All of that, also without the scenario's own handlers, and of each command line.
+std::string differencesInOtherWays(const Scenario& scenario);
+
 }  // namespace zarn_3_3::testing_support
 
 #endif  // ZARN_TESTS_SUPPORT_INVARIANTS_H

@@ -2,10 +2,13 @@
 
 #include <algorithm>
 #include <climits>
+#include <iostream>
+#include <locale>
 #include <new>
 #include <stdexcept>
 
 #include "support/file_calls_double.h"
+#include "support/raw_table.h"
 #include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
@@ -39,6 +42,33 @@ void parseText(Stage& stage, const Step& step) {
     LentTexts texts;
     const char* const text = texts.lend(joined(step.words, 0, step.words.size(), '\n'));
     parse(stage, texts, &IParser::parseStream, text);
+}
+
+// Steps of a parse, as derived tools call them: by their numbers in the virtual table.
+void parseVectorInPart(Stage& stage, const Step& step) {
+    using ParseVector = int(void*, Words&, IParseResult*);
+    using Phase = int(void*, const std::string&, Words&, IParseResult*, std::string&);
+    const bool isWhole = step.verb == "vector";
+    Words args(step.words.begin() + (isWhole ? 0 : 1), step.words.end());
+    std::string outcome;
+    try {
+        std::string error;
+        const int code =
+            isWhole
+                ? stage.call(
+                      operationAt<ParseVector>(stage.parser, 22), stage.parser, args, stage.result)
+                : stage.call(operationAt<Phase>(stage.parser, step.verb == "phaseOne" ? 23 : 24),
+                             stage.parser,
+                             step.words[0],
+                             args,
+                             stage.result,
+                             error);
+        outcome = std::to_string(code) + " " +
+                  (isWhole ? stage.call(&IParser::getErrorDesc, stage.parser) : error);
+    } catch (const std::exception& thrown) {
+        outcome = std::string("threw ") + thrown.what();
+    }
+    stage.tell(outcome + " | " + joined(args, 0, args.size(), ' '));
 }
 
 void tellError(Stage& stage, const Step&) {
@@ -107,12 +137,35 @@ void throwSome(Stage&, const Step& step) {
     throw BadStep("nothing to throw: " + kind);
 }
 
+// Reads numbers, and takes the arguments back when it does.
+class Meddler final : public std::num_get<char> {
+public:
+    explicit Meddler(Stage& ofArguments) : stage(ofArguments) {}
+
+private:
+    iter_type do_get(iter_type at,
+                     iter_type end,
+                     std::ios_base& stream,
+                     std::ios_base::iostate& error,
+                     long& number) const override {
+        if (stage.lent != nullptr) {
+            stage.lent->takeBack();
+        }
+        return std::num_get<char>::do_get(at, end, stream, error, number);
+    }
+
+    Stage& stage;
+};
+
 void setLocale(Stage& stage, const Step& step) {
     stage.locale.reset();
     if (wordOf(step, 0) == "grouping") {
         stage.locale.emplace();
+        std::locale::global(std::locale(std::locale(), new Meddler(stage)));
     }
 }
+
+void setSigns(Stage&, const Step&) { std::cout << std::showpos; }
 
 void setLeft(Stage& stage, const Step& step) {
     stage.beginNumbers(static_cast<int>(INT_MAX - numberOf(wordOf(step, 0))));
@@ -122,24 +175,30 @@ void setLeft(Stage& stage, const Step& step) {
 
 Deeds parsingDeeds() {
     return {
-        {"args",       {Needs::parser, parseVector}   },
-        {"argv",       {Needs::parser, parseVector}   },
-        {"text",       {Needs::parser, parseText}     },
-        {"error",      {Needs::parser, tellError}     },
-        {"file",       {Needs::nothing, makeFile}     },
-        {"pipe",       {Needs::nothing, makeFile}     },
-        {"growing",    {Needs::nothing, makeFile}     },
-        {"directory",  {Needs::nothing, makeFile}     },
-        {"device",     {Needs::nothing, makeFile}     },
-        {"unreadable", {Needs::nothing, makeFile}     },
-        {"link",       {Needs::nothing, makeLink}     },
-        {"add",        {Needs::parser, changeHandlers}},
-        {"remove",     {Needs::parser, changeHandlers}},
-        {"on",         {Needs::nothing, plan}         },
-        {"refuse",     {Needs::nothing, refuse}       },
-        {"throw",      {Needs::nothing, throwSome}    },
-        {"locale",     {Needs::nothing, setLocale}    },
-        {"left",       {Needs::nothing, setLeft}      },
+        {"args",       {Needs::parser, parseVector}      },
+        {"argv",       {Needs::parser, parseVector}      },
+        {"text",       {Needs::parser, parseText}        },
+        {"vector",     {Needs::parser, parseVectorInPart}},
+        {"phaseOne",   {Needs::parser, parseVectorInPart}},
+        {"phaseTwo",   {Needs::parser, parseVectorInPart}},
+        {"error",      {Needs::parser, tellError}        },
+        {"file",       {Needs::nothing, makeFile}        },
+        {"pipe",       {Needs::nothing, makeFile}        },
+        {"growing",    {Needs::nothing, makeFile}        },
+        {"directory",  {Needs::nothing, makeFile}        },
+        {"device",     {Needs::nothing, makeFile}        },
+        {"huge",       {Needs::nothing, makeFile}        },
+        {"changing",   {Needs::nothing, makeFile}        },
+        {"unreadable", {Needs::nothing, makeFile}        },
+        {"link",       {Needs::nothing, makeLink}        },
+        {"add",        {Needs::parser, changeHandlers}   },
+        {"remove",     {Needs::parser, changeHandlers}   },
+        {"on",         {Needs::nothing, plan}            },
+        {"refuse",     {Needs::nothing, refuse}          },
+        {"throw",      {Needs::nothing, throwSome}       },
+        {"locale",     {Needs::nothing, setLocale}       },
+        {"signs",      {Needs::nothing, setSigns}        },
+        {"left",       {Needs::nothing, setLeft}         },
     };
 }
 

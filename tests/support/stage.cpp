@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <iostream>
 
 #include "log/zarn_log.h"
 #include "recognizers/argument_parser.h"
@@ -41,6 +42,14 @@ Stage::Stage(Console console)
     : observer(console), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
     internal::zarnLogEnabled = false;
     takeAssertions();
+    observer.react = [this](const std::string& event) {
+        if (lent != nullptr && startsWith(event, "log ")) {
+            lent->takeBack();
+        }
+        for (ActingHandler& handler : handlers) {
+            handler.react(event);
+        }
+    };
     for (std::size_t i = 0; i < handlers.size(); ++i) {
         handlers[i].stage = this;
         handlers[i].name = std::to_string(i);
@@ -55,6 +64,7 @@ Stage::~Stage() {
         destroy(parsers, parsers.begin()->first, parser);
     }
     fileCalls.files.clear();
+    std::cout << std::noshowpos;
     IArgumentParser::m_idx = numberBefore;
 }
 
@@ -69,7 +79,7 @@ void Stage::perform(const Step& step) {
     } catch (const ForeignException&) {
         tell("threw a foreign exception");
     }
-    observer.finishLines();
+    observer.finishStep();
     std::string assertions = takeAssertions();
     if (!assertions.empty()) {
         assertions.pop_back();

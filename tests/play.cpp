@@ -4,14 +4,16 @@
 // it writes what is seen into the files first. Other modes play them otherwise, and judge what
 // comes of it: --ways heard by one more or nobody, as texts and as option files; --memory STRIDE
 // while each allocation (or each of so many) fails in its turn; --files STRIDE the same with calls
-// that read files.
+// that read files; --threads on several at once, for the thread sanitizer.
 
 #include <fstream>
+#include <functional>
 #include <iostream>
+#include <sstream>
 #include <stdexcept>
 
 #include "disturbers/disturbances.h"
-#include "disturbers/judged_files.h"
+#include "disturbers/threads.h"
 #include "support/invariants.h"
 #include "support/stage.h"
 
@@ -44,6 +46,39 @@ std::string differences(const Scenario& scenario) {
     return text;
 }
 
+std::string contentOf(const std::string& file) {
+    std::ostringstream text;
+    if (!(text << std::ifstream(file, std::ios::binary).rdbuf())) {
+        throw std::invalid_argument("nothing to read");
+    }
+    return text.str();
+}
+
+// `judge` says what does not hold of a scenario, or nothing when all does. Returns what main
+// returns.
+int judgeFiles(const Words& files, const std::function<std::string(const Scenario&)>& judge) {
+    int scenarios = 0;
+    int violated = 0;
+    for (const std::string& file : files) {
+        try {
+            for (const Scenario& scenario : readScenarios(contentOf(file))) {
+                const std::string wrong = judge(scenario);
+                ++scenarios;
+                if (!wrong.empty()) {
+                    ++violated;
+                    std::clog << file << ":" << scenario.line << ": " << scenario.title << ": "
+                              << wrong << "\n";
+                }
+            }
+        } catch (const std::invalid_argument& bad) {
+            ++violated;
+            std::clog << file << ":" << bad.what() << "\n";
+        }
+    }
+    std::clog << scenarios << " scenarios, " << violated << " of them violated\n";
+    return scenarios > 0 && violated == 0 ? 0 : 1;
+}
+
 void record(const std::string& file) {
     const std::string text = contentOf(file);
     Answers all;
@@ -64,7 +99,7 @@ int judgeDisturbed(Words words, std::string (*wrong)(const Scenario&, long, long
     long failures = 0;
     const int code = judgeFiles(
         words, [&](const Scenario& scenario) { return wrong(scenario, stride, failures); });
-    std::cout << failures << " calls failed\n";
+    std::clog << failures << " calls failed\n";
     return code;
 }
 
@@ -80,5 +115,8 @@ int main(int argc, char** argv) {
     for (const std::string& file : mode == "--record" ? words : Words()) {
         record(file);
     }
-    return judgeFiles(words, mode == "--ways" ? differencesInOtherWays : differences);
+    return judgeFiles(words,
+                      mode == "--ways"      ? differencesInOtherWays
+                      : mode == "--threads" ? wrongOnThreads
+                                            : differences);
 }

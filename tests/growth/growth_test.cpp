@@ -162,8 +162,11 @@ TEST(Growth, EndsWhenTheSameIsAskedAgain) {
     tool.option("name");
     ASSERT_EQ(tool.parse({"--name=x", "--unknown"}), resultRuleBroken);
     const auto ask = [&](int i) {
-        const std::string tag = numbered("tag", static_cast<std::size_t>(i));
-        tool->option("name", "", vtString, "").tag(tag.c_str()).allowDeprecatedValue(i, 0);
+        const std::string text = numbered("takes a block of its own ", static_cast<std::size_t>(i));
+        for (const char* const refused : {"name", "too,many,names,here"}) {
+            IOption& sink = tool->option(refused, "", vtString, "").synonym(text.c_str());
+            sink.allowValue(text.c_str()).allowDeprecatedValue(i, 0).tag(text.c_str());
+        }
         const Value value = tool.result->get("name", 0, INT_MAX);
         return std::array<const void*, 4>{tool->getDescription(false),
                                           tool->getDescription("name", false),

@@ -38,6 +38,11 @@ bool ActingHandler::hear(const char* kind, const char* text, const Value* value)
     if (stage->lent != nullptr) {
         stage->lent->takeBack();
     }
+    if (this == &stage->listener) {
+        stage->filesNamed += event == "option option-file" ? 1 : 0;
+        value != nullptr ? stage->numbers.push_back(value->position) : void();
+        return true;
+    }
     stage->observer.say(Kind::event, name + " " + shown);
     const Restored refusal(stage->isRefused, false);
     react(event);

@@ -1,6 +1,7 @@
 // The deeds of scenarios that parse, and those of handlers.
 
 #include <algorithm>
+#include <cctype>
 #include <climits>
 #include <iostream>
 #include <locale>
@@ -24,10 +25,51 @@ void parse(Stage& stage, LentTexts& texts, Operation operation, Arguments... arg
     stage.tell(std::to_string(code) + (code == resultOk || error.empty() ? "" : " " + error));
 }
 
+void parseText(Stage& stage, const std::string& text) {
+    LentTexts texts;
+    parse(stage, texts, &IParser::parseStream, texts.lend(text));
+}
+
+// What another way needs beforehand is to go well.
+template <typename Parse>
+void parseBefore(Stage& stage, Parse parseSome) {
+    parseSome();
+    stage.isComparable = stage.isComparable && stage.observer.answers.back().text == "0";
+    stage.observer.answers.pop_back();
+}
+
+bool canBeLine(const std::string& word) {
+    return !word.empty() && word != "null" && word.find('\n') == std::string::npos &&
+           std::isspace(static_cast<unsigned char>(word.front())) == 0 && word.front() != ';' &&
+           word.front() != '#' && word.back() != '\r' && !startsWith(word, "\xEF\xBB\xBF");
+}
+
+void parseLines(Stage& stage, const Words& lines) {
+    const std::string naming = "--option-file=lines";
+    // With a line feed at the end: the text "-1" alone would read as "?".
+    const std::string text = joined(lines, 0, lines.size(), '\n') + "\n";
+    const bool isInFile = stage.way == Way::asFile;
+    fileCalls.files["lines"] =
+        std::make_shared<MemoryFile>(MemoryFile{"file", isInFile ? text : ""});
+    parseBefore(stage, [&] {  // a text does not bring the defaults along
+        LentTexts none;
+        const char* const* const argv = nullptr;
+        parse(stage, none, &IParser::parseArgsVector, 0, argv);
+    });
+    if (stage.way == Way::behindFile) {
+        parseBefore(stage, [&] { parseText(stage, naming); });
+    }
+    parseText(stage, isInFile ? naming : text);
+}
+
 // Words behind "args" stand behind the name of the program, which is never read.
 void parseVector(Stage& stage, const Step& step) {
     const bool isCounted = step.verb == "argv";
     const std::size_t size = step.words.size();
+    if (stage.way >= Way::asText && !isCounted && size > 0 &&
+        std::all_of(step.words.begin(), step.words.end(), canBeLine)) {
+        return parseLines(stage, step.words);
+    }
     const long count = isCounted ? numberOf(wordOf(step, 0)) : static_cast<long>(size) + 1;
     LentTexts texts;
     texts.argv.resize(isCounted ? 0 : 1);
@@ -38,10 +80,8 @@ void parseVector(Stage& stage, const Step& step) {
     parse(stage, texts, &IParser::parseArgsVector, static_cast<int>(count), argv);
 }
 
-void parseText(Stage& stage, const Step& step) {
-    LentTexts texts;
-    const char* const text = texts.lend(joined(step.words, 0, step.words.size(), '\n'));
-    parse(stage, texts, &IParser::parseStream, text);
+void parseWords(Stage& stage, const Step& step) {
+    parseText(stage, joined(step.words, 0, step.words.size(), '\n'));
 }
 
 // Steps of a parse, as derived tools call them: by their numbers in the virtual table.
@@ -177,7 +217,7 @@ Deeds parsingDeeds() {
     return {
         {"args",       {Needs::parser, parseVector}      },
         {"argv",       {Needs::parser, parseVector}      },
-        {"text",       {Needs::parser, parseText}        },
+        {"text",       {Needs::parser, parseWords}       },
         {"vector",     {Needs::parser, parseVectorInPart}},
         {"phaseOne",   {Needs::parser, parseVectorInPart}},
         {"phaseTwo",   {Needs::parser, parseVectorInPart}},

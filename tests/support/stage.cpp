@@ -38,8 +38,8 @@ void LentTexts::takeBack() {
     argv = {};
 }
 
-Stage::Stage(Console console)
-    : observer(console), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
+Stage::Stage(Console console, Way theWay)
+    : observer(console), way(theWay), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
     internal::zarnLogEnabled = false;
     takeAssertions();
     observer.react = [this](const std::string& event) {
@@ -50,6 +50,7 @@ Stage::Stage(Console console)
             handler.react(event);
         }
     };
+    listener.stage = this;
     for (std::size_t i = 0; i < handlers.size(); ++i) {
         handlers[i].stage = this;
         handlers[i].name = std::to_string(i);

@@ -45,13 +45,18 @@ struct LastItem {
     das_variant_type_t type = vtNull;
 };
 
+// Ways to do the same: heard by one more, who says nothing of it; with command lines as texts, an
+// argument in each line, as far as lines can hold them; as such texts behind an empty option file,
+// and in one.
+enum class Way { plain, heard, asText, behindFile, asFile };
+
 // A world without parsers and files: each stage begins anew, and leaves the running number as it
 // was. Memory that runs out does so in the library alone, but not while it makes values.
 class Stage {
     const Restored<bool> spared{memory.isSpared, true};
 
 public:
-    explicit Stage(Console console = Console::observed);
+    explicit Stage(Console console = Console::observed, Way way = Way::plain);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
@@ -95,6 +100,12 @@ public:
             call(&Object::destroy, destroyed);
         }
     }
+
+    const Way way;
+    ActingHandler listener;  // of all parsers, in some ways
+    bool isComparable = true;
+    int filesNamed = 0;  // as the listener hears
+    std::vector<int> numbers;
 
     std::map<std::string, IParser*> parsers;
     std::map<std::string, IParseResult*> results;

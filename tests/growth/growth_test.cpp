@@ -1,7 +1,6 @@
 #include <gtest/gtest.h>
 
 #include <array>
-#include <set>
 
 #include "support/counted_calls.h"
 #include "support/failing_new.h"
@@ -208,36 +207,6 @@ TEST(Default, IsKeptOnceByAResult) {
             EXPECT_EQ(text, kept == nullptr ? kept = text : kept);
         }
     }
-}
-
-// What failed may be given up, and another group declared.
-TEST(GroupOfActions, IsWholeOrNotThere) {
-    const std::set<std::string> failing{"a", "b"};
-    const std::set<std::string> other{"b", "c"};
-    bool isAdded = false;
-    for (long nth = 1; !isAdded; ++nth) {
-        Tool tool;
-        tool->action("a", "", vtNull, "");
-        tool->action("c", "", vtNull, "");
-        memory.left = nth;
-        isAdded = tool->allowSimultaneousActions(failing);
-        memory.left = 0;
-        tool->allowSimultaneousActions(other);
-        EXPECT_EQ(tool.parse({"-a", "-c"}), resultRuleBroken) << nth;
-    }
-}
-
-// Better no text than an exception.
-TEST(ErrorText, IsLeftOutWhenItCannotBeKept) {
-    std::string seen;
-    Tool tool;
-    for (long nth = 1; nth <= 3; ++nth) {
-        memory.left = nth;
-        EXPECT_EQ(tool->createResult(nullptr), resultException);
-        memory.left = 0;
-        seen += std::string(tool->getErrorDesc()) + "|";
-    }
-    EXPECT_EQ(seen, "std::bad_alloc||The pointer to store the object through is null|");
 }
 
 }  // namespace

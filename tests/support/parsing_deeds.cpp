@@ -3,13 +3,13 @@
 #include <algorithm>
 #include <cctype>
 #include <climits>
+#include <cstring>
 #include <iostream>
 #include <locale>
 #include <new>
 #include <stdexcept>
 
 #include "support/file_calls_double.h"
-#include "support/raw_table.h"
 #include "support/stage.h"
 
 namespace zarn_3_3::testing_support {
@@ -82,6 +82,13 @@ void parseVector(Stage& stage, const Step& step) {
 
 void parseWords(Stage& stage, const Step& step) {
     parseText(stage, joined(step.words, 0, step.words.size(), '\n'));
+}
+
+template <typename Function>
+Function* operationAt(const void* object, std::size_t slot) {
+    void* const* table = nullptr;
+    std::memcpy(&table, object, sizeof table);
+    return reinterpret_cast<Function*>(table[slot]);
 }
 
 // Steps of a parse, as derived tools call them: by their numbers in the virtual table.
@@ -205,6 +212,8 @@ void setLocale(Stage& stage, const Step& step) {
     }
 }
 
+void setLack(Stage&, const Step& step) { memory.left = numberOf(wordOf(step, 0)); }
+
 void setSigns(Stage&, const Step&) { std::cout << std::showpos; }
 
 void setLeft(Stage& stage, const Step& step) {
@@ -239,6 +248,7 @@ Deeds parsingDeeds() {
         {"locale",     {Needs::nothing, setLocale}       },
         {"signs",      {Needs::nothing, setSigns}        },
         {"left",       {Needs::nothing, setLeft}         },
+        {"lack",       {Needs::nothing, setLack}         },
     };
 }
 

@@ -82,6 +82,7 @@
 //     locale grouping|classic       the first also takes the texts back when it reads a number
 //     signs                         from now on streams write them before all numbers
 //     left COUNT                    numbers before the end of the sequence
+//     lack N                        of memory: the N-th allocation from now on fails. 0: none
 
 #ifndef ZARN_TESTS_SUPPORT_SCENARIO_H
 #define ZARN_TESTS_SUPPORT_SCENARIO_H

@@ -65,6 +65,7 @@ Stage::~Stage() {
         destroy(parsers, parsers.begin()->first, parser);
     }
     fileCalls.files.clear();
+    memory.left = 0;
     std::cout << std::noshowpos;
     IArgumentParser::m_idx = numberBefore;
 }

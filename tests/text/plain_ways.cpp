@@ -56,25 +56,24 @@ std::size_t plainDashLength(View text) {
 }
 
 void checkArgument(const std::string& argument) {
+    const std::locale global;
+    std::string blanks;
+    for (int c = -128; c < 128; ++c) {
+        blanks.append(std::isspace(static_cast<char>(c), global), static_cast<char>(c));
+    }
     View rest = argument;
     rest.remove_prefix(plainDashLength(rest));
     rest.remove_prefix(plainDashLength(rest));
-    const auto isSpace = [](char c) { return std::isspace(c, std::locale()); };
-    std::size_t end = 0;
-    while (end < rest.size() && rest[end] != '=' && !isSpace(rest[end])) {
-        ++end;
-    }
-    const bool hasSign = end < rest.size() && rest[end] == '=';
-    std::size_t start = hasSign ? end + 1 : end;
-    while (!hasSign && start < rest.size() && isSpace(rest[start])) {
-        ++start;
-    }
+    const std::size_t end = std::min(rest.size(), rest.find_first_of(blanks + "="));
+    const bool hasValue = end < rest.size();
+    const std::size_t start =
+        hasValue && rest[end] == '=' ? end + 1 : rest.find_first_not_of(blanks, end);
+    const View right = hasValue ? rest.substr(std::min(rest.size(), start)) : "untouched";
     View name = "stale";
     View value = "untouched";
-    const bool hasValue = end < rest.size();
     require(splitOptionValue(argument, &name, &value) == hasValue, "a value");
     require(name == rest.substr(0, end), "the name in an argument");
-    require(value == (hasValue ? rest.substr(start) : "untouched"), "the value in an argument");
+    require(value == right, "the value in an argument");
     require(getDashLength(argument, 0) == plainDashLength(argument), "a dash");
 }
 

@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,7 +14,6 @@
 #include <utility>
 #include <vector>
 
-#include "support/acting_handler.h"
 #include "support/failing_new.h"
 #include "support/grouping_locale.h"
 #include "support/observer.h"
@@ -38,6 +38,39 @@ private:
 
 // What clients throw that is no standard exception.
 struct ForeignException {};
+
+class Stage;
+
+// Tells the stage what it hears, and does what it was told to do then.
+class ActingHandler final : public EventHandler {
+public:
+    bool onOptionParse(const char* name) override;
+    bool onValueParse(const char* name, const Value& value) override;
+    bool onUknownArgument(const char* argument) override;
+
+    // From now on `step` is done inside the `nth` such event, 0: inside each of them. Lines of the
+    // console are events too, "log TEXT" and "warning TEXT", although nobody hears them.
+    void plan(long nth, const std::string& event, const Step& step);
+
+    void react(const std::string& event);
+
+    Stage* stage = nullptr;
+    std::string name;
+
+private:
+    struct Plan {
+        long nth;
+        std::string event;
+        Step step;
+        long heard = 0;
+        bool isInProgress = false;
+    };
+
+    bool hear(const char* kind, const char* text, const Value* value);
+    void act(Plan& plan, const std::string& event);
+
+    std::list<Plan> plans;  // more may come while one is in progress
+};
 
 // The item that was declared last, which can still be changed.
 struct LastItem {

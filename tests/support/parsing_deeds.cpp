@@ -5,7 +5,6 @@
 #include <climits>
 #include <cstring>
 #include <iostream>
-#include <locale>
 #include <new>
 #include <stdexcept>
 
@@ -184,31 +183,10 @@ void throwSome(Stage&, const Step& step) {
     throw BadStep("nothing to throw: " + kind);
 }
 
-// Reads numbers, and takes the arguments back when it does.
-class Meddler final : public std::num_get<char> {
-public:
-    explicit Meddler(Stage& ofArguments) : stage(ofArguments) {}
-
-private:
-    iter_type do_get(iter_type at,
-                     iter_type end,
-                     std::ios_base& stream,
-                     std::ios_base::iostate& error,
-                     long& number) const override {
-        if (stage.lent != nullptr) {
-            stage.lent->takeBack();
-        }
-        return std::num_get<char>::do_get(at, end, stream, error, number);
-    }
-
-    Stage& stage;
-};
-
 void setLocale(Stage& stage, const Step& step) {
     stage.locale.reset();
     if (wordOf(step, 0) == "grouping") {
-        stage.locale.emplace();
-        std::locale::global(std::locale(std::locale(), new Meddler(stage)));
+        stage.locale.emplace([&stage] { stage.lent != nullptr ? stage.lent->takeBack() : void(); });
     }
 }
 

@@ -109,8 +109,9 @@ void parseVectorInPart(Stage& stage, const Step& step) {
                              args,
                              stage.result,
                              error);
+        const bool isToldByParser = isWhole && code != resultOk;
         outcome = std::to_string(code) + " " +
-                  (isWhole ? stage.call(&IParser::getErrorDesc, stage.parser) : error);
+                  (isToldByParser ? stage.call(&IParser::getErrorDesc, stage.parser) : error);
     } catch (const std::exception& thrown) {
         outcome = std::string("threw ") + thrown.what();
     }

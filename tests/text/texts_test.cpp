@@ -116,6 +116,19 @@ static_assert(TROV_2_18::utf32_to_utf8(0x800).view() == "\xE0\xA0\x80");
 static_assert(TROV_2_18::utf32_to_utf8(0x2053).view() == "\xE2\x81\x93");
 static_assert(TROV_2_18::utf32_to_utf8(0xFFFF).view() == "\xEF\xBF\xBF");
 
+TEST(Paragraphs, AreFilledByTheirRules) {
+    std::mt19937 dice(7);
+    for (int i = 0; i < 20000; ++i) {
+        const std::string head(dice() % 12, 'h');
+        const std::size_t indent = dice() % 10;
+        std::string text;
+        for (auto left = dice() % 40; left > 0; --left) {
+            text += "aaab \n"[dice() % 6];
+        }
+        ASSERT_NO_THROW(checkParagraph(text, head, indent, 3 + text.size() % 12)) << text;
+    }
+}
+
 // Nobody asks for so little: neither the help nor WordWrappedText, whose paragraphs are scenarios.
 TEST(Paragraphs, NeedAColumn) {
     EXPECT_THROW(paragraphString("a", "", 0, 2), std::invalid_argument);

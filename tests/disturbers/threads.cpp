@@ -110,16 +110,17 @@ bool begin() {
 
 }  // namespace
 
-// From thread to thread everything may go (but for the files of the double, of which each thread
-// has its own). At once the contract excludes it: numbers may then repeat, and nothing worse.
+// From thread to thread everything may go (but for the files of the double and the lack of memory,
+// of which each thread has its own). At once the contract excludes it: numbers may then repeat, and
+// nothing worse.
 std::string wrongOnThreads(const Scenario& scenario) {
     static const bool isSilent = begin();
     expect(isSilent, "silence");
     const std::string right = conclusions(scenario);
-    if (!hasStep(scenario, {"file", "pipe", "directory"})) {
+    if (!hasStep(scenario, {"file", "pipe", "directory", "lack"})) {
         expect(conclusions(scenario, true) == right, "one behind the other");
     }
-    if (!hasStep(scenario, {"locale", "left"})) {
+    if (!hasStep(scenario, {"locale", "left", "signs"})) {
         inThreads(4, [&](int) { expect(conclusions(scenario) == right, "several at once"); });
     }
     return mistakes.exchange(0) == 0 ? "" : "see above";

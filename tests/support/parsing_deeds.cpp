@@ -193,7 +193,10 @@ void setLocale(Stage& stage, const Step& step) {
 
 void setLack(Stage&, const Step& step) { memory.left = numberOf(wordOf(step, 0)); }
 
-void setSigns(Stage&, const Step&) { std::cout << std::showpos; }
+void setSigns(Stage& stage, const Step&) {
+    std::cout << std::showpos;
+    stage.hasSigns = true;
+}
 
 void setLeft(Stage& stage, const Step& step) {
     stage.beginNumbers(static_cast<int>(INT_MAX - numberOf(wordOf(step, 0))));

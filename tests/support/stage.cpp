@@ -127,7 +127,9 @@ Stage::~Stage() {
     }
     fileCalls.files.clear();
     memory.left = 0;
-    std::cout << std::noshowpos;
+    if (hasSigns) {
+        std::cout << std::noshowpos;
+    }
     IArgumentParser::m_idx = numberBefore;
 }
 

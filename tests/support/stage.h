@@ -146,6 +146,7 @@ public:
     IParseResult* result = nullptr;
     LentTexts* lent = nullptr;  // to the parse in progress
     bool isRefused = false;     // the event in progress
+    bool hasSigns = false;      // the log
 
     std::array<ActingHandler, 10> handlers;
     LastItem last;

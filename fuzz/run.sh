@@ -1,7 +1,7 @@
 #!/usr/bin/env bash
-# Fuzzes the targets, measures what their kept inputs reach, or renews these. See fuzz/README.md.
+# Fuzzes the targets, or renews their kept inputs. See fuzz/README.md.
 #
-#     fuzz/run.sh SECONDS|--coverage|--renew BUILD_DIR
+#     fuzz/run.sh SECONDS|--renew BUILD_DIR
 #
 # What fuzzing finds stays in BUILD_DIR/fuzz-work.
 set -euo pipefail
@@ -11,7 +11,6 @@ build=$(cd "$2" && pwd)
 cd "$(dirname "${BASH_SOURCE[0]}")/.."
 work=$build/fuzz-work
 mapfile -t targets < <(find fuzz -name "*_target.cpp" -printf "%f\n" | sed "s/_target.cpp//")
-least_coverage=90
 for target in "${targets[@]}"; do
     mkdir -p "$work/$target"/{corpus,finds}
 done
@@ -48,26 +47,6 @@ fuzz_all() {
     return "$found"
 }
 
-# Of src/, what the kept inputs of both targets reach.
-cover() {
-    local target
-    for target in "${targets[@]}"; do
-        LLVM_PROFILE_FILE=$work/$target.profraw \
-            "$build/fuzz/replay_$target" "fuzz/corpus/$target" >/dev/null
-    done
-    llvm-profdata merge -o "$work/all.profdata" "$work"/*.profraw
-    local others=("${targets[@]:1}")
-    llvm-cov report "$build/fuzz/replay_${targets[0]}" \
-        "${others[@]/#/-object=$build/fuzz/replay_}" \
-        -instr-profile="$work/all.profdata" "$PWD/src" | tee "$work/report" |
-        awk -v least="$least_coverage" '
-            $1 == "TOTAL" {
-                percent = 100 * ($8 - $9) / $8
-                printf "%d of %d lines of src/ reached, %.1f %%\n", $8 - $9, $8, percent
-            }
-            END { exit !(percent >= least) }'
-}
-
 # The few inputs that reach all that any of them reaches take the place of those that were kept.
 renew() {
     local target
@@ -84,8 +63,8 @@ renew() {
     done
 }
 
-case $mode in
-    --coverage) cover ;;
-    --renew) renew ;;
-    *) fuzz_all ;;
-esac
+if [[ $mode == --renew ]]; then
+    renew
+else
+    fuzz_all
+fi

@@ -6,7 +6,7 @@
 #include <string>
 #include <utility>
 
-#include "disturbers/lack_of_memory.h"
+#include "disturbers/disturbances.h"
 #include "scenario_from_bytes.h"
 #include "support/failing_new.h"
 #include "support/invariants.h"
@@ -33,10 +33,8 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const fuzzing::Outage outage = fuzzing::outageFrom(bytes);
     const Scenario scenario = readScenarios(fuzzing::scenarioFrom(bytes)).front();
     const Answers seen = play(scenario);
-    const std::string found =
-        contradictions(scenario, seen) + differencesWhenHeard(scenario, seen) +
-        differencesAsText(scenario, seen) + differencesAsOptionFile(scenario) +
-        wrongWithoutMemory(scenario, outage);
+    const std::string found = contradictions(scenario, seen) + differencesInOtherWays(scenario) +
+                              wrongWithoutMemory(scenario, outage);
     if (!found.empty()) {
         std::fprintf(stderr, "Does not hold: %s\n", found.c_str());
         std::abort();

@@ -124,16 +124,13 @@ class Workshop:
 
     def first_failure(self):
         """What notices that something is wrong, the quickest first; None for nothing."""
-        for program in ["parser_test", "options_test", "text_test",
-                        "interface_test", "platform_test", "log_test", "growth_test"]:
+        for program, test in [("play", ["ctest", "-L", "scenarios"]),
+                              ("unit_test", ["tests/unit_test"]),
+                              ("growth_test", ["tests/growth_test"])]:
             if not self.is_built(program):
                 return f"build of {program}"
-            if not self.run([f"tests/{program}"]):
+            if not self.run(test):
                 return program
-        if not self.is_built("play"):
-            return "build of play"
-        if not self.run(["ctest", "-L", "scenarios"]):
-            return "scenarios"
         if not self.is_built():
             return "build"
         if not self.run(["ctest", "--stop-on-failure", "-LE", "docs"]):

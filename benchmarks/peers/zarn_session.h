@@ -4,14 +4,24 @@
 #define ZARN_PEERS_ZARN_SESSION_H
 
 #include <climits>
+#include <memory>
 
 #include "peer.h"
-#include "zarn/typed/owned.h"
 #include "zarn/zarn.h"
 
 namespace zarn_benchmarks {
 
 inline constexpr int wholeLine = INT_MAX;
+
+struct Destroy {
+    template <typename Interface>
+    void operator()(Interface* made) const noexcept {
+        made->destroy();
+    }
+};
+
+template <typename Interface>
+using Owned = std::unique_ptr<Interface, Destroy>;
 
 class ZarnSession : public Session {
 public:
@@ -20,7 +30,7 @@ public:
         if (zarn::createParser(&made, flags) != zarn::resultOk) {
             throw std::runtime_error("no parser");
         }
-        parser_ = zarn::Owned(made);
+        parser_.reset(made);
         for (const DeclaredOption& item : vocabulary.options) {
             declare(item);
         }
@@ -89,10 +99,10 @@ private:
     }
 
     void beginResult() {
-        result_ = zarn::Owned<zarn::IParseResult>(nullptr);
+        result_.reset();
         zarn::IParseResult* made = nullptr;
         require(parser_->createResult(&made));
-        result_ = zarn::Owned(made);
+        result_.reset(made);
     }
 
     void require(int code) {
@@ -101,8 +111,8 @@ private:
         }
     }
 
-    zarn::Owned<zarn::IParser> parser_{nullptr};
-    zarn::Owned<zarn::IParseResult> result_{nullptr};
+    Owned<zarn::IParser> parser_;
+    Owned<zarn::IParseResult> result_;
 };
 
 }  // namespace zarn_benchmarks

@@ -169,7 +169,7 @@ std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
     for (; !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         if (argument.empty() && walk.waiting() == nullptr && !positionals.empty()) {
-            return messages::emptyArgument(positionals.front()->primaryName());
+            return messages::emptyArgument(positionals.front()->called());
         }
         const ItemRecord* const item = takesNext(vocabulary, argument);
         const std::string_view name = cutArgument(argument).name;
@@ -182,7 +182,7 @@ std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
                                                   vocabulary.has(flagPositionalTakesRest));
     for (int i = walk.index(); isTaken && isAtArgument(line, i); ++i) {
         if (*line.argv[i] == '\0') {
-            return messages::emptyArgument(positionals.front()->primaryName());
+            return messages::emptyArgument(positionals.front()->called());
         }
     }
     return "";

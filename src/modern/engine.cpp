@@ -204,6 +204,7 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     const CommandLine line{argc, argv};
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
+    vocabulary->callAs(tool);
     std::optional<Answer> found = findAnswer(*vocabulary, tool, line);
     auto outcome =
         found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);

@@ -49,7 +49,7 @@ ItemRecord::ItemRecord(ItemDescription& given)
     if (*orEmpty(given.actions) != '\0') {
         actions = piecesOf(given.actions);
     }
-    if (showsTarget && target == nullptr) {
+    if (showsTarget && (target == nullptr || target->takesMany())) {
         mistake(allNames.c_str(), messages::noVariable);
     }
     if (showsTarget) {
@@ -123,6 +123,9 @@ void requireNames(const ItemRecord& item) {
         }
         if (name[0] == '-' || name.find_first_of(" \t\n\v\f\r=") != std::string::npos) {
             refuse(messages::nameUntypable(name));
+        }
+        if (std::count(item.names.begin(), item.names.end(), name) > 1) {
+            refuse(messages::nameTwice(name));
         }
     }
     if (item.names.size() > 3) {

@@ -36,10 +36,10 @@ inline std::string withReason(std::string_view message, std::string_view reason)
 // Command lines that the plain interface would take, or take otherwise.
 
 inline std::string unexpectedArgument(std::string_view argument) {
-    return filled("Unknown option: {}", {argument});
+    return filled("Unexpected argument: {}", {argument});
 }
-inline std::string emptyArgument(std::string_view option) {
-    return filled("Option '{}' received an empty argument", {option});
+inline std::string emptyArgument(std::string_view name) {
+    return filled("Argument '{}' is empty", {name});
 }
 inline std::string emptyValue(std::string_view option, std::string_view argument) {
     return filled("Option '{}' requires a value in argument: '{}'", {option, argument});
@@ -92,7 +92,11 @@ inline std::string nameTaken(std::string_view name, std::string_view owner) {
 inline std::string variableTaken(std::string_view owner) {
     return filled("its variable is that of '{}'", {owner});
 }
-constexpr const char* noVariable = "byDefault() shows a variable, and into() names none";
+constexpr const char* noVariable =
+    "byDefault() shows a variable for one value, and into() names none";
+inline std::string nameTwice(std::string_view name) {
+    return filled("the name '{}' is given twice", {name});
+}
 constexpr const char* defaultNotAllowed = "its default is not among its allowed values";
 inline std::string defaultRefused(std::string_view reason) {
     return filled("its default is refused: {}", {reason});

@@ -45,65 +45,90 @@ StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin
 
 // Of several positional items all arguments are stored under the first: each has its own of them,
 // the last one the rest.
-StoredOutcome::Values StoredOutcome::ofItem(const ItemRecord& item) const {
+StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
     const auto& group = vocabulary_.positionals();
-    Values values = under(result_, item.primaryName());
-    if (item.role != Role::positional || group.size() == 1 ||
-        (&item != group.front() && !values.empty())) {
-        return values;
+    if (item.role != Role::positional || group.size() == 1) {
+        return {};
     }
     if (item.needsOwnParse()) {
         return aside(item, Origin::commandLine);
     }
-    values = under(result_, group.front()->primaryName());
-    const auto number =
-        static_cast<std::size_t>(std::find(group.begin(), group.end(), &item) - group.begin());
-    values.begin = std::min(number, values.end);
-    values.end = &item == group.back() ? values.end : std::min(number + 1, values.end);
+    Values values = under(result_, group.front()->primaryName());
+    const auto place = std::find(group.begin(), group.end(), &item) - group.begin();
+    values.begin = std::min(static_cast<std::size_t>(place), values.end);
+    if (&item != group.back()) {
+        values.end = std::min(values.begin + 1, values.end);
+    }
     return values;
 }
 
-// The index of the last value that is from no option file, or of the last one.
-std::size_t StoredOutcome::lastOfLine(const Values& values) const {
-    const std::size_t count = values.end - values.begin;
-    for (std::size_t i = count; i > 0; --i) {
-        if (!result_.isFromFile(values[i - 1].position)) {
-            return i - 1;
+// Whether the value counts more than the other: what an option file says counts less.
+bool StoredOutcome::counts(const Value& value, const Value& other) const {
+    const bool isFromFile = result_.isFromFile(value.position);
+    return isFromFile == result_.isFromFile(other.position) ? value.position > other.position
+                                                            : !isFromFile;
+}
+
+// Leaves in `last` the value of all these, and of those before, that counts.
+void StoredOutcome::keepLast(const Values& values, const ItemRecord* item, Value& last) const {
+    for (std::size_t i = values.end - values.begin; i > 0; --i) {
+        const Value value = values[i - 1];
+        if (last.status != statusFound || counts(value, last)) {
+            last = item != nullptr ? item->replaced(value) : value;
+        }
+        if (!result_.isFromFile(value.position)) {
+            return;  // those before count less
         }
     }
-    return count - 1;
 }
 
 Origin StoredOutcome::choose(const std::string& name,
                              const ItemRecord* item,
                              Value& last,
                              std::vector<Value>* all) const {
-    Values values = item != nullptr ? ofItem(*item) : under(result_, name);
+    last = Value();
+    Values own = under(result_, name);
+    Values share;
     Origin origin = Origin::commandLine;
-    if (values.empty() && item != nullptr) {
-        values = aside(*item, Origin::environment);
-        origin = Origin::environment;
-    }
-    if (values.empty()) {
-        const StoredOption* const entry = result_.find(name);
-        if (entry == nullptr || !entry->isDefaultOnly()) {
-            return Origin::absent;
+    if (item != nullptr) {
+        share = shareOf(*item);
+        const bool isSharing = item == vocabulary_.firstOfGroup();
+        own = isSharing ? Values() : own;
+        if (own.empty() && share.empty()) {
+            own = aside(*item, Origin::environment);
+            origin = Origin::environment;
         }
-        last = Value(entry->defaultText, entry->defaultVariant, entry->defaultPosition);
-        if (all != nullptr) {
-            all->push_back(last);
+    }
+    for (const Values& values : {share, own}) {
+        keepLast(values, item, last);
+        for (std::size_t i = 0; all != nullptr && i < values.end - values.begin; ++i) {
+            all->push_back(item != nullptr ? item->replaced(values[i]) : values[i]);
         }
-        return Origin::byDefault;
     }
-    const auto read = [&](std::size_t index) {
-        return item != nullptr ? item->replaced(values[index]) : values[index];
-    };
-    const bool isTyped = origin == Origin::commandLine;
-    last = read(isTyped ? lastOfLine(values) : values.end - values.begin - 1);
-    for (std::size_t i = 0; all != nullptr && i < values.end - values.begin; ++i) {
-        all->push_back(read(i));
+    if (last.status != statusFound) {
+        return chooseDefault(name, last, all);
     }
-    return isTyped && result_.isFromFile(last.position) ? Origin::optionFile : origin;
+    if (all != nullptr && !share.empty() && !own.empty()) {
+        std::sort(all->begin(), all->end(), [](const Value& a, const Value& b) {
+            return a.position < b.position;
+        });
+    }
+    const bool isFile = origin == Origin::commandLine && result_.isFromFile(last.position);
+    return isFile ? Origin::optionFile : origin;
+}
+
+Origin StoredOutcome::chooseDefault(const std::string& name,
+                                    Value& last,
+                                    std::vector<Value>* all) const {
+    const StoredOption* const entry = result_.find(name);
+    if (entry == nullptr || !entry->isDefaultOnly()) {
+        return Origin::absent;
+    }
+    last = Value(entry->defaultText, entry->defaultVariant, entry->defaultPosition);
+    if (all != nullptr) {
+        all->push_back(last);
+    }
+    return Origin::byDefault;
 }
 
 Origin StoredOutcome::find(const char* name, Value& last, std::vector<Value>* all) const {

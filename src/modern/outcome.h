@@ -49,13 +49,16 @@ private:
     };
 
     static Values under(const ParseResult& result, std::string_view name);
-    Values ofItem(const ItemRecord& item) const;
+    Values shareOf(const ItemRecord& item) const;
     Values aside(const ItemRecord& item, Origin origin) const;
-    std::size_t lastOfLine(const Values& values) const;
+    bool counts(const Value& value, const Value& other) const;
+    void keepLast(const Values& values, const ItemRecord* item, Value& last) const;
     Origin choose(const std::string& name,
                   const ItemRecord* item,
                   Value& last,
                   std::vector<Value>* all) const;
+
+    Origin chooseDefault(const std::string& name, Value& last, std::vector<Value>* all) const;
 
     Vocabulary& vocabulary_;
     ParseResult result_;

@@ -67,11 +67,10 @@ std::string wholePage(Vocabulary& vocabulary, const std::string& tool) {
 }
 
 std::string actionPage(Vocabulary& vocabulary, const std::string& tool, const ItemRecord& action) {
-    const char* const modifiers = vocabulary.plain().getActionModifiersDescription(
-        action.primaryName().c_str(), false);
-    return filled(
-        "{}{}\n\n{}",
-        {usageLine(vocabulary, tool, action.called()), action.description, modifiers});
+    const char* const modifiers =
+        vocabulary.plain().getActionModifiersDescription(action.primaryName().c_str(), false);
+    return filled("{}{}\n\n{}",
+                  {usageLine(vocabulary, tool, action.called()), action.description, modifiers});
 }
 
 Answer answerFor(const ItemRecord& item,
@@ -159,7 +158,7 @@ std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line) {
         return vocabulary.tool().name;
     }
     if (line.argc < 1 || line.argv == nullptr || line.argv[0] == nullptr) {
-        return "";
+        return vocabulary.calledAs();
     }
     const std::string path = line.argv[0];
     return visible(path.substr(path.rfind('/') + 1));

@@ -6,6 +6,7 @@
 
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
+#include "recognizers/messages.h"
 #include "text/filled.h"
 #include "zarn/option.h"
 
@@ -25,6 +26,13 @@ private:
     Vocabulary& vocabulary_;
     const ItemRecord& item_;
 };
+
+// Whether a text that is no number of its type looks like one, and so is beyond its bounds.
+bool isNumber(std::string_view text) {
+    text.remove_prefix(text.find_first_not_of("+-") == 1 ? 1 : 0);
+    return !text.empty() && text[0] >= '0' && text[0] <= '9' &&
+           text.find_first_not_of("0123456789.e+-") == std::string_view::npos;
+}
 
 bool isBounded(const ItemRecord& item) {
     return item.least.type() != vtNull || item.greatest.type() != vtNull;
@@ -262,10 +270,8 @@ std::string Vocabulary::explained(std::string message) const {
     }
     const std::size_t first = name + beforeName.size();
     const ItemRecord* const item = find(std::string_view(message).substr(first, end - first));
-    std::string_view value = std::string_view(message).substr(end + beforeValue.size());
-    value.remove_prefix(value[0] == '-' || value[0] == '+' ? 1 : 0);
-    const bool isNumber = value[0] >= '0' && value[0] <= '9';
-    if (isNumber && item != nullptr && isBounded(*item)) {
+    const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
+    if (item != nullptr && isBounded(*item) && isNumber(value.substr(0, value.find('\'')))) {
         message.pop_back();  // its full stop
         return messages::withReason(message, boundsText(item->least, item->greatest));
     }
@@ -295,7 +301,7 @@ bool Vocabulary::takePositional(const Value& value) {
         return false;
     }
     if (last == 0 || !item.needsOwnParse()) {
-        return accepts(item, value);
+        return accepts(item, value) || refusePositional(item, value);
     }
     const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
     std::string error;
@@ -307,6 +313,13 @@ bool Vocabulary::takePositional(const Value& value) {
         error.replace(quoted, argument.size(), value.text);
     }
     instead_ = error;
+    return false;
+}
+
+// The plain message would name the item under which the arguments are stored.
+bool Vocabulary::refusePositional(const ItemRecord& item, const Value& value) {
+    instead_ = messages::withReason(
+        messages::vetoedValue(value.text, item.primaryName(), value.text), reason_);
     return false;
 }
 

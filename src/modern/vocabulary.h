@@ -55,7 +55,15 @@ public:
     bool has(ParserFlag flag) const { return (flags_ & flag) != 0; }
     const std::vector<std::unique_ptr<ItemRecord>>& items() const { return items_; }
     const std::vector<const ItemRecord*>& positionals() const { return positionals_; }
+    // Of several positional items the first, under which all arguments are stored; else null.
+    const ItemRecord* firstOfGroup() const {
+        return positionals_.size() > 1 ? positionals_.front() : nullptr;
+    }
     const std::vector<Rule>& rules() const { return rules_; }
+
+    // The name by which a tool without one was called.
+    const std::string& calledAs() const { return calledAs_; }
+    void callAs(const std::string& name) { calledAs_ = name; }
     bool hasRole(Role role) const;
 
     // The item with this name, or null.
@@ -103,9 +111,11 @@ private:
     std::size_t indexOf(std::string_view form) const;
     bool routesPositionals() const;
     bool takePositional(const Value& value);
+    bool refusePositional(const ItemRecord& item, const Value& value);
     ParseResult& positionalAside(const ItemRecord& item);
 
     Tool tool_;
+    std::string calledAs_;
     int flags_;
     unsigned habits_ = 0;
     std::size_t owners_ = 1;

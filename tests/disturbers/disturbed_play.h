@@ -11,7 +11,7 @@
 #include <string>
 #include <vector>
 
-#include "support/countdown.h"
+#include "support/failing_new.h"
 #include "support/scenario.h"
 
 namespace zarn_3_3::testing_support {

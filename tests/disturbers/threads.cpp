@@ -1,6 +1,4 @@
-// What threads may do at the same time, and what they do although the contract excludes it:
-// threads FILE... For the thread sanitizer, which ends the program with a code of its own when it
-// finds a race.
+#include "disturbers/threads.h"
 
 #include <unistd.h>
 
@@ -11,14 +9,11 @@
 #include <iostream>
 #include <thread>
 
-#include "disturbers/judged_files.h"
 #include "support/failing_new.h"
 #include "support/stage.h"
 
+namespace zarn_3_3::testing_support {
 namespace {
-
-using namespace zarn_3_3;
-using namespace zarn_3_3::testing_support;
 
 std::atomic<long> mistakes{0};
 
@@ -63,19 +58,6 @@ std::string conclusions(const Scenario& scenario, bool goesFromThreadToThread = 
     return text;
 }
 
-// From thread to thread everything may go (but for the files of the double, of which each thread
-// has its own). At once the contract excludes it: numbers may then repeat, and nothing worse.
-std::string judge(const Scenario& scenario) {
-    const std::string right = conclusions(scenario);
-    if (!hasStep(scenario, {"file", "pipe", "directory"})) {
-        expect(conclusions(scenario, true) == right, "one behind the other");
-    }
-    if (!hasStep(scenario, {"locale", "left"})) {
-        inThreads(4, [&](int) { expect(conclusions(scenario) == right, "several at once"); });
-    }
-    return "";
-}
-
 // Each turns the log on and off again while others write to it. More than there are cores, so that
 // some are interrupted in between.
 void switchLog() {
@@ -115,19 +97,33 @@ void shareValues() {
     }
 }
 
-}  // namespace
-
-int main(int argc, char** argv) {
+// The log and the warnings are written, but not shown. Returns whether this is so.
+bool begin() {
     constexpr unsigned longestRun = 300;
     alarm(longestRun);
-    // The log and the warnings are written, but not shown.
-    if (std::freopen("/dev/null", "w", stdout) == nullptr) {
-        return 2;
-    }
+    const bool isSilent = std::freopen("/dev/null", "w", stdout) != nullptr;
     std::cerr.rdbuf(std::cout.rdbuf());
     switchLog();  // first, since what is made once for all is made here
     shareValues();
-    const int code = judgeFiles(argc, argv, judge);
-    std::fprintf(stderr, "threads: %ld violations\n", mistakes.load());
-    return mistakes == 0 ? code : 1;
+    return isSilent;
 }
+
+}  // namespace
+
+// From thread to thread everything may go (but for the files of the double and the lack of memory,
+// of which each thread has its own). At once the contract excludes it: numbers may then repeat, and
+// nothing worse.
+std::string wrongOnThreads(const Scenario& scenario) {
+    static const bool isSilent = begin();
+    expect(isSilent, "silence");
+    const std::string right = conclusions(scenario);
+    if (!hasStep(scenario, {"file", "pipe", "directory", "lack"})) {
+        expect(conclusions(scenario, true) == right, "one behind the other");
+    }
+    if (!hasStep(scenario, {"locale", "left", "signs"})) {
+        inThreads(4, [&](int) { expect(conclusions(scenario) == right, "several at once"); });
+    }
+    return mistakes.exchange(0) == 0 ? "" : "see above";
+}
+
+}  // namespace zarn_3_3::testing_support

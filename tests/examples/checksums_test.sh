@@ -152,7 +152,7 @@ row 2 stderr "checksums: Action '-compare' and action '-create' were defined, bu
 row 2 stderr "checksums: Action '-compare' doesn't accept option '-manifest'" --compare --manifest=x a.txt a.txt
 row 2 stderr "checksums: Option 'color' is boolean and should be declared in form '--option' or '--no-option' in argument: '--color=1'" --color=1
 row 2 stderr "checksums: Action '--create' requires argument 'FILE'" --create
-row 2 stderr "checksums: Option 'file' received an empty argument" --create ''
+row 2 stderr "checksums: Argument 'FILE' is empty" --create ''
 row 2 stderr "checksums: Action '--compare' needs two manifests, the old one and the new one." --compare a.txt
 check 2 --verify data
 says stderr "takes no others."

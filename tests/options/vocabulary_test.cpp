@@ -3,8 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <iterator>
 #include <random>
 #include <set>
+#include <sstream>
 
 #include "options/registered_option_storage.h"
 #include "text/text_hash.h"
@@ -57,22 +59,12 @@ TEST(TextHash, TellsTextsApartThatDifferInOneByte) {
 }
 
 TEST(Registry, FindsWhatALinearSearchFinds) {
-    const std::string longOne(64, 'n');
-    const std::vector<std::string> pool{"",
-                                        "a",
-                                        "ab",
-                                        "abc",
-                                        "b",
-                                        "n",
-                                        "no",
-                                        "no-",
-                                        "no-a",
-                                        "no-b",
-                                        "nob",
-                                        "no-no-a",
-                                        longOne,
-                                        longOne + "n",
-                                        longOne + "x"};
+    std::istringstream words("a ab abc b n no no- no-a no-b nob no-no-a");
+    std::vector<std::string> pool{std::istream_iterator<std::string>(words), {}};
+    for (const char* const end : {"", "n", "x"}) {
+        pool.push_back(std::string(64, 'n') + end);
+    }
+    pool.emplace_back();
     std::mt19937 dice(42);
     const auto drawn = [&] { return pool[dice() % pool.size()]; };
     for (int round = 0; round < 400 && !testing::Test::HasFailure(); ++round) {

@@ -4,7 +4,6 @@
 #include <dlfcn.h>
 #include <zarn/zarn.h>
 
-#include <climits>
 #include <cstdio>
 #include <cstdlib>
 #include <fstream>
@@ -12,6 +11,7 @@
 #include <string>
 
 #include "support/failing_new.h"
+#include "support/tool.h"
 
 namespace {
 
@@ -22,21 +22,18 @@ void require(bool holds, const char* what) {
     }
 }
 
+int (*create)(zarn::IParser** out, int flags) = nullptr;
+
 // Values could not be linked: their destructor is the library's.
-void use(int (*create)(zarn::IParser** out, int flags)) {
-    zarn::IParser* parser = nullptr;
-    zarn::IParseResult* result = nullptr;
-    require(create(&parser, zarn::flagUnknownIsError) == zarn::resultOk, "a parser");
-    parser->option("level,l", "A number", zarn::vtS32, "main:Main options");
-    require(parser->createResult(&result) == zarn::resultOk, "a result");
+void use() {
+    zarn_3_3::testing_support::Tool tool(zarn::flagUnknownIsError);
+    tool.option("level,l", zarn::vtS32);
     // With the log, which keeps a stream for as long as the library is there.
     const char* const text = "zarnoption=zarnlogenable=1\n--level=1,2,3\n--\nplain";
-    require(parser->parseStream(text, result) == zarn::resultOk, "a parse");
-    require(result->present("l", 0, INT_MAX), "a value");
-    require(parser->parseStream("--nothing", result) == zarn::resultRuleBroken, "a wrong parse");
-    require(*parser->getDescription(false) != '\0', "help");
-    result->destroy();
-    parser->destroy();
+    require(tool->parseStream(text, tool.result) == zarn::resultOk, "a parse");
+    require(tool.result->present("l", 0, INT_MAX), "a value");
+    require(tool.parse({"--nothing"}) == zarn::resultRuleBroken, "a wrong parse");
+    require(*tool->getDescription(false) != '\0', "help");
 }
 
 bool isMapped() {
@@ -50,13 +47,16 @@ bool isMapped() {
 void loadAndUse(const char* path) {
     void* const library = dlopen(path, RTLD_NOW | RTLD_LOCAL);
     require(library != nullptr && isMapped(), "it is loaded");
-    void* const create = dlsym(library, "_ZN8zarn_3_312createParserEPPNS_7IParserEi");
-    require(create != nullptr, "createParser is exported");
-    use(reinterpret_cast<int (*)(zarn::IParser**, int)>(create));
+    void* const symbol = dlsym(library, "_ZN8zarn_3_312createParserEPPNS_7IParserEi");
+    require(symbol != nullptr, "createParser is exported");
+    create = reinterpret_cast<decltype(create)>(symbol);
+    use();
     require(dlclose(library) == 0 && !isMapped(), "it is unloaded");
 }
 
 }  // namespace
+
+int zarn_3_3::createParser(IParser** out, int flags) { return create(out, flags); }
 
 int main(int, char** argv) {
     std::cout.setstate(std::ios::failbit);  // the log goes nowhere

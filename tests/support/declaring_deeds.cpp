@@ -67,6 +67,9 @@ void makeParser(Stage& stage, const Step& step) {
     make(stage, stage.parsers, name, stage.parser, create);
     if (stage.parser != nullptr) {
         makeResult(stage, {step.line, "result", {name}});
+        if (stage.way != Way::plain && stage.way != Way::asText) {
+            stage.call(&IParser::addHandler, stage.parser, &stage.listener);
+        }
     }
 }
 

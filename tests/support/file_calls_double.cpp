@@ -4,7 +4,9 @@
 #include <cerrno>
 #include <cstdint>
 
+#include "platform/assertion.h"
 #include "platform/file_calls.h"
+#include "platform/load_file.h"
 
 namespace zarn_3_3::testing_support {
 
@@ -31,6 +33,10 @@ const MemoryFile* fileNamed(const char* path) {
     return found == fileCalls.files.end() ? nullptr : found->second.get();
 }
 
+bool isReadable(const MemoryFile& file) {
+    return file.kind != "directory" && file.kind != "device" && file.kind != "huge";
+}
+
 const MemoryFile* fileAt(int descriptor) {
     return descriptor == onlyDescriptor ? openFile : nullptr;
 }
@@ -42,18 +48,21 @@ mode_t modeOf(const std::string& kind) {
                                  : S_IFREG;
 }
 
+std::size_t sizeOf(const MemoryFile& file) {
+    return file.kind == "growing" ? file.content.size() / 2
+           : file.kind == "huge"  ? TROV_2_18::system::largestFile + 1
+                                  : file.content.size();
+}
+
 int tellStatus(const MemoryFile* file, int errorWithoutFile, struct stat* status) {
     if (failure(file, errorWithoutFile) != 0) {
         return -1;
     }
-    const std::size_t size = file->content.size();
     *status = {};
     status->st_dev = 1;
     status->st_ino = reinterpret_cast<std::uintptr_t>(file);
     status->st_mode = modeOf(file->kind);
-    if (S_ISREG(status->st_mode)) {
-        status->st_size = static_cast<off_t>(file->kind == "growing" ? size / 2 : size);
-    }
+    status->st_size = S_ISREG(status->st_mode) ? static_cast<off_t>(sizeOf(*file)) : 0;
     return 0;
 }
 
@@ -69,13 +78,19 @@ int statusOfPath(const char* path, struct stat* status) noexcept {
 }
 
 int statusOfDescriptor(int descriptor, struct stat* status) noexcept {
-    return tellStatus(fileAt(descriptor), EBADF, status);
+    const MemoryFile* const file = fileAt(descriptor);
+    const int answer = tellStatus(file, EBADF, status);
+    status->st_mode = answer == 0 && file->kind == "changing" ? S_IFCHR : status->st_mode;
+    return answer;
 }
 
 int openForReading(const char* path) {
     const MemoryFile* const file = fileNamed(path);
     if (failure(file, ENOENT, true) != 0) {
         return -1;
+    }
+    if (!isReadable(*file)) {
+        debugAssertionFailed("opening alone can have effects");
     }
     if (file->kind == "unreadable") {
         errno = EACCES;

@@ -11,7 +11,7 @@
 #include <memory>
 #include <string>
 
-#include "support/countdown.h"
+#include "support/failing_new.h"
 
 namespace zarn_3_3::testing_support {
 

@@ -15,14 +15,9 @@ namespace zarn_3_3::testing_support {
 // numbers ascend.
 std::string contradictions(const Scenario& scenario, const Answers& seen);
 
-// One more handler listens to every parser. The arguments are freed when it hears the first event.
-std::string differencesWhenHeard(const Scenario& scenario, const Answers& seen);
-
-// Command lines become texts with an argument in each line, as far as lines can hold them.
-std::string differencesAsText(const Scenario& scenario, const Answers& seen);
-
-// The first command line becomes an option file, when nothing else names one.
-std::string differencesAsOptionFile(const Scenario& scenario);
+// The same is seen when one more listens to every parser, and frees the arguments when it hears the
+// first event; when command lines come as texts, and in option files; and when nobody listens.
+std::string differencesInOtherWays(const Scenario& scenario);
 
 }  // namespace zarn_3_3::testing_support
 

@@ -25,21 +25,42 @@ std::string escapedByte(char c) {
 
 Observer::Observer(Console console) {
     if (console == Console::observed) {
-        log.emplace(std::cout, [this](char c) { hear(Kind::log, c); });
-        warnings.emplace(std::cerr, [this](char c) { hear(Kind::warning, c); });
+        log.emplace(*this, Kind::log, std::cout);
+        warnings.emplace(*this, Kind::warning, std::cerr);
     }
+}
+
+Observer::Tap::Tap(Observer& byWhom, Kind ofWhat, std::ostream& tapped)
+    : observer(byWhom), kind(ofWhat), stream(tapped), before(tapped.rdbuf(this)) {
+    stream.exceptions(std::ios::badbit | std::ios::failbit);
+}
+
+Observer::Tap::~Tap() {
+    stream.exceptions(std::ios::goodbit);
+    stream.rdbuf(before);
+}
+
+Observer::Tap::int_type Observer::Tap::overflow(int_type character) {
+    observer.hear(kind, traits_type::to_char_type(character));
+    return traits_type::not_eof(character);
 }
 
 void Observer::hear(Kind kind, char c) {
     const Restored spared(memory.isSpared, true);
     if (c != '\n') {
         begun[kind] += c;
-    } else {
-        say(kind, (kind == Kind::log ? "log: " : "") + std::exchange(begun[kind], {}));
+        return;
     }
+    const std::string text = std::exchange(begun[kind], {});
+    say(kind, (kind == Kind::log ? "log: " : "") + text);
+    react((kind == Kind::log ? "log " : "warning ") + text);
 }
 
-void Observer::finishLines() {
+void Observer::finishStep() {
+    if (log.has_value()) {
+        std::cout.clear();
+        std::cerr.clear();
+    }
     for (auto& [kind, text] : begun) {
         if (!text.empty()) {
             text += " (without a line feed)";

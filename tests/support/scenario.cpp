@@ -58,7 +58,7 @@ public:
         }
         if (text[0] == '>') {
             expect(text.substr(std::min<std::size_t>(2, text.size())), line);
-        } else if (text.rfind("scenario ", 0) == 0) {
+        } else if (startsWith(text, "scenario ")) {
             scenarios.push_back({text.substr(9), line, {}, {}});
             steps = &scenarios.back().steps;
         } else {
@@ -113,7 +113,7 @@ void forEachLine(const std::string& text, Take take) {
 
 std::string settingOf(const Words& words, const std::string& key, const std::string& otherwise) {
     for (const std::string& word : words) {
-        if (word.rfind(key + "=", 0) == 0) {
+        if (startsWith(word, key + "=")) {
             return word.substr(key.size() + 1);
         }
     }
@@ -121,7 +121,29 @@ std::string settingOf(const Words& words, const std::string& key, const std::str
 }
 
 bool isParse(const Step& step) {
-    return step.verb == "args" || step.verb == "argv" || step.verb == "text";
+    return isAmong(step.verb, {"args", "argv", "text", "vector", "phaseOne"});
+}
+
+bool isHelp(const std::string& verb) {
+    return isAmong(verb, {"help", "topic", "modifiers", "globals"});
+}
+
+bool mayThrow(const std::string& verb) {
+    return isAmong(verb, {"vector", "phaseOne", "phaseTwo", "wrap"});
+}
+
+bool startsWith(const std::string& text, const std::string& start) {
+    return text.compare(0, start.size(), start) == 0;
+}
+
+bool isAmong(const std::string& word, std::initializer_list<const char*> words) {
+    return std::find(words.begin(), words.end(), word) != words.end();
+}
+
+bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs) {
+    return std::any_of(scenario.steps.begin(), scenario.steps.end(), [&verbs](const Step& step) {
+        return isAmong(step.verb, verbs);
+    });
 }
 
 std::vector<Scenario> readScenarios(const std::string& text) {

@@ -46,19 +46,26 @@
 // Handlers have numbers from 0 to 9, in the order of their addresses.
 //     add N, remove N               also of null, and of parsers: "add parser", "add parser=NAME"
 //     on N [nth=M] EVENT : STEP     what handler N does when it hears EVENT, each time or the M-th.
-//                                   A '*' at the end stands for anything. Not while STEP is done
+//                                   A '*' at the end stands for anything. Not while STEP is done.
+//                                   What is written to the console are events too, which need no
+//                                   handler: "log LINE" and "warning LINE"
 //     refuse                        inside an event: the answer is false
 //     throw KIND [TEXT]             inside an event: standard, memory, silent (its text is null),
 //                                   foreign
 //
-// Parsing. All texts are scribbled over and freed when the first event of their parse is heard.
+// Parsing. All texts are scribbled over and freed when the first event of their parse is heard, or
+// its first line stands in the log.
 //     args [WORD]...                as main would have them
 //     argv COUNT [WORD]...          from argv[0] on; without words argv is null
 //     text [LINE]...                or "text null"
+//     vector [WORD]...              a parse of what remains of a command line; tells what is left
+//     phaseOne MARK [WORD]...       its options, up to MARK
+//     phaseTwo MARK [WORD]...       the rules on actions
 //     error                         the text of the last failure
 //
-// Files exist in memory only. Of a growing one the size is told too small.
-//     file NAME [LINE]..., pipe, growing, directory, device, unreadable
+// Files exist in memory only. Of a growing one the size is told too small, of a huge one too large
+// to be read; a changing one is another kind of file as soon as it is open.
+//     file NAME [LINE]..., pipe, growing, directory, device, unreadable, huge, changing
 //     link NAME TARGET              another name, or spelling, of a file
 //
 // Reading. Numbers count from the first that the scenario draws, "end" is the greatest of all.
@@ -72,12 +79,15 @@
 //     wrap HEAD TEXT INDENT WIDTH
 //
 // The world.
-//     locale grouping|classic
+//     locale grouping|classic       the first also takes the texts back when it reads a number
+//     signs                         from now on streams write them before all numbers
 //     left COUNT                    numbers before the end of the sequence
+//     lack N                        of memory: the N-th allocation from now on fails. 0: none
 
 #ifndef ZARN_TESTS_SUPPORT_SCENARIO_H
 #define ZARN_TESTS_SUPPORT_SCENARIO_H
 
+#include <initializer_list>
 #include <string>
 #include <vector>
 
@@ -99,12 +109,22 @@ struct Step {
 // Whether it is a step that parses.
 bool isParse(const Step& step);
 
+bool isHelp(const std::string& verb);
+
+// Whether nothing keeps back what the library throws.
+bool mayThrow(const std::string& verb);
+
+bool startsWith(const std::string& text, const std::string& start);
+bool isAmong(const std::string& word, std::initializer_list<const char*> words);
+
 struct Scenario {
     std::string title;
     int line;
     std::vector<Step> steps;
     Answers expected;
 };
+
+bool hasStep(const Scenario& scenario, std::initializer_list<const char*> verbs);
 
 // The scenarios of a text in this language. Throws std::invalid_argument, which names the line.
 std::vector<Scenario> readScenarios(const std::string& text);

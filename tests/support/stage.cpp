@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <climits>
+#include <iostream>
 
 #include "log/zarn_log.h"
 #include "recognizers/argument_parser.h"
@@ -16,6 +17,12 @@ Deeds allDeeds() {
     all.merge(parsingDeeds());
     all.merge(readingDeeds());
     return all;
+}
+
+bool isLike(const std::string& pattern, const std::string& event) {
+    const bool isOpen = !pattern.empty() && pattern.back() == '*';
+    return isOpen ? event.compare(0, pattern.size() - 1, pattern, 0, pattern.size() - 1) == 0
+                  : event == pattern;
 }
 
 }  // namespace
@@ -37,10 +44,74 @@ void LentTexts::takeBack() {
     argv = {};
 }
 
-Stage::Stage(Console console)
-    : observer(console), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
+bool ActingHandler::onOptionParse(const char* option) { return hear("option ", option, nullptr); }
+
+bool ActingHandler::onValueParse(const char* option, const Value& value) {
+    return hear("value ", option, &value);
+}
+
+bool ActingHandler::onUknownArgument(const char* argument) {
+    return hear("unknown ", argument, nullptr);
+}
+
+void ActingHandler::plan(long nth, const std::string& event, const Step& step) {
+    plans.push_back({nth, event, step});
+}
+
+bool ActingHandler::hear(const char* kind, const char* text, const Value* value) {
+    const Restored spared(memory.isSpared, true);
+    std::string event = std::string(kind) + stage->keep(stage->parser, text);
+    std::string shown = event;
+    if (value != nullptr) {
+        event += std::string("=") + (value->text == nullptr ? "" : value->text);
+        shown += "=" + stage->shown(*value);
+    }
+    if (stage->lent != nullptr) {
+        stage->lent->takeBack();
+    }
+    if (this == &stage->listener) {
+        stage->filesNamed += event == "option option-file" ? 1 : 0;
+        value != nullptr ? stage->numbers.push_back(value->position) : void();
+        return true;
+    }
+    stage->observer.say(Kind::event, name + " " + shown);
+    const Restored refusal(stage->isRefused, false);
+    react(event);
+    return !stage->isRefused;
+}
+
+void ActingHandler::react(const std::string& event) {
+    const Restored parser(stage->parser, stage->parser);
+    const Restored result(stage->result, stage->result);
+    for (Plan& plan : plans) {
+        act(plan, event);
+    }
+}
+
+void ActingHandler::act(Plan& plan, const std::string& event) {
+    if (plan.isInProgress || !isLike(plan.event, event)) {
+        return;
+    }
+    ++plan.heard;
+    if (plan.nth == 0 || plan.nth == plan.heard) {
+        const Restored mark(plan.isInProgress, true);
+        stage->act(plan.step);
+    }
+}
+
+Stage::Stage(Console console, Way theWay)
+    : observer(console), way(theWay), numberBefore(IArgumentParser::m_idx), base(numberBefore - 1) {
     internal::zarnLogEnabled = false;
     takeAssertions();
+    observer.react = [this](const std::string& event) {
+        if (lent != nullptr && startsWith(event, "log ")) {
+            lent->takeBack();
+        }
+        for (ActingHandler& handler : handlers) {
+            handler.react(event);
+        }
+    };
+    listener.stage = this;
     for (std::size_t i = 0; i < handlers.size(); ++i) {
         handlers[i].stage = this;
         handlers[i].name = std::to_string(i);
@@ -55,6 +126,10 @@ Stage::~Stage() {
         destroy(parsers, parsers.begin()->first, parser);
     }
     fileCalls.files.clear();
+    memory.left = 0;
+    if (hasSigns) {
+        std::cout << std::noshowpos;
+    }
     IArgumentParser::m_idx = numberBefore;
 }
 
@@ -69,7 +144,7 @@ void Stage::perform(const Step& step) {
     } catch (const ForeignException&) {
         tell("threw a foreign exception");
     }
-    observer.finishLines();
+    observer.finishStep();
     std::string assertions = takeAssertions();
     if (!assertions.empty()) {
         assertions.pop_back();

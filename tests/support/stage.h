@@ -6,6 +6,7 @@
 
 #include <array>
 #include <functional>
+#include <list>
 #include <map>
 #include <memory>
 #include <optional>
@@ -13,7 +14,6 @@
 #include <utility>
 #include <vector>
 
-#include "support/acting_handler.h"
 #include "support/failing_new.h"
 #include "support/grouping_locale.h"
 #include "support/observer.h"
@@ -39,11 +39,49 @@ private:
 // What clients throw that is no standard exception.
 struct ForeignException {};
 
+class Stage;
+
+// Tells the stage what it hears, and does what it was told to do then.
+class ActingHandler final : public EventHandler {
+public:
+    bool onOptionParse(const char* name) override;
+    bool onValueParse(const char* name, const Value& value) override;
+    bool onUknownArgument(const char* argument) override;
+
+    // From now on `step` is done inside the `nth` such event, 0: inside each of them. Lines of the
+    // console are events too, "log TEXT" and "warning TEXT", although nobody hears them.
+    void plan(long nth, const std::string& event, const Step& step);
+
+    void react(const std::string& event);
+
+    Stage* stage = nullptr;
+    std::string name;
+
+private:
+    struct Plan {
+        long nth;
+        std::string event;
+        Step step;
+        long heard = 0;
+        bool isInProgress = false;
+    };
+
+    bool hear(const char* kind, const char* text, const Value* value);
+    void act(Plan& plan, const std::string& event);
+
+    std::list<Plan> plans;  // more may come while one is in progress
+};
+
 // The item that was declared last, which can still be changed.
 struct LastItem {
     IOption* item = nullptr;
     das_variant_type_t type = vtNull;
 };
+
+// Ways to do the same: heard by one more, who says nothing of it; with command lines as texts, an
+// argument in each line, as far as lines can hold them; as such texts behind an empty option file,
+// and in one.
+enum class Way { plain, heard, asText, behindFile, asFile };
 
 // A world without parsers and files: each stage begins anew, and leaves the running number as it
 // was. Memory that runs out does so in the library alone, but not while it makes values.
@@ -51,7 +89,7 @@ class Stage {
     const Restored<bool> spared{memory.isSpared, true};
 
 public:
-    explicit Stage(Console console = Console::observed);
+    explicit Stage(Console console = Console::observed, Way way = Way::plain);
     Stage(const Stage&) = delete;
     Stage& operator=(const Stage&) = delete;
     ~Stage();
@@ -96,12 +134,19 @@ public:
         }
     }
 
+    const Way way;
+    ActingHandler listener;  // of all parsers, in some ways
+    bool isComparable = true;
+    int filesNamed = 0;  // as the listener hears
+    std::vector<int> numbers;
+
     std::map<std::string, IParser*> parsers;
     std::map<std::string, IParseResult*> results;
     IParser* parser = nullptr;  // in use
     IParseResult* result = nullptr;
     LentTexts* lent = nullptr;  // to the parse in progress
     bool isRefused = false;     // the event in progress
+    bool hasSigns = false;      // the log
 
     std::array<ActingHandler, 10> handlers;
     LastItem last;

@@ -1,10 +1,9 @@
-// A tool as clients write them, for stories through the public interface.
+// A tool as clients write them, for stories that are no scenarios.
 
 #ifndef ZARN_TESTS_SUPPORT_TOOL_H
 #define ZARN_TESTS_SUPPORT_TOOL_H
 
 #include <climits>
-#include <functional>
 #include <string>
 #include <vector>
 
@@ -12,46 +11,41 @@
 
 namespace zarn_3_3::testing_support {
 
-using Words = std::vector<std::string>;
-
-// Records what it hears: "option <name>; value <name>=<text>; unknown <argument>".
-class Recorder final : public EventHandler {
-public:
-    bool onOptionParse(const char* name) override { return hear(std::string("option ") + name); }
-    bool onValueParse(const char* name, const Value& value) override {
-        return hear(std::string("value ") + name + "=" + value.text);
-    }
-    bool onUknownArgument(const char* argument) override {
-        return hear(std::string("unknown ") + argument);
-    }
-
-    std::string events;
-    std::function<bool(const std::string& event)> answer;  // without, every answer is true
-
-private:
-    bool hear(const std::string& event);
-};
-
-// Owns a parser, a result and a handler that `listen` registers.
+// Owns a parser and a result.
 class Tool {
 public:
-    explicit Tool(int flags = 0);
+    explicit Tool(int flags = 0) {
+        createParser(&parser, flags);
+        parser->createResult(&result);
+    }
     Tool(const Tool&) = delete;
     Tool& operator=(const Tool&) = delete;
-    ~Tool();
+    ~Tool() {
+        result->destroy();
+        parser->destroy();
+    }
 
     IParser* operator->() const { return parser; }
-    IOption& option(const std::string& names, das_variant_type_t type = vtString);
-    Recorder& listen();
 
-    int parse(const Words& arguments);
-    std::string error() { return parser->getErrorDesc(); }
-    std::string values(const char* name);  // as "1|2"
-    void startNewResult();
+    IOption& option(const std::string& names, das_variant_type_t type = vtString) {
+        return parser->option(names.c_str(), "", type, "");
+    }
+
+    int parse(const std::vector<std::string>& arguments) {
+        std::vector<const char*> argv{"tool"};
+        for (const std::string& argument : arguments) {
+            argv.push_back(argument.c_str());
+        }
+        return parser->parseArgsVector(static_cast<int>(argv.size()), argv.data(), result);
+    }
+
+    void startNewResult() {
+        result->destroy();
+        parser->createResult(&result);
+    }
 
     IParser* parser = nullptr;
     IParseResult* result = nullptr;
-    Recorder handler;
 };
 
 }  // namespace zarn_3_3::testing_support

@@ -49,11 +49,8 @@ das_variant_type_t kindNamed(const std::string& word) {
 std::string contentOf(const variant_t& value) {
     switch (value.type()) {
         case vtBool:
-            return value.get<bool>() ? "1" : "0";
         case vtS32:
-            return std::to_string(value.get<int>());
         case vtU32:
-            return std::to_string(value.get<unsigned>());
         case vtS64:
             return std::to_string(value.get<long>());
         case vtU64:

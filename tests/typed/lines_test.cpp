@@ -82,6 +82,10 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
         {{"--jobs=99999999999"},
          "Value validation problem in argument '--jobs=99999999999': Option 'jobs' can not parse "
          "'99999999999' value, requires a type 'integer' here: it must be between 1 and 64|"                                              },
+        {{"--jobs=5x"},
+         "Value validation problem in argument '--jobs=5x': Option 'jobs' can not parse '5x' "
+         "value, "
+         "requires a type 'integer' here.|"                                                                                               },
         {{"--jobs=x"},
          "Value validation problem in argument '--jobs=x': Option 'jobs' can not parse 'x' value, "
          "requires a type 'integer' here.|"                                                                                               },
@@ -92,9 +96,9 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
         {{"--jobs=", "3"},                                                     "Option 'jobs' requires a value in argument: '--jobs='|"   },
         {{"--jo ", "3"},                                                       "Option 'jobs' requires a value in argument: '--jo '|"     },
         {{"--quiet=", "a"},                                                    "quiet=1 file=a "                                          },
-        {{"a", ""},                                                            "Option 'file' received an empty argument|"                },
+        {{"a", ""},                                                            "Argument 'FILE' is empty|"                                },
         {{"--target", ""},                                                     "Option 'target' requires a value in argument: '--target'|"},
-        {{"a", "--", ""},                                                      "Option 'file' received an empty argument|"                },
+        {{"a", "--", ""},                                                      "Argument 'FILE' is empty|"                                },
         {{"a", "--", "-b"},                                                    "file=a file=-b "                                          },
     });
 }
@@ -252,20 +256,21 @@ struct Positionals {
 
 TEST(PositionalItems, ShareTheArgumentsInOrder) {
     const Row rows[] = {
-        {{"3", "le", "a", "b"},              "3 left a b "                    },
-        {{"3"},                              "3  "                            },
-        {{"--count=3", "right"},             "3 right "                       },
-        {{"3", "--name=right", "left", "a"}, "3 right a "                     },
-        {{},                                 "0  Argument 'count' is required"},
+        {{"3", "le", "a", "b"},                               "3 left a b "                    },
+        {{"3"},                                               "3  "                            },
+        {{"--count=3", "right"},                              "3 right "                       },
+        {{"3", "--name=right", "left", "a"},                  "3 left a "                      },
+        {{"3", "left", "a", "--name=right", "--rest=b", "c"}, "3 right a b c "                 },
+        {{},                                                  "0  Argument 'count' is required"},
         {{"x"},
          "0  Value validation problem in argument 'x': Option 'count' can not parse 'x' value, "
-         "requires a type 'integer' here."                                    },
+         "requires a type 'integer' here."                                                     },
         {{"0"},
          "0  Value '0' is not valid for option 'count' in argument '0': it must be between 1 "
-         "and 9"                                                              },
+         "and 9"                                                                               },
         {{"3", "up", "a"},
          "0  Value validation problem in argument 'up': Option 'name' does not allow value 'up'. "
-         "Possible values follows: 'left', 'right'"                           },
+         "Possible values follows: 'left', 'right'"                                            },
     };
     for (const Row& row : rows) {
         EXPECT_EQ(Positionals().parse(row.line), row.expected);
@@ -282,7 +287,7 @@ TEST(PositionalItems, ShareTheArgumentsInOrder) {
     Parser single;
     single.declare({positional("only", "").into(only)});
     const Line line{"a", "b"};
-    EXPECT_STREQ(single.parse(line.argc(), line.argv()).text(), "Unknown option: b");
+    EXPECT_STREQ(single.parse(line.argc(), line.argv()).text(), "Unexpected argument: b");
     EXPECT_EQ(only, "");
 }
 

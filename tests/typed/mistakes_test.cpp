@@ -51,7 +51,9 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
         {[](Parser& p) { p.declare({option<short>("a", "").byDefault(40000)}); },
          "'a': a number of its declaration does not fit: it must be between -32768 and 32767"                                                               },
         {[](Parser& p) { p.declare({option<int>("a", "").byDefault()}); },
-         "'a': byDefault() shows a variable, and into() names none"                                                                                         },
+         "'a': byDefault() shows a variable for one value, and into() names none"                                                                           },
+        {[](Parser& p) { p.declare({option("a,b,a", "")}); },
+         "'a,b,a': the name 'a' is given twice"                                                                                                             },
         {[](Parser& p) {
              p.declare({option<int>("a", "").into(a), option<int>("b", "").into(a)});
          },                                                                       "'b': its variable is that of 'a'"                               },

@@ -108,7 +108,7 @@ TEST(RunOf, AToolLeavesToItWhatItHasItself) {
     EXPECT_EQ(run(parser, {"--help"}).code, std::nullopt);
     EXPECT_TRUE(help);
     EXPECT_EQ(run(parser, {"--version"}).error, "tool: Unknown option: --version\n");
-    EXPECT_THAT(parser.help(), StartsWith("Usage:  [option ...]\n\n-help "));
+    EXPECT_THAT(parser.help(), StartsWith("Usage: tool [option ...]\n\n-help "));
     Parser nameless;
     nameless.declare({option<int>("h", ""),
                       positional<int>("count", "How many.").required(),

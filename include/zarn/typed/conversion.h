@@ -56,6 +56,11 @@ template <typename T>
 inline constexpr bool isConverted<T, std::void_t<decltype(&Conversion<T>::read)>> = true;
 
 template <typename T, typename = void>
+inline constexpr bool isWritten = !isConverted<T>;
+template <typename T>
+inline constexpr bool isWritten<T, std::void_t<decltype(&Conversion<T>::write)>> = true;
+
+template <typename T, typename = void>
 inline constexpr bool isNamed = false;
 template <typename T>
 inline constexpr bool isNamed<T, std::void_t<decltype(Names<T>::table)>> = true;

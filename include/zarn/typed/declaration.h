@@ -1,13 +1,11 @@
 // How a vocabulary is written down: one expression for each item.
 //
-//     parser.declare("Output",
-//                    {
-//                        zarn::option<int>("jobs,j", "How many at a time.").between(1,
-//                        64).into(jobs), zarn::option<std::string>("tone", "How
-//                        loud.").allow({"low", "high"}), zarn::option("quiet,q", "Say
-//                        nothing.").into(quiet), zarn::positional("file", "What to work
-//                        on.").named("FILE").into(files),
-//                    });
+//     parser.declare("Output", {
+//         zarn::option<int>("jobs,j", "How many at a time.").between(1, 64).into(jobs),
+//         zarn::option<std::string>("tone", "How loud.").allow({"low", "high"}).into(tone),
+//         zarn::option("quiet,q", "Say nothing.").into(quiet),
+//         zarn::positional("file", "What to work on.").named("FILE").into(files),
+//     });
 
 #ifndef ZARN_TYPED_DECLARATION_H
 #define ZARN_TYPED_DECLARATION_H
@@ -91,6 +89,7 @@ public:
     // Shows what the variable given to `into` holds when the item is declared, which stays in it.
     Declaration&& byDefault() && {
         static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
+        static_assert(internal::isWritten<T>, "a default is shown by the write of its Conversion");
         description.showsTarget = true;
         return std::move(*this);
     }

@@ -162,6 +162,7 @@ public:
         try {
             internal::Answer answer;
             result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
+            std::fflush(stdout);  // what a handler has said comes first
             const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
             return isPrinted ? answer.exitCode : exitInternal;
         } catch (const std::bad_alloc&) {

@@ -80,8 +80,12 @@ struct Conversion<T, std::void_t<typename T::rep, typename T::period>> {
         }
     }
     static std::string write(const T& duration) {
-        return std::to_string(duration.count()) +
-               internal::unitOf(internal::tickOf<typename T::period>());
+        std::string count = std::to_string(duration.count());
+        if (std::is_floating_point_v<typename T::rep>) {
+            count.erase(count.find_last_not_of('0') + 1);
+            count.erase(count.find_last_not_of('.') + 1);
+        }
+        return count + internal::unitOf(internal::tickOf<typename T::period>());
     }
 };
 

@@ -59,7 +59,7 @@ class TargetOf final : public Target {
     static_assert(goesInto<T, Element>(),
                   "into() wants a variable of the type of the option, an optional or a vector of "
                   "it; for a switch a bool or an integer, for a text a std::string or a path");
-    static_assert(std::is_nothrow_move_assignable_v<V>,
+    static_assert(!goesInto<T, Element>() || std::is_nothrow_move_assignable_v<V>,
                   "variables are written all or none: their assignment must not throw");
 
 public:
@@ -90,7 +90,7 @@ public:
     void drop() noexcept override { ready_.reset(); }
 
     variant_t current() const override {
-        if constexpr (isVector || std::is_same_v<T, Switch>) {
+        if constexpr (isVector || std::is_same_v<T, Switch> || !isWritten<T>) {
             return {};
         } else if constexpr (std::is_same_v<V, Element>) {
             return shown(variable_);

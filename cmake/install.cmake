@@ -42,3 +42,10 @@ foreach(directory libdir includedir)
 endforeach()
 configure_file(cmake/zarn.pc.in zarn.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${libdir}/pkgconfig COMPONENT development)
+
+# The pages keep their places among each other, so that their links hold.
+install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
+    FILES_MATCHING PATTERN "*.md" PATTERN "docs/samples/*"
+    PATTERN docs/tools EXCLUDE
+)

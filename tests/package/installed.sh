@@ -13,6 +13,7 @@ mv "$work/first" "$work/moved"
 ! grep -rla -e "$work" -e "$(cd "$build_dir" && pwd)" "$work/moved" ||
     fail "the files above name the place where they were built or installed"
 
+[[ -s $work/moved/share/doc/zarn/docs/guide/index.md ]] || fail "there is no guide"
 for compiler in "$@"; do
     found_by_cmake "$compiler" "$work/moved"
     found_by_pkg_config "$compiler" "$work/moved"

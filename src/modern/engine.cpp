@@ -233,7 +233,7 @@ std::vector<Occurrence> findOccurrences(const Outcome* outcome,
                                         std::size_t count) {
     std::map<int, Occurrence> ordered;
     for (std::size_t i = 0; i < count; ++i) {
-        stored(outcome).addOccurrences(names[i], ordered);
+        stored(outcome).addOccurrences(names[i] == nullptr ? "" : names[i], ordered);
     }
     std::vector<Occurrence> found;
     for (auto& [position, occurrence] : ordered) {

@@ -147,9 +147,8 @@ Origin StoredOutcome::origin(const ItemRecord& item) const {
 
 // A value belongs to the last occurrence before it. What is there already stays.
 void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
-    const std::string asked = name == nullptr ? "" : name;
-    vocabulary_.require(asked);
-    const StoredOption* const entry = result_.find(asked);
+    vocabulary_.require(name);
+    const StoredOption* const entry = result_.find(name);
     if (entry == nullptr) {
         return;
     }

@@ -188,6 +188,22 @@ std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
     return "";
 }
 
+std::string wrongNamedArgument(const Vocabulary& vocabulary, CommandLine line) {
+    if (vocabulary.firstOfGroup() == nullptr) {
+        return "";
+    }
+    OptionWalk walk(vocabulary, line);
+    for (; !walk.isAtEnd(); walk.next(walk.argument())) {
+        const std::string argument = walk.argument();
+        const CutArgument cut = cutArgument(argument);
+        const ItemRecord* const item = cut.isOption ? vocabulary.resolve(cut.name) : nullptr;
+        if (item != nullptr && item->role == Role::positional) {
+            return messages::givenByPlace(item->called());
+        }
+    }
+    return "";
+}
+
 std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line) {
     Adapting adapting(vocabulary);
     OptionWalk walk(vocabulary, line);

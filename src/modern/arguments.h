@@ -62,6 +62,10 @@ private:
 // taken for a value. Empty when there is none.
 std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line);
 
+// What is wrong with the first argument that names one of several positional items: whose value is
+// whose could not be told any more. Empty when there is none.
+std::string wrongNamedArgument(const Vocabulary& vocabulary, CommandLine line);
+
 // The arguments behind the first, taken apart by the habits that the vocabulary accepts.
 std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);
 

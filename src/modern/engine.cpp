@@ -81,24 +81,35 @@ void writeTargets(StoredOutcome& outcome) {
     }
 }
 
+// Ends the outcome when something is wrong with the line.
+void refuseWrong(StoredOutcome& outcome,
+                 std::string (*wrong)(const Vocabulary&, CommandLine),
+                 CommandLine line) {
+    if (outcome.code == resultOk) {
+        const std::string error = wrong(outcome.vocabulary(), line);
+        outcome.end(error.empty() ? resultOk : resultRuleBroken, error);
+    }
+}
+
 void parseAdapted(StoredOutcome& outcome, CommandLine line) {
     Vocabulary& vocabulary = outcome.vocabulary();
-    if (line.argv != nullptr) {
-        const std::string wrong = wrongEmptyArgument(vocabulary, line);
-        if (!wrong.empty()) {
-            outcome.end(resultRuleBroken, wrong);
-            return;
-        }
+    refuseWrong(outcome, &wrongEmptyArgument, line);
+    if (outcome.code == resultOk) {
+        vocabulary.beginParse(outcome.result(), {});
+        conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
     }
-    vocabulary.beginParse(outcome.result(), {});
-    conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
 }
 
 // Parses the line without writing variables.
 std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLine line) {
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
-    if (vocabulary.habits() == 0 || line.argc < 2 || line.argv == nullptr) {
+    if (line.argv == nullptr && line.argc > 1) {
+        conclude(*outcome, vocabulary.plain().parseArgsVector(line.argc, nullptr, outcome->plain));
+        return outcome;
+    }
+    refuseWrong(*outcome, &wrongNamedArgument, line);
+    if (vocabulary.habits() == 0 || line.argc < 2) {
         parseAdapted(*outcome, line);
         return outcome;
     }
@@ -236,6 +247,7 @@ std::vector<Occurrence> findOccurrences(const Outcome* outcome,
         stored(outcome).addOccurrences(names[i] == nullptr ? "" : names[i], ordered);
     }
     std::vector<Occurrence> found;
+    found.reserve(ordered.size());
     for (auto& [position, occurrence] : ordered) {
         found.push_back(std::move(occurrence));
     }

@@ -38,6 +38,9 @@ inline std::string withReason(std::string_view message, std::string_view reason)
 inline std::string unexpectedArgument(std::string_view argument) {
     return filled("Unexpected argument: {}", {argument});
 }
+inline std::string givenByPlace(std::string_view name) {
+    return filled("Argument '{}' is given by its place, without its name", {name});
+}
 inline std::string emptyArgument(std::string_view name) {
     return filled("Argument '{}' is empty", {name});
 }
@@ -94,6 +97,7 @@ inline std::string variableTaken(std::string_view owner) {
 }
 constexpr const char* noVariable =
     "byDefault() shows a variable for one value, and into() names none";
+constexpr const char* namedOption = "named() is for positional items";
 inline std::string nameTwice(std::string_view name) {
     return filled("the name '{}' is given twice", {name});
 }

@@ -1,5 +1,6 @@
 #include "modern/pages.h"
 
+#include <algorithm>
 #include <string_view>
 
 #include "text/filled.h"
@@ -89,12 +90,21 @@ Answer answerFor(const ItemRecord& item,
             exitUsage};
 }
 
-// What stands behind "--help": attached, or as the next argument.
-std::string topicBehind(const std::string& argument, CommandLine line, int index) {
-    const std::string_view attached = cutArgument(argument).value;
+// What stands behind "--help": attached, or as the next argument, which may be an action as it is
+// typed. Without dashes.
+std::string topicBehind(const std::string& argument,
+                        const Vocabulary& vocabulary,
+                        CommandLine line,
+                        int index) {
+    std::string topic(cutArgument(argument).value);
     const char* const next = index + 1 < line.argc ? line.argv[index + 1] : nullptr;
-    const bool isNext = attached.empty() && next != nullptr && !hasDash(next);
-    return isNext ? next : std::string(attached);
+    if (topic.empty() && next != nullptr) {
+        const CutArgument cut = cutArgument(next);
+        const ItemRecord* const item = vocabulary.find(cut.name);
+        const bool isAction = item != nullptr && item->role == Role::action;
+        topic = isAction || !hasDash(next) ? next : "";
+    }
+    return topic.substr(std::min(topic.find_first_not_of('-'), topic.size()));
 }
 
 // Whether an argument could be "--help" or "--version": most command lines hold none.
@@ -136,7 +146,8 @@ std::optional<Answer> findAnswer(Vocabulary& vocabulary,
         const CutArgument cut = cutArgument(argument);
         const ItemRecord* const item = cut.isOption ? vocabulary.find(cut.name) : nullptr;
         if (item != nullptr && item->isAnswered) {
-            return answerFor(*item, vocabulary, tool, topicBehind(argument, line, walk.index()));
+            return answerFor(
+                *item, vocabulary, tool, topicBehind(argument, vocabulary, line, walk.index()));
         }
     }
     return std::nullopt;

@@ -201,18 +201,21 @@ TEST(Habits, AreTakenWhereNoNameSaysOtherwise) {
 
 TEST(Rules, AreAskedBehindTheParse) {
     const auto declare = [](Parser& parser) {
-        parser.declare({option<int>("must", "").required(),
-                        option("about", "").alone(),
-                        action("pack,p", ""),
-                        action("list", ""),
-                        modifier("deep", "pack,list", "").required(),
-                        option<int>("left", "").byDefault(1),
-                        option<int>("right", "")});
+        parser.declare(
+            {option<int>("must", "").required(),
+             option("about", "").alone(),
+             action("pack,p", ""),
+             action("list", ""),
+             modifier("deep", "pack,list", "").required(),
+             modifier<int>("width", "pack", "").between(1, 2).fromEnvironment("TOOL_WIDTH"),
+             option<int>("left", "").byDefault(1),
+             option<int>("right", "")});
         parser.exactlyOne({"quiet", "verbose"});
         parser.atMostOne({"size", "level"});
         parser.together({"left", "right"});
         parser.needs("pack", {"file", "ratio"});
     };
+    const Variable width("TOOL_WIDTH", "2");
     expectOutcomes(
         {
             {{"--list", "--deep", "-q"},                             "Option '--must' is required|"              },
@@ -256,27 +259,31 @@ struct Positionals {
 
 TEST(PositionalItems, ShareTheArgumentsInOrder) {
     const Row rows[] = {
-        {{"3", "le", "a", "b"},                               "3 left a b "                    },
-        {{"3"},                                               "3  "                            },
-        {{"--count=3", "right"},                              "3 right "                       },
-        {{"3", "--name=right", "left", "a"},                  "3 left a "                      },
-        {{"3", "left", "a", "--name=right", "--rest=b", "c"}, "3 right a b c "                 },
-        {{},                                                  "0  Argument 'count' is required"},
+        {{"3", "le", "a", "b"},            "3 left a b "                                                  },
+        {{"3"},                            "3  "                                                          },
+        {{"--count=3", "right"},           "0  Argument \'count\' is given by its place, without its name"},
+        {{"3", "--na=right", "left", "a"},
+         "0  Argument \'name\' is given by its place, without its name"                                   },
+        {{},                               "0  Argument 'count' is required"                              },
         {{"x"},
          "0  Value validation problem in argument 'x': Option 'count' can not parse 'x' value, "
-         "requires a type 'integer' here."                                                     },
+         "requires a type 'integer' here."                                                                },
         {{"0"},
          "0  Value '0' is not valid for option 'count' in argument '0': it must be between 1 "
-         "and 9"                                                                               },
+         "and 9"                                                                                          },
         {{"3", "up", "a"},
          "0  Value validation problem in argument 'up': Option 'name' does not allow value 'up'. "
-         "Possible values follows: 'left', 'right'"                                            },
+         "Possible values follows: 'left', 'right'"                                                       },
     };
     for (const Row& row : rows) {
         EXPECT_EQ(Positionals().parse(row.line), row.expected);
     }
     EXPECT_EQ(Positionals(usualFlags | flagPositionalTakesRest).parse({"3", "left", "-x", "--"}),
               "3 left -x -- ");
+    const OptionFile file("--name=right\n--rest=b\nc");
+    Positionals filed;
+    filed.parser.readOptionFiles("");
+    EXPECT_EQ(filed.parse({"3", "left", "a", "--option-file=typed_test.options"}), "3 left a b c ");
     Positionals negative;
     negative.parser.accept(unixHabits);
     EXPECT_EQ(
@@ -289,6 +296,41 @@ TEST(PositionalItems, ShareTheArgumentsInOrder) {
     const Line line{"a", "b"};
     EXPECT_STREQ(single.parse(line.argc(), line.argv()).text(), "Unexpected argument: b");
     EXPECT_EQ(only, "");
+}
+
+TEST(PositionalItems, OfAGroupKeepTheirOwnKinds) {
+    const auto parse = [](const Line& line) {
+        std::string from;
+        std::string to;
+        std::vector<int> numbers;
+        Parser parser;
+        parser.declare({positional("from", "").into(from),
+                        positional("to", "")
+                            .check([](const std::string& text) { return text != "x"; }, "no x")
+                            .into(to),
+                        positional<int>("number", "").into(numbers)});
+        const Result result = parser.parse(line.argc(), line.argv());
+        std::string all = result.text() + from + ' ' + to;
+        for (const int number : numbers) {
+            all += ' ' + std::to_string(number);
+        }
+        return all;
+    };
+    EXPECT_EQ(parse({"a", "b", "1", "2"}), "a b 1 2");
+    EXPECT_EQ(parse({"a"}), "a ");
+    EXPECT_EQ(parse({"a", "x", "1"}),
+              "Value 'x' is not valid for option 'to' in argument 'x': no x ");
+}
+
+TEST(PositionalItems, LeaveWhatStandsBehindTheTerminatorWhereTheyDoNotTakeIt) {
+    for (const int flags : {0, +flagPositionalTakesRest}) {
+        std::vector<std::string> files;
+        Parser parser({}, flags);
+        parser.declare({positional("file", "").into(files)});
+        const Line line{"--", ""};
+        EXPECT_EQ(parser.parse(line.argc(), line.argv()).code(),
+                  flags == 0 ? resultOk : resultRuleBroken);
+    }
 }
 
 TEST(FilesAndFolders, MustExistButForTheStandardInput) {

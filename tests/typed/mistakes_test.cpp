@@ -16,6 +16,8 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
     static int a = 0;
     static std::string text;
     const Mistake mistakes[] = {
+        {[](Parser& p) { p.declare({option<int>("a", "").named("A")}); },
+         "'a': named() is for positional items"                                                                                                             },
         {[](Parser& p) {
              p.declare({option("quiet", ""), option("still,quiet", "")});
          },                                                                       "'still,quiet': the name 'quiet' is taken by 'quiet'"            },

@@ -70,7 +70,8 @@ TEST_F(Run, AnswersWhateverElseIsWrong) {
     expectAnswer({"--help", "--jobs"}, whole);
     expectAnswer({"--help", "jobs"}, "-j, -jobs=<integer> (2)       How many at a time.\n");
     const char* const ofPack = "Usage: sonde --pack [option ...] [FILE ...]\nMake an archive.\n";
-    expectAnswer({"--help=pack"}, ofPack);
+    expectAnswer({"--help=--pack"}, ofPack);
+    expectAnswer({"--help", "-p"}, ofPack);
     expectAnswer({"--nonsense", "--help", "p"}, "-deep                         Into folders.\n");
     expectAnswer({"--version", "--help"}, "sonde 2.1\n");
     expectAnswer({"--versio"}, "sonde 2.1\n");
@@ -117,6 +118,7 @@ TEST(RunOf, AToolLeavesToItWhatItHasItself) {
                 StartsWith("Usage: tool [option ...] count rest ...\n\ncount "));
     const char* const none = nullptr;
     EXPECT_EQ(nameless.run(0, &none), exitUsage);
+    EXPECT_EQ(nameless.parse(2, nullptr).code(), resultException);
 }
 
 TEST(RunOf, AToolThatTakesTheRestLeavesItsArgumentsAlone) {

@@ -321,7 +321,8 @@ Declaration<T> modifier(const char* names, const char* actionNames, const char* 
 
 // Takes the arguments that are no options. Several are filled in the order in which they are
 // declared, one argument each; the last takes the rest, unless its variable has a place for one
-// value only. Names and description as for option.
+// value only. A single one may be given by its name, too, several by their places alone. Names and
+// description as for option.
 template <typename T = std::string>
 Declaration<T> positional(const char* names, const char* description) {
     static_assert(!std::is_same_v<T, Switch> && !std::is_same_v<T, bool>,

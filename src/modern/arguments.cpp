@@ -2,6 +2,7 @@
 
 #include "modern/messages.h"
 #include "parser/parse_driver.h"
+#include "recognizers/messages.h"
 #include "text/cut_argument.h"
 #include "text/filled.h"
 #include "zarn/typed/parser.h"
@@ -175,7 +176,7 @@ std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
         const std::string_view name = cutArgument(argument).name;
         const bool isCut = name.data() + name.size() != argument.data() + argument.size();
         if (item != nullptr && isCut) {
-            return messages::emptyValue(item->primaryName(), argument);
+            return messages::valueRequired(item->primaryName(), messages::inArgument(argument));
         }
     }
     const bool isTaken = !positionals.empty() && (vocabulary.has(flagPositionalBehindTerminator) ||

@@ -31,6 +31,7 @@ struct CutArgument {
 };
 
 CutArgument cutArgument(const std::string& argument);
+CutArgument cutArgument(std::string&&) = delete;  // the views would dangle
 
 // Whether the argument begins with any of the dashes.
 bool hasDash(const std::string& argument);

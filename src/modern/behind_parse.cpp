@@ -4,6 +4,7 @@
 #include <string_view>
 
 #include "modern/messages.h"
+#include "recognizers/messages.h"
 #include "text/filled.h"
 
 namespace zarn_3_3::internal {
@@ -60,7 +61,7 @@ int takeVariable(const ItemRecord& item,
     const std::string assignment = filled("{}={}", {item.environment, text});
     const std::string argument = argumentFor(item, text);
     if (argument.empty()) {
-        error = messages::invalidVariable(assignment, messages::noBoolean);
+        error = messages::invalidValue(assignment, messages::noBoolean);
         return resultRuleBroken;
     }
     Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};

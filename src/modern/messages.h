@@ -44,12 +44,6 @@ inline std::string givenByPlace(std::string_view name) {
 inline std::string emptyArgument(std::string_view name) {
     return filled("Argument '{}' is empty", {name});
 }
-inline std::string emptyValue(std::string_view option, std::string_view argument) {
-    return filled("Option '{}' requires a value in argument: '{}'", {option, argument});
-}
-inline std::string invalidVariable(std::string_view assignment, std::string_view reason) {
-    return filled("Value validation problem in argument '{}': {}", {assignment, reason});
-}
 
 // Rules.
 

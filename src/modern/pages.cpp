@@ -99,10 +99,10 @@ std::string topicBehind(const std::string& argument,
     std::string topic(cutArgument(argument).value);
     const char* const next = index + 1 < line.argc ? line.argv[index + 1] : nullptr;
     if (topic.empty() && next != nullptr) {
-        const CutArgument cut = cutArgument(next);
-        const ItemRecord* const item = vocabulary.find(cut.name);
+        const std::string typed = next;
+        const ItemRecord* const item = vocabulary.find(cutArgument(typed).name);
         const bool isAction = item != nullptr && item->role == Role::action;
-        topic = isAction || !hasDash(next) ? next : "";
+        topic = isAction || !hasDash(typed) ? typed : "";
     }
     return topic.substr(std::min(topic.find_first_not_of('-'), topic.size()));
 }

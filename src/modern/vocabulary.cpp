@@ -61,6 +61,9 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription& descriptio
         items_.pop_back();
         throw;
     }
+    if (item.target != nullptr) {
+        targets_.insert(item.target->address());
+    }
     asksValues_ = asksValues_ || item.checks != nullptr;
     return item;
 }
@@ -120,12 +123,13 @@ void Vocabulary::requireFreeNames(const ItemRecord& item) const {
 }
 
 void Vocabulary::requireOwnTarget(const ItemRecord& item) const {
-    for (const auto& other : items_) {
-        if (item.target != nullptr && other.get() != &item && other->target != nullptr &&
-            other->target->address() == item.target->address()) {
-            mistake(item.allNames.c_str(), messages::variableTaken(other->allNames));
-        }
+    if (item.target == nullptr || targets_.count(item.target->address()) == 0) {
+        return;
     }
+    const auto owner = std::find_if(items_.begin(), items_.end(), [&](const auto& other) {
+        return other->target != nullptr && other->target->address() == item.target->address();
+    });
+    mistake(item.allNames.c_str(), messages::variableTaken((*owner)->allNames));
 }
 
 void Vocabulary::settle() {

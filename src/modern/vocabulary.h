@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <memory>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -123,6 +124,7 @@ private:
     std::vector<std::unique_ptr<ItemRecord>> items_;
     std::vector<const ItemRecord*> byIndex_;  // by the index of the item in the plain parser
     std::vector<const ItemRecord*> positionals_;
+    std::set<const void*> targets_;  // the addresses of all variables
     std::vector<Rule> rules_;
     std::size_t settledItems_ = 0;
     std::size_t settledRules_ = 0;

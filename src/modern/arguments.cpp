@@ -132,6 +132,20 @@ bool mayBeEmpty(CommandLine line) {
     return false;
 }
 
+// Whether one of the words is quoted there; the first one counts.
+bool quoteTypedAt(std::string& message, std::size_t at, const std::vector<Word>& words) {
+    for (const Word& word : words) {
+        const std::size_t length = word.text.size();
+        if (message.compare(at, length, word.text) == 0 && message[at + length] == '\'') {
+            if (!word.typed.empty()) {
+                message.replace(at, length, word.typed);
+            }
+            return true;
+        }
+    }
+    return false;
+}
+
 }  // namespace
 
 bool hasDash(const std::string& argument) { return getDashLength(argument, 0) != 0; }
@@ -219,16 +233,12 @@ std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line)
 }
 
 void quoteTyped(std::string& message, const std::vector<Word>& words) {
-    for (const Word& word : words) {
-        for (const std::string_view before : {"argument '", "argument: '"}) {
-            const std::size_t at = message.find(filled("{}{}'", {before, word.text}));
-            if (at == std::string::npos) {
-                continue;
+    for (const std::string_view before : {"argument '", "argument: '"}) {
+        // The value, which may hold anything, stands in front of the argument or behind it.
+        for (const std::size_t at : {message.find(before), message.rfind(before)}) {
+            if (at != std::string::npos && quoteTypedAt(message, at + before.size(), words)) {
+                return;
             }
-            if (!word.typed.empty()) {
-                message.replace(at + before.size(), word.text.size(), word.typed);
-            }
-            return;
         }
     }
 }

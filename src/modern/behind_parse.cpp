@@ -65,12 +65,9 @@ int takeVariable(const ItemRecord& item,
         return resultRuleBroken;
     }
     Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};
-    const int code = outcome.vocabulary().parseAside(item, argument, *aside.result, error);
+    const int code =
+        outcome.vocabulary().parseAside(item, argument, assignment, *aside.result, error);
     outcome.asides().push_back(std::move(aside));
-    const std::size_t quoted = error.find(argument);
-    if (quoted != std::string::npos) {
-        error.replace(quoted, argument.size(), assignment);
-    }
     return code;
 }
 

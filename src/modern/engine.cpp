@@ -85,7 +85,7 @@ void writeTargets(StoredOutcome& outcome) {
 void refuseWrong(StoredOutcome& outcome,
                  std::string (*wrong)(const Vocabulary&, CommandLine),
                  CommandLine line) {
-    if (outcome.code == resultOk) {
+    if (outcome.code == resultOk && line.argv != nullptr) {
         const std::string error = wrong(outcome.vocabulary(), line);
         outcome.end(error.empty() ? resultOk : resultRuleBroken, error);
     }
@@ -104,12 +104,8 @@ void parseAdapted(StoredOutcome& outcome, CommandLine line) {
 std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLine line) {
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
-    if (line.argv == nullptr && line.argc > 1) {
-        conclude(*outcome, vocabulary.plain().parseArgsVector(line.argc, nullptr, outcome->plain));
-        return outcome;
-    }
     refuseWrong(*outcome, &wrongNamedArgument, line);
-    if (vocabulary.habits() == 0 || line.argc < 2) {
+    if (vocabulary.habits() == 0 || line.argc < 2 || line.argv == nullptr) {
         parseAdapted(*outcome, line);
         return outcome;
     }

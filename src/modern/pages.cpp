@@ -90,8 +90,8 @@ Answer answerFor(const ItemRecord& item,
             exitUsage};
 }
 
-// What stands behind "--help": attached, or as the next argument, which may be an action as it is
-// typed. Without dashes.
+// What stands behind "--help", without dashes: attached, or as the next argument when that is a
+// name, or an action as it is typed. Anything else there is what help is given in spite of.
 std::string topicBehind(const std::string& argument,
                         const Vocabulary& vocabulary,
                         CommandLine line,
@@ -102,7 +102,7 @@ std::string topicBehind(const std::string& argument,
         const std::string typed = next;
         const ItemRecord* const item = vocabulary.find(cutArgument(typed).name);
         const bool isAction = item != nullptr && item->role == Role::action;
-        topic = isAction || !hasDash(typed) ? typed : "";
+        topic = isAction || vocabulary.isName(typed) ? typed : "";
     }
     return topic.substr(std::min(topic.find_first_not_of('-'), topic.size()));
 }

@@ -9,6 +9,7 @@
 #include "recognizers/messages.h"
 #include "text/filled.h"
 #include "zarn/option.h"
+#include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -28,7 +29,7 @@ private:
 };
 
 // Whether a text that is no number of its type looks like one, and so is beyond its bounds.
-bool isNumber(std::string_view text) {
+bool looksLikeNumber(std::string_view text) {
     text.remove_prefix(text.find_first_not_of("+-") == 1 ? 1 : 0);
     return !text.empty() && text[0] >= '0' && text[0] <= '9' &&
            text.find_first_not_of("0123456789.e+-") == std::string_view::npos;
@@ -86,20 +87,20 @@ void Vocabulary::declarePlainly(const char* section,
         requireFreeNames(item);
         throw std::bad_alloc();
     }
-    byIndex_[index] = &item;
     item.configure(made);
     if (item.role == Role::positional) {
         addPositional(item);
     }
+    byIndex_[index] = &item;  // last: nothing fails behind it
 }
 
 // The first item takes the arguments of all of them, so of several it has to take any text; what
 // each wants is seen to when an argument has found its item.
 void Vocabulary::addPositional(const ItemRecord& item) {
-    positionals_.push_back(&item);
-    if (positionals_.size() == 2) {
+    if (positionals_.size() == 1) {
         plain_->vocabulary().takeAnyText(indexOf(positionals_[0]->primaryName()));
     }
+    positionals_.push_back(&item);
 }
 
 void Vocabulary::requireFreeNames(const ItemRecord& item) const {
@@ -217,7 +218,7 @@ bool Vocabulary::isBeginning(std::string_view text) const {
 }
 
 bool Vocabulary::accepts(const ItemRecord& item, const Value& value) {
-    constexpr unsigned loneDash = 0x8;
+    reason_.clear();
     if ((habits_ & loneDash) != 0 && item.type == vtString && std::string_view(value.text) == "-") {
         return true;  // the standard input
     }
@@ -234,6 +235,7 @@ bool Vocabulary::accepts(const ItemRecord& item, const Value& value) {
 
 int Vocabulary::parseAside(const ItemRecord& item,
                            const std::string& argument,
+                           const std::string& typed,
                            ParseResult& result,
                            std::string& error) {
     BasicParser parser(flags_ | flagUnknownIsError);
@@ -245,6 +247,10 @@ int Vocabulary::parseAside(const ItemRecord& item,
     const char* const arguments[] = {"", argument.c_str()};
     const int code = parser.parseArgsVector(2, arguments, &result);
     error = code == resultOk ? "" : explained(parser.getErrorDesc());
+    const std::size_t quoted = error.find(argument);
+    if (quoted != std::string::npos) {
+        error.replace(quoted, argument.size(), typed);
+    }
     return code;
 }
 
@@ -275,7 +281,7 @@ std::string Vocabulary::explained(std::string message) const {
     const std::size_t first = name + beforeName.size();
     const ItemRecord* const item = find(std::string_view(message).substr(first, end - first));
     const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
-    if (item != nullptr && isBounded(*item) && isNumber(value.substr(0, value.find('\'')))) {
+    if (item != nullptr && isBounded(*item) && looksLikeNumber(value.substr(0, value.find('\'')))) {
         message.pop_back();  // its full stop
         return messages::withReason(message, boundsText(item->least, item->greatest));
     }
@@ -309,15 +315,9 @@ bool Vocabulary::takePositional(const Value& value) {
     }
     const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
     std::string error;
-    if (parseAside(item, argument, positionalAside(item), error) == resultOk) {
-        return true;
-    }
-    const std::size_t quoted = error.find(argument);
-    if (quoted != std::string::npos) {
-        error.replace(quoted, argument.size(), value.text);
-    }
+    const int code = parseAside(item, argument, value.text, positionalAside(item), error);
     instead_ = error;
-    return false;
+    return code == resultOk;
 }
 
 // The plain message would name the item under which the arguments are stored.

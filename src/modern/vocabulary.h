@@ -86,9 +86,11 @@ public:
     bool accepts(const ItemRecord& item, const Value& value);
 
     // Parses the argument, "--name=text", with a parser that knows this item alone, so that the
-    // text is taken as a typed one is. A code of a failure leaves its text in `error`.
+    // text is taken as a typed one is. A code of a failure leaves its text in `error`, which quotes
+    // `typed` in place of the argument.
     int parseAside(const ItemRecord& item,
                    const std::string& argument,
+                   const std::string& typed,
                    ParseResult& result,
                    std::string& error);
 
@@ -102,7 +104,6 @@ public:
     bool onValueParse(const char* name, const Value& value) override;
 
 private:
-    void listen();
     void declarePlainly(const char* section, const ItemDescription& given, const ItemRecord& item);
     void addPositional(const ItemRecord& item);
     void requireFreeNames(const ItemRecord& item) const;

@@ -42,7 +42,13 @@ void ParseResult::destroy() { delete this; }
 
 ParseResult::FromFile::FromFile(ParseResult& result)
     : result_(result), index_(result.fileNumbers_.size()) {
-    result.fileNumbers_.emplace_back(Sequence::next.load(std::memory_order_relaxed), lastPosition);
+    const int first = Sequence::next.load(std::memory_order_relaxed);
+    if (!result.fileNumbers_.empty() && result.fileNumbers_.back().second == first) {
+        --index_;  // files that are read one behind the other are one range
+        result.fileNumbers_.back().second = lastPosition;
+    } else {
+        result.fileNumbers_.emplace_back(first, lastPosition);
+    }
 }
 
 // By index: a handler may read further files into the same result meanwhile.

@@ -108,7 +108,7 @@ private:
     std::vector<const char*> arguments;  // kept aside behind the terminator
     std::size_t argumentCursor = none;
 
-    // Of each option file the numbers drawn for its lines: from the first to before the second.
+    // The numbers drawn for lines of option files: from the first to before the second.
     std::vector<std::pair<int, int>> fileNumbers_;
 
     // What a clash of synonyms replaced: its texts may have been handed out.

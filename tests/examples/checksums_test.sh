@@ -191,7 +191,7 @@ says stdout '=crc32 | adler32 (crc32)'
 check 0 --bogus --help=jobs
 says stdout '-jobs='
 row 0 stdout 'checksums 1.0' --version
-check 2 --help nowhere
+check 2 --help=nowhere
 says stderr 'Help for nowhere not available.'
 is_silent stdout
 

@@ -62,8 +62,8 @@ public:
 
     std::string help() override { return parser_->getGlobalModifiersDescription(false); }
 
-    zarn::IParser& parser() { return parser_; }
-    zarn::IParseResult& result() { return result_; }
+    zarn::IParser& parser() { return *parser_; }
+    zarn::IParseResult& result() { return *result_; }
 
 private:
     void declare(const DeclaredOption& item) {

@@ -23,6 +23,7 @@ set_source_files_properties(
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
     src/platform/load_file.cpp
+    src/vocabulary/questions.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )
 

@@ -128,10 +128,21 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
 
 void RegisteredOptionStorage::takeAnyText(std::size_t number) {
     OptionDescription& item = options[number];
+    declaredAs_.emplace(number, item);
     item.type = vtString;
     item.allowedValues.clear();
     item.deprecatedValues.clear();
     item.tokenizer = 0;
+}
+
+const OptionDescription& RegisteredOptionStorage::asDeclared(std::size_t number) const {
+    const auto kept = declaredAs_.find(number);
+    return kept != declaredAs_.end() ? kept->second : options[number];
+}
+
+std::string_view RegisteredOptionStorage::valueName(std::size_t number) const {
+    const auto named = valueNames_.find(number);
+    return named != valueNames_.end() ? std::string_view(named->second) : std::string_view();
 }
 
 result_t validateName(const std::vector<std::string>& names) {

@@ -4,6 +4,7 @@
 #define ZARN_OPTIONS_REGISTERED_OPTION_STORAGE_H
 
 #include <cstddef>
+#include <map>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -38,8 +39,16 @@ public:
                               das_variant_type_t type,
                               const char* section);
 
-    // Makes an item take texts of any kind, whole.
+    // Makes an item take texts of any kind, whole. What it was declared as is kept for help and
+    // description.
     void takeAnyText(std::size_t number);
+
+    // The item as its author declared it.
+    const OptionDescription& asDeclared(std::size_t number) const;
+
+    // What help and description call the value of an item; empty for the word of its type.
+    void nameValue(std::size_t number, std::string_view name) { valueNames_[number] = name; }
+    std::string_view valueName(std::size_t number) const;
 
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
@@ -79,6 +88,8 @@ private:
     internal::TextArena descriptions_;
     SectionList sections;
     std::size_t actionCount_ = 0;
+    std::map<std::size_t, std::string> valueNames_;
+    std::map<std::size_t, OptionDescription> declaredAs_;  // of those that take any text
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
     mutable internal::ItemIndexes indexes_;
 };

@@ -5,6 +5,7 @@
 
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "options/registered_option_storage.h"
@@ -72,6 +73,11 @@ public:
     // For the modern face, which looks names up in it.
     RegisteredOptionStorage& vocabulary() { return registry; }
     const RegisteredOptionStorage& vocabulary() const { return registry; }
+
+    // For those who ask about the tool.
+    int creationFlags() const { return flags; }
+    const internal::ActionGroups& actionGroups() const { return allowedActionSets; }
+    const char* keep(std::string_view text) { return garbage.keep(text); }
 
 protected:
     // Slots of the binary interface behind those of IParser. They let exceptions through.

@@ -1,0 +1,74 @@
+// A tool that can be asked: what it takes, for machines, and what may follow on a command line.
+//
+// The library prints nothing, reads no environment and ends no process. The tool (or Parser::run)
+// asks in front of its parse whether the command line is a question, and prints the answer:
+//
+//     const zarn::ToolInfo tool{sizeof tool, "sonde", "2.1", "look into archives"};
+//     const char* answer = "";
+//     if (zarn::answerQuestion(parser, &tool, argc, argv, &answer) == zarn::questionAnswered) {
+//         std::fputs(answer, stdout);
+//         return 0;
+//     }
+
+#ifndef ZARN_TOOLING_H
+#define ZARN_TOOLING_H
+
+#include <cstdint>
+
+#include "zarn/export.h"
+
+namespace zarn_3_3 {
+
+class IParser;
+
+// Who answers. Null texts are absent.
+struct ToolInfo {
+    std::uint32_t size;   // sizeof(ToolInfo) of the caller; fields beyond it are absent
+    const char* name;     // as users type it
+    const char* version;  // such as "2.1"
+    const char* summary;  // one line
+};
+
+// What the functions here return. Nothing is ever thrown.
+enum ToolingCode : int {
+    toolingDone = 0,
+    ordinaryLine = 0,      // answerQuestion: an ordinary command line
+    questionAnswered = 1,  // answerQuestion: print the answer, which may be empty, and end with 0
+    toolingFailed = 3,     // a null pointer, a parser of another library, or no memory
+};
+
+// Answers a question that is put on the command line:
+//
+//     tool --zarn-answer QUESTION [-- WORD...]
+//
+// with nothing in front of it. A question that this library does not know, of a newer protocol
+// perhaps, has an empty answer.
+//
+// parser  with everything declared; nothing in it changes that can be seen: no handler runs, no
+// file
+//         is read, no number of the sequence is drawn, getErrorDesc answers as before
+// tool    who answers
+// argc    as given to main
+// argv    as given to main; may be null when `argc` is 0
+// answer  receives the answer when questionAnswered is returned, else an empty text; the parser
+//         keeps it until its destroy
+//
+// Returns ordinaryLine, questionAnswered or toolingFailed.
+ZARN_EXPORT int answerQuestion(
+    IParser* parser, const ToolInfo* tool, int argc, const char* const* argv, const char** answer);
+
+// Names the value of an item for the help and the description, as "FILE"; an empty or null text,
+// and an item without a value name, stand for the word of its type.
+//
+// parser     whose item it is
+// item       one of its names
+// valueName  copied
+//
+// Returns toolingDone; toolingFailed also when no item has the name.
+ZARN_EXPORT int nameValue(IParser* parser, const char* item, const char* valueName);
+
+}  // namespace zarn_3_3
+
+namespace zarn = zarn_3_3;
+
+#endif  // ZARN_TOOLING_H

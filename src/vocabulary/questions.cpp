@@ -1,0 +1,79 @@
+// The door for who asks a tool on its command line.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "parser/ask_parser.h"
+#include "vocabulary/tool_texts.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+// On the command line and not in the environment: a tool that does not answer refuses the unknown
+// option, instead of working on a line that its user has not finished.
+constexpr std::string_view questionOption = "--zarn-answer";
+
+struct Question {
+    std::string_view text;
+    std::vector<std::string_view> words;
+};
+
+// Whether the line is "TOOL --zarn-answer QUESTION [-- WORD...]".
+bool isQuestion(int argc, const char* const* argv, Question& question) {
+    constexpr int firstWord = 4;
+    if (argc < 3 || argv[1] == nullptr || argv[1] != questionOption || argv[2] == nullptr) {
+        return false;
+    }
+    question.text = argv[2];
+    if (argc < firstWord || argv[3] == nullptr) {
+        return true;
+    }
+    for (int i = firstWord; i < argc && argv[i] != nullptr; ++i) {
+        question.words.emplace_back(argv[i]);
+    }
+    return std::string_view(argv[3]) == "--";
+}
+
+// An empty text for what this library does not know.
+std::string answerTo(const Question& /*question*/,
+                     const BasicParser& /*parser*/,
+                     const ToolTexts& /*tool*/) {
+    return "";
+}
+
+}  // namespace
+
+int answerQuestion(
+    IParser* parser, const ToolInfo* tool, int argc, const char* const* argv, const char** answer) {
+    if (tool == nullptr || (argv == nullptr && argc > 0)) {
+        parser = nullptr;
+    }
+    return askParser(parser, answer, [&](BasicParser& asked) -> int {
+        Question question;
+        if (!isQuestion(argc, argv, question)) {
+            return ordinaryLine;
+        }
+        *answer = asked.keep(answerTo(question, asked, ToolTexts(*tool)));
+        return questionAnswered;
+    });
+}
+
+int nameValue(IParser* parser, const char* item, const char* valueName) {
+    if (item == nullptr) {
+        parser = nullptr;
+    }
+    return askParser(parser, [&](BasicParser& asked) -> int {
+        std::size_t index = 0;
+        if (findOption(item, index, asked.vocabulary()) != resultSuccess) {
+            return toolingFailed;
+        }
+        asked.vocabulary().nameValue(index, valueName == nullptr ? "" : valueName);
+        return toolingDone;
+    });
+}
+
+}  // namespace zarn_3_3

@@ -16,6 +16,7 @@ set_source_files_properties(
     src/modern/outcome.cpp
     src/modern/pages.cpp
     src/modern/quantities.cpp
+    src/modern/question.cpp
     src/modern/vocabulary.cpp
     src/options/action_modifiers.cpp
     src/parser/action_groups.cpp
@@ -23,6 +24,9 @@ set_source_files_properties(
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
     src/platform/load_file.cpp
+    src/text/utf8.cpp
+    src/vocabulary/description.cpp
+    src/vocabulary/json_writer.cpp
     src/vocabulary/questions.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )

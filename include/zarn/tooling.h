@@ -67,6 +67,17 @@ ZARN_EXPORT int answerQuestion(
 // Returns toolingDone; toolingFailed also when no item has the name.
 ZARN_EXPORT int nameValue(IParser* parser, const char* item, const char* valueName);
 
+// Describes what a tool takes as JSON of the format 1, the answer to the question "describe": who
+// it is, and what was declared, in order, with what was refused. UTF-8, in any locale; equal
+// declarations give equal bytes. The page "The description" of the documents has the keys.
+//
+// parser  as for answerQuestion
+// tool    who is described
+// json    receives the text, or an empty one; the parser keeps it until its destroy
+//
+// Returns toolingDone or toolingFailed.
+ZARN_EXPORT int describeVocabulary(IParser* parser, const ToolInfo* tool, const char** json);
+
 }  // namespace zarn_3_3
 
 namespace zarn = zarn_3_3;

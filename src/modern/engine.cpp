@@ -13,6 +13,7 @@
 #include "modern/messages.h"
 #include "modern/outcome.h"
 #include "modern/pages.h"
+#include "modern/question.h"
 #include "modern/vocabulary.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
@@ -212,7 +213,10 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
     vocabulary->callAs(tool);
-    std::optional<Answer> found = findAnswer(*vocabulary, tool, line);
+    std::optional<Answer> found = answerToQuestion(*vocabulary, tool, line);
+    if (!found) {
+        found = findAnswer(*vocabulary, tool, line);
+    }
     auto outcome =
         found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
     if (!found) {

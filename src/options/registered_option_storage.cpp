@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <exception>
+#include <utility>
 
 #include "log/zarn_log.h"
 #include "options/messages.h"
@@ -12,6 +13,10 @@ namespace zarn_3_3 {
 using namespace internal;
 
 namespace {
+
+// A primary name, a synonym, and a short form of one or two letters.
+constexpr std::size_t mostNames = 3;
+constexpr std::size_t longestThirdName = 2;
 
 std::string_view orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
@@ -50,7 +55,7 @@ IOption& RegisteredOptionStorage::option(const char* names,
         // Clients chain settings onto whatever they get, without a look: they get something that
         // takes them.
     } catch (const std::exception&) {
-        return refused();
+        return refused(RefusalReason::noMemory, orEmpty(names));
     }
 }
 
@@ -68,12 +73,14 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     std::vector<std::string> nameList;
     split(given.names, nameList);
     if (validateName(nameList) != resultSuccess) {
-        return refused();
+        return nameList.size() > mostNames
+                   ? refused(RefusalReason::tooManyNames, given.names)
+                   : refused(RefusalReason::longThirdName, given.names, nameList.back());
     }
-    if (isTaken(nameList)) {
-        // In the log alone: whoever declares has no code to look at, only a handle.
+    if (const std::string* const taken = findTaken(nameList)) {
+        // Whoever declares has no code to look at, only a handle.
         trace(messages::nameIsTaken, given.names);
-        return refused();
+        return refused(RefusalReason::nameTaken, given.names, *taken);
     }
     // The handle of the item before ends here: whether that became positional is known now, and
     // nobody looks at it again.
@@ -102,17 +109,47 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
 }
 
 // As a name or as the "no-" form of a boolean.
-bool RegisteredOptionStorage::isTaken(const std::vector<std::string>& nameList) const {
-    return std::any_of(nameList.begin(), nameList.end(), [this](const std::string& name) {
-        return names().first(name) != NameIndex::none;
-    });
+const std::string* RegisteredOptionStorage::findTaken(
+    const std::vector<std::string>& nameList) const {
+    const auto taken =
+        std::find_if(nameList.begin(), nameList.end(), [this](const std::string& name) {
+            return names().first(name) != NameIndex::none;
+        });
+    return taken != nameList.end() ? &*taken : nullptr;
 }
 
-// What clients chain onto a refused declaration must not pile up.
-IOption& RegisteredOptionStorage::refused() noexcept {
+// What clients chain onto a refused declaration must not pile up. Its reason is lost when there is
+// no memory for it.
+IOption& RegisteredOptionStorage::refused(RefusalReason reason,
+                                          std::string_view names,
+                                          std::string_view name) noexcept {
+    try {
+        note({reason, std::string(names), std::string(name)});
+    } catch (const std::exception&) {
+    }
     sink = OptionDescription();
     sink.result = resultFailure;
     return sink;
+}
+
+// Nor must those that a client makes again and again.
+void RegisteredOptionStorage::note(Refusal&& refusal) {
+    constexpr std::size_t mostRefusals = 100;
+    if (refusals_ == nullptr) {
+        refusals_ = std::make_unique<std::vector<Refusal>>();
+    }
+    const bool isNoted =
+        std::any_of(refusals_->begin(), refusals_->end(), [&](const Refusal& noted) {
+            return noted.names == refusal.names && noted.reason == refusal.reason;
+        });
+    if (!isNoted && refusals_->size() < mostRefusals) {
+        refusals_->push_back(std::move(refusal));
+    }
+}
+
+const std::vector<Refusal>& RegisteredOptionStorage::refusals() const {
+    static const std::vector<Refusal> none;
+    return refusals_ == nullptr ? none : *refusals_;
 }
 
 bool RegisteredOptionStorage::isDeclared(std::string_view name,
@@ -146,9 +183,6 @@ std::string_view RegisteredOptionStorage::valueName(std::size_t number) const {
 }
 
 result_t validateName(const std::vector<std::string>& names) {
-    // A primary name, a synonym, and a short form of one or two letters.
-    constexpr std::size_t mostNames = 3;
-    constexpr std::size_t longestThirdName = 2;
     const bool isRefused = names.size() > mostNames ||
                            (names.size() == mostNames && names[2].size() > longestThirdName);
     return isRefused ? resultFailure : resultSuccess;

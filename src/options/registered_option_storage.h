@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <map>
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -16,6 +17,15 @@
 #include "text/text_arena.h"
 
 namespace zarn_3_3 {
+
+enum class RefusalReason { nameTaken, tooManyNames, longThirdName, noMemory };
+
+// A declaration that was refused.
+struct Refusal {
+    RefusalReason reason;
+    std::string names;  // as they were given
+    std::string name;   // the one to blame; empty when that is none
+};
 
 // Only grows, and only the item declared last changes: the reference that a declaration hands out
 // is valid until the next one.
@@ -55,6 +65,9 @@ public:
 
     const OptionList& items() const { return options; }
 
+    // The first of those that were refused, in order, each once.
+    const std::vector<Refusal>& refusals() const;
+
     const SectionList& sectionList() const { return sections; }
     const std::string& sectionKey(const OptionDescription& item) const {
         return sections[item.section].key;
@@ -80,8 +93,11 @@ private:
     struct Declaration;
 
     IOption& declare(const Declaration& given);
-    bool isTaken(const std::vector<std::string>& nameList) const;
-    IOption& refused() noexcept;
+    const std::string* findTaken(const std::vector<std::string>& nameList) const;
+    IOption& refused(RefusalReason reason,
+                     std::string_view names,
+                     std::string_view name = {}) noexcept;
+    void note(Refusal&& refusal);
 
     char separator = ',';
     OptionList options;
@@ -90,6 +106,7 @@ private:
     std::size_t actionCount_ = 0;
     std::map<std::size_t, std::string> valueNames_;
     std::map<std::size_t, OptionDescription> declaredAs_;  // of those that take any text
+    std::unique_ptr<std::vector<Refusal>> refusals_;       // most tools have none
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown
     mutable internal::ItemIndexes indexes_;
 };

@@ -16,6 +16,16 @@ void ActionGroups::add(const std::set<std::string>& actions) {
     ++groupCount_;
 }
 
+std::vector<std::set<std::string>> ActionGroups::all() const {
+    std::vector<std::set<std::string>> groups(groupCount_);
+    for (const auto& [action, numbers] : groupsByAction_) {
+        for (const std::size_t number : numbers) {
+            groups[number].insert(action);
+        }
+    }
+    return groups;
+}
+
 const std::vector<std::size_t>& ActionGroups::holding(const std::string& action) const {
     // By far the most actions are in no group.
     static const std::vector<std::size_t> noGroups;

@@ -16,6 +16,9 @@ public:
     // Adds a group. Throws std::bad_alloc; no group is then added.
     void add(const std::set<std::string>& actions);
 
+    // In the order in which they were added.
+    std::vector<std::set<std::string>> all() const;
+
     // The numbers of the groups that hold the action, ascending.
     const std::vector<std::size_t>& holding(const std::string& action) const;
 

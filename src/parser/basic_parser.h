@@ -77,6 +77,7 @@ public:
     // For those who ask about the tool.
     int creationFlags() const { return flags; }
     const internal::ActionGroups& actionGroups() const { return allowedActionSets; }
+    bool readsOptionFiles() const { return optionFileDeclared; }
     const char* keep(std::string_view text) { return garbage.keep(text); }
 
 protected:

@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "parser/ask_parser.h"
-#include "vocabulary/tool_texts.h"
+#include "vocabulary/description.h"
 
 namespace zarn_3_3 {
 
@@ -39,10 +39,8 @@ bool isQuestion(int argc, const char* const* argv, Question& question) {
 }
 
 // An empty text for what this library does not know.
-std::string answerTo(const Question& /*question*/,
-                     const BasicParser& /*parser*/,
-                     const ToolTexts& /*tool*/) {
-    return "";
+std::string answerTo(const Question& question, const BasicParser& parser, const ToolTexts& tool) {
+    return question.text == "describe" ? descriptionOf(parser, tool) : "";
 }
 
 }  // namespace

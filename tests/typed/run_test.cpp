@@ -122,6 +122,23 @@ TEST(RunOf, AToolLeavesToItWhatItHasItself) {
     EXPECT_STREQ(nameless.parse(2, nullptr).text(), "The argument vector is null");
 }
 
+TEST(RunOf, AToolAnswersQuestionsFirst) {
+    Parser parser;
+    parser.declare({option("help", "Own.").alone(),
+                    positional<int>("count", "How many.").required(),
+                    positional("rest", "").required()});
+    const Ran described = run(parser, {"--zarn-answer", "describe"});
+    EXPECT_EQ(described.code, exitAnswered);
+    EXPECT_THAT(described.output, StartsWith("{\n  \"format\": 1,\n  \"name\": \"tool\",\n"));
+    EXPECT_THAT(described.output, HasSubstr("\"type\": \"int32\""));
+    const Ran newer = run(parser, {"--zarn-answer", "complete:2:fish:1:", "--", "--h"});
+    EXPECT_EQ(newer.code, exitAnswered);
+    EXPECT_EQ(newer.output + newer.error, "");
+    parser.declare({modifier("deep", "pack", "Of an action that is not there.")});
+    const Line line{"--zarn-answer", "describe"};
+    EXPECT_THROW((void)parser.run(line.argc(), line.argv()), std::logic_error);
+}
+
 TEST(RunOf, AToolThatTakesTheRestLeavesItsArgumentsAlone) {
     std::vector<std::string> command;
     Parser parser({"runner", nullptr, nullptr}, usualFlags | flagPositionalTakesRest);

@@ -1,0 +1,30 @@
+#include "modern/question.h"
+
+#include <new>
+
+#include "zarn/tooling.h"
+#include "zarn/typed/parser.h"
+
+namespace zarn_3_3::internal {
+
+std::optional<Answer> answerToQuestion(Vocabulary& vocabulary,
+                                       const std::string& tool,
+                                       CommandLine line) {
+    if (line.argv == nullptr) {
+        return std::nullopt;
+    }
+    const Tool& given = vocabulary.tool();
+    const ToolInfo info{sizeof info, tool.c_str(), given.version, given.summary};
+    const char* answer = nullptr;
+    const int code = answerQuestion(&vocabulary.plain(), &info, line.argc, line.argv, &answer);
+    if (code == toolingFailed) {
+        throw std::bad_alloc();
+    }
+    if (code == ordinaryLine) {
+        return std::nullopt;
+    }
+    vocabulary.settle();
+    return Answer{answer, "", exitAnswered};
+}
+
+}  // namespace zarn_3_3::internal

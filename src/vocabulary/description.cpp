@@ -1,0 +1,208 @@
+#include "vocabulary/description.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <vector>
+
+#include "help/help_renderer.h"
+#include "parser/ask_parser.h"
+#include "parser/option_file_walk.h"
+#include "text/split.h"
+#include "vocabulary/json_writer.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+// Readers skip keys that they do not know, so that this rises only when one changes its meaning.
+constexpr int format = 1;
+
+const char* wordOf(das_variant_type_t type) {
+    switch (type) {
+        case vtNull:
+            return "switch";
+        case vtBool:
+            return "boolean";
+        case vtS32:
+            return "int32";
+        case vtU32:
+            return "uint32";
+        case vtS64:
+            return "int64";
+        case vtU64:
+            return "uint64";
+        case vtDouble:
+            return "double";
+        case vtString:
+            return "text";
+        default:
+            return "";
+    }
+}
+
+const char* wordOf(RefusalReason reason) {
+    switch (reason) {
+        case RefusalReason::nameTaken:
+            return "nameTaken";
+        case RefusalReason::tooManyNames:
+            return "tooManyNames";
+        case RefusalReason::longThirdName:
+            return "longThirdName";
+        default:
+            return "noMemory";
+    }
+}
+
+// The shortest one that is read back as the same number.
+std::string exactText(double number) {
+    std::array<char, 32> text{};
+    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
+}
+
+// As a user types it, in any locale: what is typed is what descriptions are compared by. What is no
+// number and no narrow text cannot be typed.
+std::string typedText(const variant_t& value) {
+    const auto type = value.type();
+    if (type == vtDouble) {
+        return exactText(value.get<double>());
+    }
+    if (type > vtDouble) {
+        return get_variant_value(value, "");
+    }
+    const bool isUnsigned = type % 2 != 0;  // see das_variant_type_t
+    return isUnsigned ? std::to_string(value.get<unsigned long long>())
+                      : std::to_string(value.get<long long>());
+}
+
+template <typename Texts>
+void writeList(JsonWriter& json, std::string_view key, const Texts& texts) {
+    json.open('[', key);
+    for (const auto& text : texts) {
+        json.element(text);
+    }
+    json.close();
+}
+
+const char* kindOf(const OptionDescription& item) {
+    if (item.kind == kindAction) {
+        return "action";
+    }
+    return item.tags.empty() ? "option" : "modifier";
+}
+
+void writeValues(JsonWriter& json, const OptionDescription& item) {
+    json.text("default", item.hasDefault ? typedText(item.defaultVal) : "");
+    json.open('[', "values");
+    for (const variant_t& value : item.allowedValues) {
+        json.element(typedText(value));
+    }
+    json.close();
+    json.open('[', "deprecated");
+    for (const auto& [value, replacement] : item.deprecatedValues) {
+        json.open('{');
+        json.text("value", typedText(value));
+        json.text("replacement", typedText(replacement));
+        json.close();
+    }
+    json.close();
+    const bool isCut = item.type != vtNull && item.tokenizer != 0;
+    json.text("separator", {&item.tokenizer, isCut ? 1U : 0U});
+}
+
+bool namesOptionFiles(const BasicParser& parser, const OptionDescription& item) {
+    return parser.readsOptionFiles() &&
+           std::find(item.names.begin(), item.names.end(), optionFileName) != item.names.end();
+}
+
+void writeItem(JsonWriter& json, const BasicParser& parser, std::size_t number) {
+    const RegisteredOptionStorage& registry = parser.vocabulary();
+    const OptionDescription& item = registry.asDeclared(number);
+    const std::string& section = registry.sectionKey(item);
+    json.open('{');
+    writeList(json, "names", item.names);
+    json.text("kind", kindOf(item));
+    json.text("type", wordOf(item.type));
+    json.text("help", item.description);
+    json.text("section", section);
+    json.flag("hidden", isSectionVisible(section, true));
+    writeList(json, "tags", item.tags);
+    writeValues(json, item);
+    json.text("valueName", registry.valueName(number));
+    json.flag("positional", item.isPositional);
+    json.flag("optionFile", namesOptionFiles(parser, item));
+    json.close();
+}
+
+void writeItems(JsonWriter& json, const BasicParser& parser) {
+    json.open('[', "items");
+    for (std::size_t i = 0; i < parser.vocabulary().items().size(); ++i) {
+        writeItem(json, parser, i);
+    }
+    json.close();
+}
+
+void writeSections(JsonWriter& json, const SectionList& sections) {
+    json.open('[', "sections");
+    for (std::size_t i = 0; i < sections.size(); ++i) {
+        json.open('{');
+        json.text("key", sections[i].key);
+        json.text("title", sections[i].title);
+        json.close();
+    }
+    json.close();
+}
+
+void writeGroups(JsonWriter& json, const ActionGroups& groups) {
+    json.open('[', "groups");
+    for (const auto& group : groups.all()) {
+        writeList(json, {}, group);
+    }
+    json.close();
+}
+
+void writeRefused(JsonWriter& json, const RegisteredOptionStorage& registry) {
+    json.open('[', "refused");
+    for (const Refusal& refusal : registry.refusals()) {
+        std::vector<std::string> names;
+        split(refusal.names, names);
+        json.open('{');
+        writeList(json, "names", names);
+        json.text("reason", wordOf(refusal.reason));
+        json.text("name", refusal.name);
+        json.close();
+    }
+    json.close();
+}
+
+}  // namespace
+
+std::string internal::descriptionOf(const BasicParser& parser, const ToolTexts& tool) {
+    JsonWriter json;
+    json.open('{');
+    json.number("format", format);
+    json.text("name", tool.name);
+    json.text("version", tool.version);
+    json.text("summary", tool.summary);
+    json.number("flags", parser.creationFlags());
+    writeSections(json, parser.vocabulary().sectionList());
+    writeGroups(json, parser.actionGroups());
+    writeRefused(json, parser.vocabulary());
+    writeItems(json, parser);
+    json.close();
+    return json.written();
+}
+
+int describeVocabulary(IParser* parser, const ToolInfo* tool, const char** json) {
+    if (tool == nullptr) {
+        parser = nullptr;
+    }
+    return askParser(parser, json, [&](BasicParser& asked) -> int {
+        *json = asked.keep(descriptionOf(asked, ToolTexts(*tool)));
+        return toolingDone;
+    });
+}
+
+}  // namespace zarn_3_3

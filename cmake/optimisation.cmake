@@ -5,8 +5,13 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 # What runs once in a parse or less often: size counts there, since a tool pays for every page of the
 # library that its start touches.
 set_source_files_properties(
+    src/help/columns.cpp
+    src/help/formatted_help.cpp
+    src/help/help_blocks.cpp
     src/help/help_renderer.cpp
     src/help/help_topics.cpp
+    src/help/shown_item.cpp
+    src/help/wrapped_text.cpp
     src/interface/word_wrapped_text.cpp
     src/log/zarn_log.cpp
     src/modern/arguments.cpp
@@ -23,6 +28,7 @@ set_source_files_properties(
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
     src/platform/load_file.cpp
+    src/vocabulary/help_in_style.cpp
     src/vocabulary/questions.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )

@@ -184,6 +184,7 @@ def make_environment(build, work):
     return {
         **os.environ,
         "LC_ALL": "C.UTF-8",
+        "COLUMNS": "80",
         "CMAKE_GENERATOR": "Ninja",
         "PATH": f"{work}/page/bin:{os.environ['PATH']}",
         "LD_LIBRARY_PATH": str(libraries),

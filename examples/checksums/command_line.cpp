@@ -42,9 +42,11 @@ void declareActions(zarn::Parser& parser, Command& command) {
 void declareOptions(zarn::Parser& parser, Command& command) {
     parser.declare({
         modifier<std::string>("manifest,m", "create,verify", "The file that holds the checksums.")
+            .named("FILE")
             .into(command.manifest)
             .byDefault(),
         modifier<Algorithm>("algorithm,a", "create", "The kind of checksum.")
+            .named("KIND")
             .deprecate("crc", Algorithm::crc32)
             .into(command.algorithm)
             .byDefault(),
@@ -55,33 +57,30 @@ void declareOptions(zarn::Parser& parser, Command& command) {
         // No default: when nothing is said, the tool looks whether it writes to a terminal.
         option<bool>("color", "Paint the results.").into(command.color),
         option<unsigned>("jobs,j", "How many files are read at a time.")
+            .named("COUNT")
             .between(1, 64)
             .into(command.reading.jobs)
             .fromEnvironment("CHECKSUMS_JOBS")
             .byDefault(),
-        positional("file", "The files and folders.")
+        positional("file", "create,compare", "What to sum, or the two manifests to compare.")
             .check(isThere, "there is no such file or folder (options stand before the first file)")
             .named("FILE")
+            .required()
             .into(command.names),
     });
     parser.declare(
         "zarn_hidden:For experiments.",
         {modifier<zarn::Bytes>("buffer-size", "create,verify", "How many bytes are read at a time.")
+             .named("BYTES")
              .between(zarn::Bytes{1}, zarn::Bytes{1 << 24})
              .into(command.reading.bufferSize)});
     parser.readOptionFiles("A file of further arguments, one a line.");
-    parser.needs("create", {"file"});
-    parser.needs("compare", {"file"});
 }
 
 // What is wrong with a command line that keeps all the rules; null when nothing is.
 const char* whyNotDone(const Command& command) {
     if (!command.create && !command.verify && !command.compare) {
         return "No action defined.";
-    }
-    if (command.verify && !command.create && !command.names.empty()) {
-        return "Action '--verify' checks the files of the manifest (option '--manifest') and takes "
-               "no others.";
     }
     if (command.compare && command.names.size() != 2) {
         return "Action '--compare' needs two manifests, the old one and the new one.";

@@ -77,6 +77,38 @@ ZARN_EXPORT int nameValue(IParser* parser, const char* item, const char* valueNa
 //
 // Returns toolingDone or toolingFailed.
 ZARN_EXPORT int describeVocabulary(IParser* parser, const ToolInfo* tool, const char** json);
+// How help is to look; combine with |.
+enum HelpFlag : std::uint32_t {
+    helpEmphasized = 0x1,  // bold names and underlined titles, by the sequences of ANSI terminals
+    helpWithHidden = 0x2,  // hidden items too, in a section of their own
+};
+
+// What formatHelp is to say, and how. A HelpStyle of its own asks for the whole help in 80 columns.
+struct HelpStyle {
+    std::uint32_t size = sizeof(HelpStyle);  // of the caller; fields beyond it are absent
+    std::uint32_t width = 80;                // in columns; at least 20
+    std::uint32_t flags = 0;                 // any combination of HelpFlag values
+    const char* topic = nullptr;             // a name of an option or action; null: everything
+    const ToolInfo* tool = nullptr;          // for the usage line, and the summary; may be null
+};
+
+// Writes help as people like to read it, in the columns that a terminal shows: wide characters
+// count as two, combining ones as none. No line is wider than asked for but one that holds a single
+// long word; none ends with a blank.
+//
+// The whole help: a usage line, for few actions one each; the summary; the sections and in them the
+// items in order of declaration. What was declared without a section stands under "Actions:",
+// "Arguments:", "Options of --pack:" and "Options:". The help of an action: how to call it, what it
+// does, and what may be given with it. The help of an option: its entry. Positional items are shown
+// as optional unless the modern face says otherwise. The texts are free to become better: tools
+// that compare texts use those of IParser.
+//
+// parser  with everything declared
+// style   what is wanted
+// text    receives the help, or an empty text on failure; the parser keeps it until its destroy
+//
+// Returns toolingDone; toolingFailed also when nothing has the name `style->topic`.
+ZARN_EXPORT int formatHelp(IParser* parser, const HelpStyle* style, const char** text);
 
 }  // namespace zarn_3_3
 

@@ -184,8 +184,8 @@ void addRule(Vocabulary* vocabulary, RuleKind kind, const char* const* names, st
     vocabulary->add(std::move(rule));
 }
 
-std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic) {
-    return pageOf(*vocabulary, nameOfTool(*vocabulary, {0, nullptr}), page, topic);
+std::string pageOf(Vocabulary* vocabulary, const HelpStyle& style) {
+    return pageOf(*vocabulary, nameOfTool(*vocabulary, {0, nullptr}), style);
 }
 
 Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
@@ -208,19 +208,24 @@ Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
     return outcome.release();
 }
 
-Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answer& answer) {
+Outcome* runLine(Vocabulary* vocabulary,
+                 int argc,
+                 const char* const* argv,
+                 Answer& answer,
+                 void (*fit)(HelpStyle&)) {
     const CommandLine line{argc, argv};
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
     vocabulary->callAs(tool);
     std::optional<Answer> found = answerToQuestion(*vocabulary, tool, line);
+    const Teller teller{tool, fit};
     if (!found) {
-        found = findAnswer(*vocabulary, tool, line);
+        found = findAnswer(*vocabulary, teller, line);
     }
     auto outcome =
         found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
     if (!found) {
-        found = findAnswer(*vocabulary, tool, outcome->result());
+        found = findAnswer(*vocabulary, teller, outcome->result());
     }
     if (found) {
         answer = std::move(*found);

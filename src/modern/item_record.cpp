@@ -49,9 +49,6 @@ ItemRecord::ItemRecord(ItemDescription& given)
     if (*orEmpty(given.actions) != '\0') {
         actions = piecesOf(given.actions);
     }
-    if (role != Role::positional && !shownName.empty()) {
-        mistake(allNames.c_str(), messages::namedOption);
-    }
     if (showsTarget && (target == nullptr || target->takesMany())) {
         mistake(allNames.c_str(), messages::noVariable);
     }

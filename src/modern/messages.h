@@ -69,6 +69,9 @@ inline std::string exclude(const ItemRecord& item, const ItemRecord& other) {
 inline std::string needs(const ItemRecord& item, const ItemRecord& other) {
     return filled("{} requires {}", {first(item), second(other)});
 }
+inline std::string takesNo(const ItemRecord& action, const ItemRecord& item) {
+    return filled("{} takes no {}", {first(action), second(item)});
+}
 
 // Mistakes of the author.
 
@@ -91,7 +94,7 @@ inline std::string variableTaken(std::string_view owner) {
 }
 constexpr const char* noVariable =
     "byDefault() shows a variable for one value, and into() names none";
-constexpr const char* namedOption = "named() is for positional items";
+constexpr const char* otherActions = "all positional items go with the same actions";
 inline std::string nameTwice(std::string_view name) {
     return filled("the name '{}' is given twice", {name});
 }

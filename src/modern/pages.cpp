@@ -1,10 +1,11 @@
 #include "modern/pages.h"
 
 #include <algorithm>
+#include <charconv>
 #include <string_view>
 
 #include "text/filled.h"
-#include "text/paragraph.h"
+#include "vocabulary/help_in_style.h"
 #include "zarn/typed/declaration.h"
 #include "zarn/typed/parser.h"
 
@@ -13,10 +14,16 @@ namespace {
 
 constexpr const char* helpName = "help";
 constexpr const char* versionName = "version";
-constexpr std::size_t columnWidth = 30;
-constexpr std::size_t descriptionWidth = 50;
 
 bool isEmpty(const char* text) { return text == nullptr || *text == '\0'; }
+
+// 0 for a text that is no number.
+std::uint32_t numberFrom(const char* text) {
+    const std::string_view digits = text == nullptr ? "" : text;
+    std::uint32_t number = 0;
+    const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number);
+    return read.ec == std::errc() && read.ptr == digits.data() + digits.size() ? number : 0;
+}
 
 void appendEscaped(std::string& text, unsigned char byte) {
     constexpr char digits[] = "0123456789abcdef";
@@ -25,64 +32,19 @@ void appendEscaped(std::string& text, unsigned char byte) {
     text += digits[byte % 16];
 }
 
-// "FILE", "[FILE]", "FILE ...", "[FILE ...]"
-std::string usageOf(const ItemRecord& item, bool isLast) {
-    const std::string name = item.called() + (isLast && item.takesMany() ? " ..." : "");
-    return item.isRequired ? name : filled("[{}]", {name});
-}
-
-// `action`: as it is typed, or empty.
-std::string usageLine(const Vocabulary& vocabulary,
-                      const std::string& tool,
-                      const std::string& action) {
-    std::string line = filled("Usage: {}", {tool});
-    if (!action.empty()) {
-        line.append(" ").append(action);
-    } else if (vocabulary.hasRole(Role::action)) {
-        line.append(" ACTION");
-    }
-    if (vocabulary.hasRole(Role::option)) {
-        line.append(" [option ...]");
-    }
-    for (const ItemRecord* const item : vocabulary.positionals()) {
-        line.append(" ").append(usageOf(*item, item == vocabulary.positionals().back()));
-    }
-    return line.append("\n");
-}
-
-std::string wholePage(Vocabulary& vocabulary, const std::string& tool) {
-    std::string page = usageLine(vocabulary, tool, "");
-    if (!isEmpty(vocabulary.tool().summary)) {
-        page.append(vocabulary.tool().summary).append("\n");
-    }
-    page.append("\n");
-    for (const ItemRecord* const item : vocabulary.positionals()) {
-        appendParagraph(page, item->description, item->called(), columnWidth, descriptionWidth);
-    }
-    page.append(vocabulary.positionals().empty() ? "" : "\n");
-    page.append(vocabulary.plain().getDescription(false));
-    if (vocabulary.hasRole(Role::action)) {
-        page.append("\n").append(vocabulary.plain().getGlobalModifiersDescription(false));
-    }
-    return page;
-}
-
-std::string actionPage(Vocabulary& vocabulary, const std::string& tool, const ItemRecord& action) {
-    const char* const modifiers =
-        vocabulary.plain().getActionModifiersDescription(action.primaryName().c_str(), false);
-    return filled("{}{}\n\n{}",
-                  {usageLine(vocabulary, tool, action.called()), action.description, modifiers});
-}
-
 Answer answerFor(const ItemRecord& item,
                  Vocabulary& vocabulary,
-                 const std::string& tool,
+                 const Teller& teller,
                  const std::string& topic) {
+    const std::string& tool = teller.tool;
     if (item.primaryName() == versionName) {
         return {filled("{} {}\n", {tool, vocabulary.tool().version}), "", exitAnswered};
     }
     if (topic.empty() || vocabulary.isName(topic)) {
-        return {pageOf(vocabulary, tool, Page::topic, topic.c_str()), "", exitAnswered};
+        HelpStyle style;
+        teller.fit(style);
+        style.topic = topic.c_str();
+        return {pageOf(vocabulary, tool, style), "", exitAnswered};
     }
     const std::string quoted = visible(topic);
     return {"",
@@ -135,9 +97,7 @@ void declareAnswers(Vocabulary& vocabulary) {
     }
 }
 
-std::optional<Answer> findAnswer(Vocabulary& vocabulary,
-                                 const std::string& tool,
-                                 CommandLine line) {
+std::optional<Answer> findAnswer(Vocabulary& vocabulary, const Teller& teller, CommandLine line) {
     if (line.argv == nullptr || !mayAsk(line)) {
         return std::nullopt;
     }
@@ -147,18 +107,18 @@ std::optional<Answer> findAnswer(Vocabulary& vocabulary,
         const ItemRecord* const item = cut.isOption ? vocabulary.find(cut.name) : nullptr;
         if (item != nullptr && item->isAnswered) {
             return answerFor(
-                *item, vocabulary, tool, topicBehind(argument, vocabulary, line, walk.index()));
+                *item, vocabulary, teller, topicBehind(argument, vocabulary, line, walk.index()));
         }
     }
     return std::nullopt;
 }
 
 std::optional<Answer> findAnswer(Vocabulary& vocabulary,
-                                 const std::string& tool,
+                                 const Teller& teller,
                                  const ParseResult& result) {
     for (const auto& item : vocabulary.items()) {
         if (item->isAnswered && result.find(item->primaryName()) != nullptr) {
-            return answerFor(*item, vocabulary, tool, "");
+            return answerFor(*item, vocabulary, teller, "");
         }
     }
     return std::nullopt;
@@ -175,14 +135,25 @@ std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line) {
     return visible(path.substr(path.rfind('/') + 1));
 }
 
-std::string pageOf(Vocabulary& vocabulary, const std::string& tool, Page page, const char* topic) {
-    if (page == Page::whole || isEmpty(topic)) {
-        return wholePage(vocabulary, tool);
+std::string pageOf(Vocabulary& vocabulary, const std::string& tool, HelpStyle style) {
+    style.topic = isEmpty(style.topic) ? nullptr : style.topic;
+    const Tool& about = vocabulary.tool();
+    const ToolInfo info{sizeof info, tool.c_str(), about.version, about.summary};
+    const auto help = helpInStyle(style, vocabulary.plain(), ToolTexts(info));
+    return help ? *help : vocabulary.plain().getDescription(style.topic, false);
+}
+
+void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept {
+    constexpr std::uint32_t least = 20;
+    constexpr std::uint32_t usual = 80;
+    constexpr std::uint32_t most = 120;
+    const std::uint32_t wanted = numberFrom(facts.columns);
+    const std::uint32_t shown = facts.width != 0 ? facts.width : usual;
+    style.width = std::clamp(wanted >= least ? wanted : shown, least, most);
+    const bool isDumb = facts.kind != nullptr && std::string_view(facts.kind) == "dumb";
+    if (facts.isTerminal && !isDumb && isEmpty(facts.noColor)) {
+        style.flags |= helpEmphasized;
     }
-    const ItemRecord* const item = vocabulary.find(topic);
-    return item != nullptr && item->role == Role::action
-               ? actionPage(vocabulary, tool, *item)
-               : vocabulary.plain().getDescription(topic, false);
 }
 
 std::string visible(const std::string& text) {

@@ -11,22 +11,29 @@
 
 namespace zarn_3_3::internal {
 
+// Who answers.
+struct Teller {
+    const std::string& tool;
+    void (*fit)(HelpStyle&);  // to the terminal
+};
+
 // Declares the options that are answered without the tool, where it has none of these names: help,
 // and the version.
 void declareAnswers(Vocabulary& vocabulary);
 
 // The answer to the first of them, wherever it stands among the options.
-std::optional<Answer> findAnswer(Vocabulary& vocabulary, const std::string& tool, CommandLine line);
+std::optional<Answer> findAnswer(Vocabulary& vocabulary, const Teller& teller, CommandLine line);
 
 // The same for an abbreviation, which the parse has understood.
 std::optional<Answer> findAnswer(Vocabulary& vocabulary,
-                                 const std::string& tool,
+                                 const Teller& teller,
                                  const ParseResult& result);
 
 // The name under which the tool is known, or is called.
 std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line);
 
-std::string pageOf(Vocabulary& vocabulary, const std::string& tool, Page page, const char* topic);
+// The help that the style asks for; for a topic that is unknown a text that says so.
+std::string pageOf(Vocabulary& vocabulary, const std::string& tool, HelpStyle style);
 
 // The text with its control characters written as "\x1b".
 std::string visible(const std::string& text);

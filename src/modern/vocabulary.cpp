@@ -6,6 +6,7 @@
 
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
+#include "parser/messages.h"
 #include "recognizers/messages.h"
 #include "text/filled.h"
 #include "zarn/option.h"
@@ -57,6 +58,7 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription& descriptio
         requireNames(item);
         requireDefault(item);
         requireOwnTarget(item);
+        requireSameActions(item);
         declarePlainly(section, description, item);
     } catch (...) {
         items_.pop_back();
@@ -88,10 +90,23 @@ void Vocabulary::declarePlainly(const char* section,
         throw std::bad_alloc();
     }
     item.configure(made);
+    describe(index, item);
     if (item.role == Role::positional) {
         addPositional(item);
     }
     byIndex_[index] = &item;  // last: nothing fails behind it
+}
+
+// What help shows of the item beyond its plain declaration.
+void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
+    RegisteredOptionStorage& registry = plain_->vocabulary();
+    registry.expect(index, item.isRequired, !item.takesMany());
+    if (!item.shownName.empty()) {
+        registry.nameValue(index, item.shownName);
+    }
+    if (!item.environment.empty()) {
+        registry.nameVariable(index, item.environment);
+    }
 }
 
 // The first item takes the arguments of all of them, so of several it has to take any text; what
@@ -133,6 +148,14 @@ void Vocabulary::requireOwnTarget(const ItemRecord& item) const {
     mistake(item.allNames.c_str(), messages::variableTaken((*owner)->allNames));
 }
 
+// All arguments are stored under the first positional item, whose actions are looked at.
+void Vocabulary::requireSameActions(const ItemRecord& item) const {
+    if (item.role == Role::positional && !positionals_.empty() &&
+        positionals_.front()->actions != item.actions) {
+        mistake(item.allNames.c_str(), messages::otherActions);
+    }
+}
+
 void Vocabulary::settle() {
     for (; settledItems_ < items_.size(); ++settledItems_) {
         requireActions(*items_[settledItems_]);
@@ -165,11 +188,6 @@ void Vocabulary::requireActions(const ItemRecord& item) const {
             mistake(item.allNames.c_str(), messages::noSuchAction(name));
         }
     }
-}
-
-bool Vocabulary::hasRole(Role role) const {
-    return std::any_of(
-        items_.begin(), items_.end(), [role](const auto& item) { return item->role == role; });
 }
 
 std::size_t Vocabulary::indexOf(std::string_view form) const {
@@ -270,6 +288,9 @@ std::string Vocabulary::explained(std::string message) const {
     if (!reason_.empty()) {
         return messages::withReason(message, reason_);
     }
+    if (const ItemRecord* const action = actionWithoutPlace(message)) {
+        return messages::takesNo(*action, *positionals_.front());
+    }
     // A number that does not fit: "...: Option 'jobs' can not parse '99999999999' value, ..."
     constexpr std::string_view beforeName = "': Option '";
     constexpr std::string_view beforeValue = "' can not parse '";
@@ -286,6 +307,19 @@ std::string Vocabulary::explained(std::string message) const {
         return messages::withReason(message, boundsText(item->least, item->greatest));
     }
     return message;
+}
+
+// Nobody has typed the name of a positional item: it is told otherwise that an action takes none.
+const ItemRecord* Vocabulary::actionWithoutPlace(const std::string& message) const {
+    const auto refuses = [&](const auto& item) {
+        return item->role == Role::action &&
+               message == messages::actionRefusesOption(item->primaryName(),
+                                                        positionals_.front()->primaryName());
+    };
+    const auto action = positionals_.empty() || positionals_.front()->actions.empty()
+                            ? items_.end()
+                            : std::find_if(items_.begin(), items_.end(), refuses);
+    return action != items_.end() ? action->get() : nullptr;
 }
 
 bool Vocabulary::routesPositionals() const {

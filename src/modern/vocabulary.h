@@ -65,7 +65,6 @@ public:
     // The name by which a tool without one was called.
     const std::string& calledAs() const { return calledAs_; }
     void callAs(const std::string& name) { calledAs_ = name; }
-    bool hasRole(Role role) const;
 
     // The item with this name, or null.
     const ItemRecord* find(std::string_view name) const;
@@ -105,12 +104,15 @@ public:
 
 private:
     void declarePlainly(const char* section, const ItemDescription& given, const ItemRecord& item);
+    void describe(std::size_t index, const ItemRecord& item);
     void addPositional(const ItemRecord& item);
     void requireFreeNames(const ItemRecord& item) const;
     void requireOwnTarget(const ItemRecord& item) const;
+    void requireSameActions(const ItemRecord& item) const;
     void requireActions(const ItemRecord& item) const;
     const ItemRecord* recordAt(std::size_t index) const;
     std::size_t indexOf(std::string_view form) const;
+    const ItemRecord* actionWithoutPlace(const std::string& message) const;
     bool routesPositionals() const;
     bool takePositional(const Value& value);
     bool refusePositional(const ItemRecord& item, const Value& value);

@@ -33,6 +33,8 @@ public:
     std::string_view description;    // kept by the registry
     bool isPositional = false;
     bool hasDefault = false;
+    bool isRequired = false;     // shown in usage lines; no parse looks at it
+    bool takesOneValue = false;  // the same
     ItemKind kind = kindSink;
     char tokenizer = ',';  // 0: values are never cut
     das_variant_type_t type = vtNull;

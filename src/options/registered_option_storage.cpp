@@ -177,9 +177,11 @@ const OptionDescription& RegisteredOptionStorage::asDeclared(std::size_t number)
     return kept != declaredAs_.end() ? kept->second : options[number];
 }
 
-std::string_view RegisteredOptionStorage::valueName(std::size_t number) const {
-    const auto named = valueNames_.find(number);
-    return named != valueNames_.end() ? std::string_view(named->second) : std::string_view();
+const RegisteredOptionStorage::HelpNames& RegisteredOptionStorage::helpNames(
+    std::size_t number) const {
+    static const HelpNames none;
+    const auto named = helpNames_.find(number);
+    return named != helpNames_.end() ? named->second : none;
 }
 
 result_t validateName(const std::vector<std::string>& names) {

@@ -56,9 +56,21 @@ public:
     // The item as its author declared it.
     const OptionDescription& asDeclared(std::size_t number) const;
 
+    // For usage lines alone; keeping to it is up to the caller.
+    void expect(std::size_t number, bool isRequired, bool takesOneValue) {
+        options[number].isRequired = isRequired;
+        options[number].takesOneValue = takesOneValue;
+    }
+
     // What help and description call the value of an item; empty for the word of its type.
-    void nameValue(std::size_t number, std::string_view name) { valueNames_[number] = name; }
-    std::string_view valueName(std::size_t number) const;
+    void nameValue(std::size_t number, std::string_view name) { helpNames_[number].value = name; }
+    std::string_view valueName(std::size_t number) const { return helpNames(number).value; }
+
+    // The variable of the environment that help shows for an item; empty for none.
+    void nameVariable(std::size_t number, std::string_view name) {
+        helpNames_[number].variable = name;
+    }
+    std::string_view variableName(std::size_t number) const { return helpNames(number).variable; }
 
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
@@ -92,6 +104,13 @@ public:
 private:
     struct Declaration;
 
+    // What help says of an item beside its declaration.
+    struct HelpNames {
+        std::string value;
+        std::string variable;
+    };
+
+    const HelpNames& helpNames(std::size_t number) const;
     IOption& declare(const Declaration& given);
     const std::string* findTaken(const std::vector<std::string>& nameList) const;
     IOption& refused(RefusalReason reason,
@@ -104,7 +123,7 @@ private:
     internal::TextArena descriptions_;
     SectionList sections;
     std::size_t actionCount_ = 0;
-    std::map<std::size_t, std::string> valueNames_;
+    std::map<std::size_t, HelpNames> helpNames_;
     std::map<std::size_t, OptionDescription> declaredAs_;  // of those that take any text
     std::unique_ptr<std::vector<Refusal>> refusals_;       // most tools have none
     OptionDescription sink;  // takes the settings of refused declarations; never searched or shown

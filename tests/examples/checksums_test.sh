@@ -154,8 +154,7 @@ row 2 stderr "checksums: Option 'color' is boolean and should be declared in for
 row 2 stderr "checksums: Action '--create' requires argument 'FILE'" --create
 row 2 stderr "checksums: Argument 'FILE' is empty" --create ''
 row 2 stderr "checksums: Action '--compare' needs two manifests, the old one and the new one." --compare a.txt
-check 2 --verify data
-says stderr "takes no others."
+row 2 stderr "checksums: Action '--verify' takes no argument 'FILE'" --verify data
 check 2 --create --algorithm=crc32,adler32 data
 says stderr "does not allow value 'crc32,adler32'. Possible values follows: 'crc32', 'adler32'"
 check 2 --create --algorithm=c data
@@ -182,14 +181,17 @@ CHECKSUMS_JOBS=0 check 2 --verify --manifest=all.txt
 prints stderr "checksums: Value '0' is not valid for option 'jobs' in argument 'CHECKSUMS_JOBS=0': it must be between 1 and 64"
 
 # Help.
-row 0 stdout 'Usage: checksums ACTION [option ...] [FILE ...]' --help
-says stdout '    verify    '
-says stdout '-color | -no-color'
+unset COLUMNS
+row 0 stdout 'Usage: checksums --create [options] [--] FILE...' --help
+prints stdout '       checksums --verify [options]'
+prints stdout 'Options of --create and --verify:'
 if grep -qF -e buffer-size stdout; then fail 'hidden options are shown'; fi
-row 0 stdout 'Usage: checksums --create [option ...] [FILE ...]' -h create
-says stdout '=crc32 | adler32 (crc32)'
+row 0 stdout 'Usage: checksums --create [options] [--] FILE...' -h create
+prints stdout '  -a, --algorithm KIND     The kind of checksum: crc32 or adler32 (default'
 check 0 --bogus --help=jobs
-says stdout '-jobs='
+says stdout '--jobs COUNT'
+COLUMNS=40 check 0 --help
+[[ $(awk 'length > 40' stdout) == '' ]] || fail 'lines are wider than asked for'
 row 0 stdout 'checksums 1.0' --version
 check 2 --help=nowhere
 says stderr 'Help for nowhere not available.'

@@ -16,8 +16,9 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
     static int a = 0;
     static std::string text;
     const Mistake mistakes[] = {
-        {[](Parser& p) { p.declare({option<int>("a", "").named("A")}); },
-         "'a': named() is for positional items"                                                                                                             },
+        {[](Parser& p) {
+             p.declare({action("pack", ""), positional("a", "pack", ""), positional("b", "")});
+         },                                                                       "'b': all positional items go with the same actions"             },
         {[](Parser& p) {
              p.declare({option("quiet", ""), option("still,quiet", "")});
          },                                                                       "'still,quiet': the name 'quiet' is taken by 'quiet'"            },

@@ -28,6 +28,7 @@ Ran run(Parser& parser, const Line& line) {
 class Run : public testing::Test {
 protected:
     Run() {
+        unsetenv("COLUMNS");
         declareSettings(parser, settings);
         parser.declare("Actions", {action("pack,p", "Make an archive."), action("list", "Look.")});
         parser.declare({modifier("deep", "pack", "Into folders.")});
@@ -60,27 +61,58 @@ TEST_F(Run, GoesOnWhenThereIsSomethingToDo) {
 
 TEST_F(Run, AnswersWhateverElseIsWrong) {
     const char* const whole =
-        "Usage: sonde ACTION [option ...] [FILE ...]\nlook into archives\n\n"
-        "FILE                          The files.\n\n"
-        "    list   Look.\n    pack   Make an archive.\n\n";
+        "Usage: sonde --pack [options] [--] [FILE...]\n"
+        "       sonde --list [options] [--] [FILE...]\n\nlook into archives\n\nOutput:\n"
+        "  -j, --jobs INTEGER       How many at a time (default 2; environment:\n"
+        "                           TOOL_JOBS).\n";
     expectAnswer({"--help"}, whole);
     expectAnswer({"-h"}, whole);
     expectAnswer({"--jobs=x", "-help"}, whole);
     expectAnswer({"--hel"}, whole);
     expectAnswer({"--help", "--jobs"}, whole);
     expectAnswer({"--help", "a.txt"}, whole);
-    expectAnswer({"--help", "jobs"}, "-j, -jobs=<integer> (2)       How many at a time.\n");
-    const char* const ofPack = "Usage: sonde --pack [option ...] [FILE ...]\nMake an archive.\n";
+    expectAnswer(
+        {"--help", "jobs"},
+        "  -j, --jobs INTEGER   How many at a time (default 2; environment: TOOL_JOBS).\n");
+    const char* const ofPack =
+        "Usage: sonde --pack [options] [--] [FILE...]\n\nMake an archive.\n\nOutput:\n";
     expectAnswer({"--help=--pack"}, ofPack);
     expectAnswer({"--help", "-p"}, ofPack);
-    expectAnswer({"--nonsense", "--help", "p"}, "-deep                         Into folders.\n");
+    expectAnswer({"--nonsense", "--help", "p"}, "\nOptions of --pack:\n      --deep  ");
     expectAnswer({"--version", "--help"}, "sonde 2.1\n");
     expectAnswer({"--versio"}, "sonde 2.1\n");
     EXPECT_THAT(parser.help(), StartsWith(whole));
-    EXPECT_THAT(parser.help("jobs"), HasSubstr("-jobs="));
-    EXPECT_THAT(parser.help("pack"), StartsWith(ofPack));
+    EXPECT_THAT(parser.help("jobs"), StartsWith("  -j, --jobs INTEGER   How"));
     EXPECT_THAT(parser.helpOfAction("pack"), StartsWith(ofPack));
-    EXPECT_THAT(parser.helpOfAction("nowhere"), StartsWith("Help for nowhere not available."));
+    EXPECT_THAT(parser.help("nowhere"), StartsWith("Help for nowhere not available."));
+}
+
+TEST_F(Run, FitsHelpToTheTerminal) {
+    struct Fit {
+        internal::TerminalFacts facts;
+        unsigned width;
+        unsigned flags;
+    };
+    const Fit fits[] = {
+        {{nullptr, nullptr, nullptr, false, 0},       80,  0             },
+        {{"40", nullptr, nullptr, false, 100},        40,  0             },
+        {{"20", "xterm", nullptr, true, 100},         20,  helpEmphasized},
+        {{"19", "xterm", "", true, 100},              100, helpEmphasized},
+        {{"", "xterm", "1", true, 200},               120, 0             },
+        {{"400", "dumb", nullptr, true, 0},           120, 0             },
+        {{"40x", nullptr, nullptr, true, 9},          20,  helpEmphasized},
+        {{"99999999999", nullptr, nullptr, false, 0}, 80,  0             },
+    };
+    for (const Fit& fit : fits) {
+        HelpStyle style;
+        internal::fitStyle(style, fit.facts);
+        EXPECT_EQ(style.width, fit.width) << &fit - fits;
+        EXPECT_EQ(style.flags, fit.flags) << &fit - fits;
+    }
+    setenv("COLUMNS", "40", 1);
+    expectAnswer({"--help", "jobs"},
+                 "  -j, --jobs INTEGER\n        How many at a time (default 2;\n");
+    unsetenv("COLUMNS");
 }
 
 TEST_F(Run, TellsWhyItEnds) {
@@ -110,13 +142,14 @@ TEST(RunOf, AToolLeavesToItWhatItHasItself) {
     EXPECT_EQ(run(parser, {"--help"}).code, std::nullopt);
     EXPECT_TRUE(help);
     EXPECT_EQ(run(parser, {"--version"}).error, "tool: Unknown option: --version\n");
-    EXPECT_THAT(parser.help(), StartsWith("Usage: tool [option ...]\n\n-help "));
+    EXPECT_THAT(parser.help(),
+                StartsWith("Usage: tool -h INTEGER [options]\n\nOptions:\n      --help "));
     Parser nameless;
     nameless.declare({option<int>("h", ""),
                       positional<int>("count", "How many.").required(),
                       positional("rest", "").required()});
     EXPECT_THAT(run(nameless, {"--help"}).output,
-                StartsWith("Usage: tool [option ...] count rest ...\n\ncount "));
+                StartsWith("Usage: tool [options] [--] count rest...\n\nArguments:\n  count "));
     const char* const none = nullptr;
     EXPECT_EQ(nameless.run(0, &none), exitUsage);
     EXPECT_STREQ(nameless.parse(2, nullptr).text(), "The argument vector is null");

@@ -200,7 +200,8 @@ public:
         return std::move(*this);
     }
 
-    // How usage lines and messages call a positional item: "FILE".
+    // How help calls the value, as in "--output FILE"; of a positional item the item itself, in
+    // messages too.
     Declaration&& named(const char* name) && noexcept {
         description.shownName = name;
         return std::move(*this);
@@ -328,6 +329,15 @@ Declaration<T> positional(const char* names, const char* description) {
     static_assert(!std::is_same_v<T, Switch> && !std::is_same_v<T, bool>,
                   "a positional item takes values");
     return {internal::Role::positional, names, "", description};
+}
+
+// The same for arguments that belong to the actions with these primary names, separated by ',', and
+// are refused with any other. All positional items of a vocabulary belong to the same actions.
+template <typename T = std::string>
+Declaration<T> positional(const char* names, const char* actionNames, const char* description) {
+    Declaration<T> made = positional<T>(names, description);
+    made.description.actions = actionNames;
+    return made;
 }
 
 }  // namespace zarn_3_3

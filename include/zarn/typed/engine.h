@@ -17,6 +17,7 @@
 #include "zarn/export.h"
 #include "zarn/parser.h"
 #include "zarn/result.h"
+#include "zarn/tooling.h"
 #include "zarn/value.h"
 
 namespace zarn_3_3 {
@@ -121,7 +122,6 @@ struct ItemDescription {
 };
 
 enum class RuleKind : std::int32_t { exactlyOne, atMostOne, together, needs };
-enum class Page : std::int32_t { whole, topic, action };
 
 // How a parse ended, and what it found.
 struct Outcome {
@@ -138,6 +138,15 @@ struct Answer {
 };
 
 class Vocabulary;
+
+// What the environment of a tool says about its standard output. Null texts are absent.
+struct TerminalFacts {
+    const char* columns;  // COLUMNS
+    const char* kind;     // TERM
+    const char* noColor;  // NO_COLOR
+    bool isTerminal;
+    std::uint32_t width;  // of the terminal; 0: unknown
+};
 
 // Throws std::logic_error about the item with these names.
 [[noreturn]] ZARN_EXPORT void mistake(const char* names, const std::string& what);
@@ -156,7 +165,10 @@ ZARN_EXPORT void addRule(Vocabulary* vocabulary,
                          RuleKind kind,
                          const char* const* names,
                          std::size_t count);
-ZARN_EXPORT std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic);
+
+// `style.tool` is not looked at: the vocabulary knows its tool.
+ZARN_EXPORT std::string pageOf(Vocabulary* vocabulary, const HelpStyle& style);
+ZARN_EXPORT void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept;
 
 // The outcomes are freed with releaseOutcome. They keep what they need of the vocabulary.
 ZARN_EXPORT Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv);
@@ -164,7 +176,8 @@ ZARN_EXPORT Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome
 ZARN_EXPORT Outcome* runLine(Vocabulary* vocabulary,
                              int argc,
                              const char* const* argv,
-                             Answer& answer);
+                             Answer& answer,
+                             void (*fit)(HelpStyle&));
 ZARN_EXPORT void releaseOutcome(Outcome* outcome) noexcept;
 
 // `last` is the value that counts, not found when there is none; `all`, which may be null, receives

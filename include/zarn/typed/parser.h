@@ -17,6 +17,7 @@
 #include "zarn/typed/declaration.h"
 #include "zarn/typed/engine.h"
 #include "zarn/typed/result.h"
+#include "zarn/typed/terminal.h"
 
 namespace zarn_3_3 {
 
@@ -93,7 +94,8 @@ public:
     // IParser::addOptionFileOption.
     void readOptionFiles(const char* description, const char* section = "") {
         (*this)->addOptionFileOption(description, section);
-        if (!(*this)->isOptionDeclared("option-file", false, nullptr)) {
+        if (nameValue(internal::plainParser(vocabulary_.get()), "option-file", "FILE") !=
+            toolingDone) {
             throw std::bad_alloc();
         }
     }
@@ -152,6 +154,7 @@ public:
     // Parses a command line, and does what tools do behind that:
     // - Help and the version are printed to the standard output when they are asked for, whatever
     //   else is wrong: "--help", perhaps with an option or an action behind it, and "--version".
+    //   Help is fitted to the terminal; see fitToTerminal.
     //   Each is left to the tool when that declares an option of this name.
     // - A failure is printed to the standard error as "sonde: text", control characters made
     //   visible.
@@ -161,7 +164,8 @@ public:
     [[nodiscard]] std::optional<int> run(int argc, const char* const* argv) {
         try {
             internal::Answer answer;
-            result_.emplace(internal::runLine(vocabulary_.get(), argc, argv, answer));
+            result_.emplace(
+                internal::runLine(vocabulary_.get(), argc, argv, answer, &fitToTerminal));
             std::fflush(stdout);  // what a handler has said comes first
             const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
             return isPrinted ? answer.exitCode : exitInternal;
@@ -174,13 +178,24 @@ public:
     // What the last run found; it must have been called, and answered nothing.
     const Result& result() const noexcept { return *result_; }
 
-    // The usage line, the summary and what is declared, as run prints it; the help of an option or
-    // an action; of an action with its modifiers. For a name that is not declared, a text that says
-    // so.
-    std::string help() const { return page(internal::Page::whole, nullptr); }
-    std::string help(const char* topic) const { return page(internal::Page::topic, topic); }
-    std::string helpOfAction(const char* action) const {
-        return page(internal::Page::action, action);
+    // The help that formatHelp writes, of this tool; by default all of it in 80 columns. As run
+    // prints it, it is fitted to the terminal:
+    //
+    //     zarn::HelpStyle style;
+    //     zarn::fitToTerminal(style);
+    //     std::cout << parser.help(style);
+    //
+    // With a topic, the help of an option or an action. For a name that is not declared, a text
+    // that says so.
+    std::string help(const HelpStyle& style = {}) const {
+        return internal::pageOf(vocabulary_.get(), style);
+    }
+    std::string help(const char* topic, HelpStyle style = {}) const {
+        style.topic = topic;
+        return help(style);
+    }
+    std::string helpOfAction(const char* action, const HelpStyle& style = {}) const {
+        return help(action, style);
     }
 
 private:
@@ -197,10 +212,6 @@ private:
 
     void addRule(internal::RuleKind kind, const char* const* names, std::size_t count) {
         internal::addRule(vocabulary_.get(), kind, names, count);
-    }
-
-    std::string page(internal::Page page, const char* topic) const {
-        return internal::pageOf(vocabulary_.get(), page, topic);
     }
 
     std::unique_ptr<internal::Vocabulary, Release> vocabulary_;

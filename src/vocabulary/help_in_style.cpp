@@ -1,0 +1,71 @@
+#include "vocabulary/help_in_style.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "help/formatted_help.h"
+#include "parser/ask_parser.h"
+
+namespace zarn_3_3 {
+
+using namespace internal;
+
+namespace {
+
+constexpr std::uint32_t leastWidth = 20;
+
+// What a caller of another version has of it.
+HelpStyle known(const HelpStyle& given) {
+    HelpStyle style;
+    const auto take = [&](auto HelpStyle::*field, std::size_t offset) {
+        if (given.size >= offset + sizeof(style.*field)) {
+            style.*field = given.*field;
+        }
+    };
+    take(&HelpStyle::width, offsetof(HelpStyle, width));
+    take(&HelpStyle::flags, offsetof(HelpStyle, flags));
+    take(&HelpStyle::topic, offsetof(HelpStyle, topic));
+    take(&HelpStyle::tool, offsetof(HelpStyle, tool));
+    return style;
+}
+
+}  // namespace
+
+std::optional<std::string> internal::helpInStyle(const HelpStyle& given,
+                                                 const BasicParser& parser,
+                                                 const ToolTexts& tool) {
+    const HelpStyle style = known(given);
+    const HelpLook look{std::max(style.width, leastWidth),
+                        (style.flags & helpEmphasized) != 0,
+                        (style.flags & helpWithHidden) != 0,
+                        tool.name,
+                        tool.summary,
+                        (parser.creationFlags() & flagPositionalBehindTerminator) != 0};
+    const RegisteredOptionStorage& registry = parser.vocabulary();
+    if (style.topic == nullptr) {
+        return formattedHelp(registry, look);
+    }
+    std::size_t item = 0;
+    if (findOption(style.topic, item, registry) != resultSuccess) {
+        return std::nullopt;
+    }
+    return formattedHelpOf(registry, look, item);
+}
+
+int formatHelp(IParser* parser, const HelpStyle* style, const char** text) {
+    if (style == nullptr) {
+        parser = nullptr;
+    }
+    return askParser(parser, text, [&](BasicParser& asked) -> int {
+        const ToolInfo* const tool = known(*style).tool;
+        const ToolInfo nobody{sizeof nobody, nullptr, nullptr, nullptr};
+        const auto help = helpInStyle(*style, asked, ToolTexts(tool != nullptr ? *tool : nobody));
+        if (!help) {
+            return toolingFailed;
+        }
+        *text = asked.keep(*help);
+        return toolingDone;
+    });
+}
+
+}  // namespace zarn_3_3

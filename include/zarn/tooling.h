@@ -109,6 +109,27 @@ struct HelpStyle {
 //
 // Returns toolingDone; toolingFailed also when nothing has the name `style->topic`.
 ZARN_EXPORT int formatHelp(IParser* parser, const HelpStyle* style, const char** text);
+// How bad the worst is that checkVocabulary has found.
+enum CheckCode : int {
+    nothingFound = 0,
+    warningsFound = 1,  // it works, but perhaps not as users expect
+    errorsFound = 2,    // something that was declared is lost, or never works
+};
+
+// Looks for mistakes in a vocabulary that declarations pass over in silence; meant for a unit test:
+//
+//     const char* findings = "";
+//     EXPECT_EQ(zarn::checkVocabulary(parser, nullptr, &findings), zarn::nothingFound) << findings;
+//
+// As a question on the command line it is `check`, or `check:IGNORED`.
+//
+// parser    with everything declared; see answerQuestion
+// ignored   ids, or "id:item" for one item, separated by commas; null for none
+// findings  receives one line for each finding, in the order of declaration, as
+//           "error name-clash 'level': ..."; the parser keeps the text until its destroy
+//
+// Returns a CheckCode, or toolingFailed.
+ZARN_EXPORT int checkVocabulary(IParser* parser, const char* ignored, const char** findings);
 
 }  // namespace zarn_3_3
 

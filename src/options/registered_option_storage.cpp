@@ -124,7 +124,7 @@ IOption& RegisteredOptionStorage::refused(RefusalReason reason,
                                           std::string_view names,
                                           std::string_view name) noexcept {
     try {
-        note({reason, std::string(names), std::string(name)});
+        note({reason, std::string(names), std::string(name), options.size()});
     } catch (const std::exception&) {
     }
     sink = OptionDescription();

@@ -23,8 +23,9 @@ enum class RefusalReason { nameTaken, tooManyNames, longThirdName, noMemory };
 // A declaration that was refused.
 struct Refusal {
     RefusalReason reason;
-    std::string names;  // as they were given
-    std::string name;   // the one to blame; empty when that is none
+    std::string names;       // as they were given
+    std::string name;        // the one to blame; empty when that is none
+    std::size_t before = 0;  // how many items were declared then
 };
 
 // Only grows, and only the item declared last changes: the reference that a declaration hands out
@@ -52,6 +53,7 @@ public:
     // Makes an item take texts of any kind, whole. What it was declared as is kept for help and
     // description.
     void takeAnyText(std::size_t number);
+    bool takesAnyText(std::size_t number) const { return declaredAs_.count(number) != 0; }
 
     // The item as its author declared it.
     const OptionDescription& asDeclared(std::size_t number) const;

@@ -5,6 +5,7 @@
 #include <vector>
 
 #include "parser/ask_parser.h"
+#include "vocabulary/checks.h"
 #include "vocabulary/description.h"
 
 namespace zarn_3_3 {
@@ -38,9 +39,21 @@ bool isQuestion(int argc, const char* const* argv, Question& question) {
     return std::string_view(argv[3]) == "--";
 }
 
+// "check" or "check:IGNORED"
+std::string findingsFor(std::string_view question, const BasicParser& parser) {
+    const std::size_t colon = question.find(':');
+    Findings findings(colon == std::string_view::npos ? "" : question.substr(colon + 1));
+    checkVocabulary(parser, findings);
+    return findings.text();
+}
+
 // An empty text for what this library does not know.
 std::string answerTo(const Question& question, const BasicParser& parser, const ToolTexts& tool) {
-    return question.text == "describe" ? descriptionOf(parser, tool) : "";
+    const std::string_view kind = question.text.substr(0, question.text.find(':'));
+    if (question.text == "describe") {
+        return descriptionOf(parser, tool);
+    }
+    return kind == "check" ? findingsFor(question.text, parser) : "";
 }
 
 }  // namespace

@@ -5,6 +5,9 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 # What runs once in a parse or less often: size counts there, since a tool pays for every page of the
 # library that its start touches.
 set_source_files_properties(
+    src/diagnostics/last_diagnostic.cpp
+    src/diagnostics/likeness.cpp
+    src/diagnostics/suggestions.cpp
     src/help/help_renderer.cpp
     src/help/help_topics.cpp
     src/interface/word_wrapped_text.cpp
@@ -12,6 +15,7 @@ set_source_files_properties(
     src/modern/arguments.cpp
     src/modern/behind_parse.cpp
     src/modern/engine.cpp
+    src/modern/failures.cpp
     src/modern/item_record.cpp
     src/modern/outcome.cpp
     src/modern/pages.cpp
@@ -23,6 +27,7 @@ set_source_files_properties(
     src/parser/basic_parser.cpp
     src/parser/option_file_walk.cpp
     src/platform/load_file.cpp
+    src/recognizers/failure.cpp
     src/vocabulary/questions.cpp
     PROPERTIES COMPILE_OPTIONS $<$<CONFIG:${optimised_configs}>:-Os>
 )

@@ -130,6 +130,85 @@ enum CheckCode : int {
 //
 // Returns a CheckCode, or toolingFailed.
 ZARN_EXPORT int checkVocabulary(IParser* parser, const char* ignored, const char** findings);
+// The ways to fail, beside each the text that a user reads. A number never changes its meaning; a
+// later library may know more of them.
+enum DiagnosticKind : std::int32_t {
+    noFailure = 0,
+
+    // Arguments.
+    unknownArgument = 1,       // "Unknown option: ..."
+    malformedOption = 2,       // "Unknown option '...'": no name, or a dash too many
+    ambiguousOption = 3,       // "Ambiguous option ..."
+    switchWithValue = 4,       // "Option ...does not requires a value ..."
+    booleanWithValue = 5,      // "Option ... is boolean and should be declared ..."
+    valueMissing = 6,          // "Option ... requires a value ..."
+    valueLooksLikeOption = 7,  // "Option ... received value from the next argument: ..."
+
+    // Values.
+    nothingButSeparators = 8,  // "No value parsed in argument ..."
+    valueOfOtherType = 9,      // "Option ... can not parse ..."
+    valueNotAllowed = 10,      // "Option ... does not allow value ..."
+    ambiguousValue = 11,       // "Ambiguous value for option ..."
+    valueRefused = 12,         // "Value ... is not valid for option ...", by a handler
+
+    // Option files.
+    optionFileUnreadable = 13,  // "Error reading option file ..."
+    optionFileCycle = 14,       // the same, and so the next two: "... in a cycle"
+    tooManyOptionFiles = 15,    // "... more than 1000 option files ..."
+    tooMuchOptionText = 16,     // "... more than 256 MiB of option files ..."
+
+    // Actions.
+    actionsExclude = 17,       // "Action ... and action ... were defined, ..."
+    actionRefusesOption = 18,  // "Action ... doesn't accept option ..."
+    noAction = 19,             // "No action defined."
+
+    exceptionCaught = 20,    // the text of the exception
+    unknownResultName = 21,  // the result holds what another parser found; without a text
+
+    // The modern face alone.
+    checkFailed = 22,         // "Value ... is not valid for option ...", by a check
+    unexpectedArgument = 23,  // "Unexpected argument: ..."
+    emptyArgument = 24,       // "Argument ... is empty"
+    givenByPlace = 25,        // "Argument ... is given by its place, without its name"
+    notBoolean = 26,          // "... it must be 1, true, yes, on, ...", of the environment
+    requiredMissing = 27,     // "... is required"
+    oneRequired = 28,         // "One of ... is required"
+    optionsExclude = 29,      // "... does not go with ..."
+    optionNeeded = 30,        // "... requires option ..."
+};
+
+// How a parse has failed. Texts are never null; those that say nothing for a kind are empty.
+//
+// What failed is the argument: a value that stands in an argument of its own is that argument.
+struct Diagnostic {
+    std::uint32_t size;       // sizeof(Diagnostic) of the caller, who sets it
+    std::int32_t kind;        // a DiagnosticKind
+    std::int32_t code;        // what the parse returned
+    std::int32_t index;       // of the argument, as argv[index]; 0 when it is not on a command line
+    const char* file;         // the option file in which it stands
+    std::uint64_t line;       // of that file, or of the text given to parseStream, from 1 on; or 0
+    const char* argument;     // as it was typed
+    const char* option;       // the primary name of the item
+    const char* value;        // as it was typed: of several the one that is wrong
+    const char* candidates;   // what there is to choose from, one a line
+    const char* suggestions;  // what was probably meant, one a line, to be put in the place of the
+                              // argument; of valueLooksLikeOption, of that and the one behind it
+};
+
+// Tells how the last parse has failed: of a command line, a text or a vector, when it has ended.
+// The kind is noFailure when it has not, when nothing was parsed yet, and when there was no memory
+// to note the failure, whose code and text nobody loses.
+//
+// What is suggested is looked for now, among the names and values that the user may know of: none
+// that is hidden or deprecated. There are at most three, and those equally near to what was typed:
+// one byte of it left out, put in, replaced, or swapped with its neighbour is a mistake, and there
+// may be one in 3 to 5 bytes, two in 6 to 8 and three in up to 64.
+//
+// parser      kept as it is
+// diagnostic  receives as much as its size says; the parser keeps the texts until its destroy
+//
+// Returns toolingDone, or toolingFailed, which leaves the record as it was.
+ZARN_EXPORT int lastDiagnostic(IParser* parser, Diagnostic* diagnostic);
 
 }  // namespace zarn_3_3
 

@@ -8,6 +8,7 @@
 
 #include "zarn/typed/conversion.h"
 #include "zarn/typed/declaration.h"
+#include "zarn/typed/diagnosis.h"
 #include "zarn/typed/handlers.h"
 #include "zarn/typed/parser.h"
 #include "zarn/typed/quantities.h"

@@ -40,7 +40,8 @@ class Adapting {
 public:
     explicit Adapting(const Vocabulary& vocabulary) : vocabulary_(vocabulary) {}
 
-    void add(const std::string& argument, const ItemRecord* waiting) {
+    void add(const std::string& argument, const ItemRecord* waiting, int index) {
+        const std::size_t before = words_.size();
         if (waiting != nullptr && isValue(argument, hasSign(*waiting))) {
             join(argument);
         } else if (isPositional(argument)) {
@@ -48,6 +49,9 @@ public:
             words_.push_back({filled("--{}={}", {name, argument}), argument});
         } else if (!addLetters(argument)) {
             words_.push_back({argument, ""});
+        }
+        for (std::size_t i = before; i < words_.size(); ++i) {
+            words_[i].index = index;
         }
     }
 
@@ -146,6 +150,24 @@ bool quoteTypedAt(std::string& message, std::size_t at, const std::vector<Word>&
     return false;
 }
 
+std::string refuse(Vocabulary& vocabulary,
+                   DiagnosticKind kind,
+                   const ItemRecord& item,
+                   CommandLine line,
+                   int index,
+                   std::string message) {
+    vocabulary.plain().failure().make(
+        kind, {index, 0, {}}, line.argv[index], item.primaryName(), "");
+    return message;
+}
+
+// An empty argument that would be one of a positional item.
+std::string refuseEmpty(Vocabulary& vocabulary, CommandLine line, int index) {
+    const ItemRecord& item = *vocabulary.positionals().front();
+    return refuse(
+        vocabulary, emptyArgument, item, line, index, messages::emptyArgument(item.called()));
+}
+
 }  // namespace
 
 bool hasDash(const std::string& argument) { return getDashLength(argument, 0) != 0; }
@@ -175,7 +197,7 @@ void OptionWalk::next(const std::string& parsed) {
     ++index_;
 }
 
-std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
+std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line) {
     if (!mayBeEmpty(line)) {
         return "";
     }
@@ -184,26 +206,32 @@ std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line) {
     for (; !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         if (argument.empty() && walk.waiting() == nullptr && !positionals.empty()) {
-            return messages::emptyArgument(positionals.front()->called());
+            return refuseEmpty(vocabulary, line, walk.index());
         }
         const ItemRecord* const item = takesNext(vocabulary, argument);
         const std::string_view name = cutArgument(argument).name;
         const bool isCut = name.data() + name.size() != argument.data() + argument.size();
         if (item != nullptr && isCut) {
-            return messages::valueRequired(item->primaryName(), messages::inArgument(argument));
+            return refuse(
+                vocabulary,
+                valueMissing,
+                *item,
+                line,
+                walk.index(),
+                messages::valueRequired(item->primaryName(), messages::inArgument(argument)));
         }
     }
     const bool isTaken = !positionals.empty() && (vocabulary.has(flagPositionalBehindTerminator) ||
                                                   vocabulary.has(flagPositionalTakesRest));
     for (int i = walk.index(); isTaken && isAtArgument(line, i); ++i) {
         if (*line.argv[i] == '\0') {
-            return messages::emptyArgument(positionals.front()->called());
+            return refuseEmpty(vocabulary, line, i);
         }
     }
     return "";
 }
 
-std::string wrongNamedArgument(const Vocabulary& vocabulary, CommandLine line) {
+std::string wrongNamedArgument(Vocabulary& vocabulary, CommandLine line) {
     if (vocabulary.firstOfGroup() == nullptr) {
         return "";
     }
@@ -213,7 +241,12 @@ std::string wrongNamedArgument(const Vocabulary& vocabulary, CommandLine line) {
         const CutArgument cut = cutArgument(argument);
         const ItemRecord* const item = cut.isOption ? vocabulary.resolve(cut.name) : nullptr;
         if (item != nullptr && item->role == Role::positional) {
-            return messages::givenByPlace(item->called());
+            return refuse(vocabulary,
+                          givenByPlace,
+                          *item,
+                          line,
+                          walk.index(),
+                          messages::givenByPlace(item->called()));
         }
     }
     return "";
@@ -223,11 +256,11 @@ std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line)
     Adapting adapting(vocabulary);
     OptionWalk walk(vocabulary, line);
     for (; !walk.isAtEnd(); walk.next(adapting.last())) {
-        adapting.add(walk.argument(), walk.waiting());
+        adapting.add(walk.argument(), walk.waiting(), walk.index());
     }
     std::vector<Word> words = adapting.take();
     for (int i = walk.index(); isAtArgument(line, i); ++i) {
-        words.push_back({line.argv[i], ""});
+        words.push_back({line.argv[i], "", i});
     }
     return words;
 }

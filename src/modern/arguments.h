@@ -21,6 +21,7 @@ struct CommandLine {
 struct Word {
     std::string text;
     std::string typed;
+    int index = 0;  // in argv; of several arguments the first
 };
 
 // An argument cut as the parse cuts it. `isOption` is false for what has no dash in front.
@@ -59,13 +60,15 @@ private:
     const ItemRecord* waiting_ = nullptr;
 };
 
+// These two note the failure.
+
 // What is wrong with the first empty argument that would vanish, or would have the next argument
 // taken for a value. Empty when there is none.
-std::string wrongEmptyArgument(const Vocabulary& vocabulary, CommandLine line);
+std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line);
 
 // What is wrong with the first argument that names one of several positional items: whose value is
 // whose could not be told any more. Empty when there is none.
-std::string wrongNamedArgument(const Vocabulary& vocabulary, CommandLine line);
+std::string wrongNamedArgument(Vocabulary& vocabulary, CommandLine line);
 
 // The arguments behind the first, taken apart by the habits that the vocabulary accepts.
 std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);

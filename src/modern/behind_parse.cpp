@@ -2,6 +2,7 @@
 
 #include <memory>
 #include <string_view>
+#include <utility>
 
 #include "modern/messages.h"
 #include "recognizers/messages.h"
@@ -9,6 +10,8 @@
 
 namespace zarn_3_3::internal {
 namespace {
+
+FailureNote& noteOf(StoredOutcome& outcome) { return outcome.vocabulary().plain().failure(); }
 
 // "--name=text"; of a boolean "--name" or "--no-name". Empty for a text that is no boolean.
 std::string argumentFor(const ItemRecord& item, std::string_view text) {
@@ -62,22 +65,30 @@ int takeVariable(const ItemRecord& item,
     const std::string argument = argumentFor(item, text);
     if (argument.empty()) {
         error = messages::invalidValue(assignment, messages::noBoolean);
+        noteOf(outcome).make(notBoolean, {}, assignment, item.primaryName(), text);
         return resultRuleBroken;
     }
     Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};
     const int code =
         outcome.vocabulary().parseAside(item, argument, assignment, *aside.result, error);
     outcome.asides().push_back(std::move(aside));
+    noteOf(outcome) = std::move(outcome.vocabulary().told());
     return code;
+}
+
+std::string needs(const ItemRecord& item, const ItemRecord& other, StoredOutcome& outcome) {
+    noteOf(outcome).make(optionNeeded, {}, "", item.primaryName(), other.primaryName());
+    return messages::needs(item, other);
 }
 
 // Why the item is missed; empty when it is not.
 std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
     if (item.actions.empty()) {
+        noteOf(outcome).make(requiredMissing, {}, "", item.primaryName(), "");
         return messages::isRequired(item);
     }
     const ItemRecord* const action = actionGiven(outcome, outcome.vocabulary(), item);
-    return action == nullptr ? "" : messages::needs(*action, item);
+    return action == nullptr ? "" : needs(*action, item, outcome);
 }
 
 // The items of a rule.
@@ -96,19 +107,31 @@ RuleState stateOf(const Rule& rule, const StoredOutcome& outcome) {
     return state;
 }
 
+void noteOneRequired(const Rule& rule, StoredOutcome& outcome) {
+    noteOf(outcome).make(oneRequired, {}, "", "", "");
+    Failure* const failure = noteOf(outcome).get();
+    for (std::size_t i = 0; failure != nullptr && i < rule.items.size(); ++i) {
+        failure->candidates.append(i == 0 ? "" : "\n").append(rule.items[i]->primaryName());
+    }
+}
+
 // Why the rule is broken; empty when it is not.
-std::string broken(const Rule& rule, const StoredOutcome& outcome) {
+std::string broken(const Rule& rule, StoredOutcome& outcome) {
     const RuleState state = stateOf(rule, outcome);
     const bool wantsOne = rule.kind == RuleKind::exactlyOne || rule.kind == RuleKind::atMostOne;
     if (wantsOne && state.given.size() > 1) {
-        return messages::exclude(*state.given[0], *state.given[1]);
+        const ItemRecord& other = *state.given[1];
+        noteOf(outcome).make(
+            optionsExclude, {}, "", state.given[0]->primaryName(), other.primaryName());
+        return messages::exclude(*state.given[0], other);
     }
     if (rule.kind == RuleKind::exactlyOne && state.given.empty()) {
+        noteOneRequired(rule, outcome);
         return messages::oneRequired(state.all);
     }
     const bool isAsked = !wantsOne && !state.given.empty() &&
                          (rule.kind == RuleKind::together || state.given[0] == rule.items[0]);
-    return isAsked && !state.others.empty() ? messages::needs(*state.given[0], *state.others[0])
+    return isAsked && !state.others.empty() ? needs(*state.given[0], *state.others[0], outcome)
                                             : "";
 }
 

@@ -10,6 +10,7 @@
 
 #include "modern/arguments.h"
 #include "modern/behind_parse.h"
+#include "modern/failures.h"
 #include "modern/messages.h"
 #include "modern/outcome.h"
 #include "modern/pages.h"
@@ -43,6 +44,7 @@ void conclude(StoredOutcome& outcome, int code) {
     std::string error;
     if (code != resultOk) {
         error = vocabulary.explained(vocabulary.plain().getErrorDesc());
+        refine(vocabulary.plain().failure(), vocabulary.told().get());
     }
     const bool isAlone = isAloneGiven(outcome);
     if (isAlone && code == resultRuleBroken && error == messages::noAction) {
@@ -57,7 +59,7 @@ void conclude(StoredOutcome& outcome, int code) {
     if (code == resultOk && !isAlone) {
         code = checkRules(outcome, error);
     }
-    outcome.end(code, std::move(error));
+    outcome.end(vocabulary.plain().ended(code), std::move(error));
 }
 
 // In two steps, of which only the first can fail.
@@ -84,11 +86,13 @@ void writeTargets(StoredOutcome& outcome) {
 
 // Ends the outcome when something is wrong with the line.
 void refuseWrong(StoredOutcome& outcome,
-                 std::string (*wrong)(const Vocabulary&, CommandLine),
+                 std::string (*wrong)(Vocabulary&, CommandLine),
                  CommandLine line) {
     if (outcome.code == resultOk && line.argv != nullptr) {
-        const std::string error = wrong(outcome.vocabulary(), line);
-        outcome.end(error.empty() ? resultOk : resultRuleBroken, error);
+        Vocabulary& vocabulary = outcome.vocabulary();
+        const std::string error = wrong(vocabulary, line);
+        const int code = error.empty() ? resultOk : resultRuleBroken;
+        outcome.end(vocabulary.plain().ended(code), error);
     }
 }
 
@@ -106,7 +110,8 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
     refuseWrong(*outcome, &wrongNamedArgument, line);
-    if (vocabulary.habits() == 0 || line.argc < 2 || line.argv == nullptr) {
+    if (outcome->code != resultOk || vocabulary.habits() == 0 || line.argc < 2 ||
+        line.argv == nullptr) {
         parseAdapted(*outcome, line);
         return outcome;
     }
@@ -119,6 +124,7 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     if (outcome->code != resultOk) {
         std::string error = outcome->text;
         quoteTyped(error, words);
+        retype(vocabulary.plain().failure(), words);
         outcome->end(outcome->code, std::move(error));
     }
     return outcome;
@@ -230,7 +236,7 @@ Outcome* runLine(Vocabulary* vocabulary,
     if (found) {
         answer = std::move(*found);
     } else if (outcome->code != resultOk) {
-        answer.error = filled("{}: {}\n", {tool, visible(outcome->text)});
+        answer.error = filled("{}: {}\n", {tool, visible(toldInFull(*vocabulary, outcome->text))});
         answer.exitCode = exitCodeFor(outcome->code);
     } else {
         writeTargets(*outcome);

@@ -33,6 +33,15 @@ inline std::string withReason(std::string_view message, std::string_view reason)
     return filled("{}: {}", {message, reason});
 }
 
+// What run adds to a message.
+
+inline std::string atLine(std::string_view file, std::string_view line, std::string_view message) {
+    return filled("{}:{}: {}", {file, line, message});
+}
+inline std::string didYouMean(std::string_view message, std::string_view suggestions) {
+    return filled("{}. Did you mean {}?", {message, suggestions});
+}
+
 // Command lines that the plain interface would take, or take otherwise.
 
 inline std::string unexpectedArgument(std::string_view argument) {

@@ -4,6 +4,7 @@
 #include <new>
 #include <utility>
 
+#include "modern/failures.h"
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
 #include "parser/messages.h"
@@ -245,6 +246,7 @@ bool Vocabulary::accepts(const ItemRecord& item, const Value& value) {
         if (!check->holds(read, reason_)) {
             const bool isUntold = reason_.empty() && isBounded(item);
             reason_ = isUntold ? boundsText(item.least, item.greatest) : reason_;
+            told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
             return false;
         }
     }
@@ -264,6 +266,12 @@ int Vocabulary::parseAside(const ItemRecord& item,
     }
     const char* const arguments[] = {"", argument.c_str()};
     const int code = parser.parseArgsVector(2, arguments, &result);
+    refine(parser.failure(), told_.get());
+    told_ = std::move(parser.failure());
+    if (Failure* const failure = told_.get()) {
+        failure->index = 0;
+        retype(*failure, typed);
+    }
     error = code == resultOk ? "" : explained(parser.getErrorDesc());
     const std::size_t quoted = error.find(argument);
     if (quoted != std::string::npos) {
@@ -275,6 +283,7 @@ int Vocabulary::parseAside(const ItemRecord& item,
 void Vocabulary::beginParse(const ParseResult& result, std::vector<Aside> asides) {
     reason_.clear();
     instead_.clear();
+    told_.clear();
     asides_ = std::move(asides);
     const StoredOption* const given =
         positionals_.empty() ? nullptr : result.find(positionals_[0]->primaryName());
@@ -342,6 +351,7 @@ bool Vocabulary::takePositional(const Value& value) {
     const ItemRecord& item = *positionals_[std::min(number, last)];
     if (number > last && !item.takesMany()) {
         instead_ = messages::unexpectedArgument(value.text);
+        told_.make(unexpectedArgument, {}, value.text, "", value.text);
         return false;
     }
     if (last == 0 || !item.needsOwnParse()) {

@@ -97,6 +97,9 @@ public:
     void beginParse(const ParseResult& result, std::vector<Aside> asides);
     std::vector<Aside> endParse() { return std::move(asides_); }
 
+    // What is known of a value that was refused in this parse.
+    FailureNote& told() { return told_; }
+
     // The message of a failed parse, and what is known beyond it.
     std::string explained(std::string message) const;
 
@@ -137,6 +140,7 @@ private:
     // Of the parse in progress.
     std::string reason_;   // why a value was refused, to be put behind the message
     std::string instead_;  // a message in place of the plain one
+    FailureNote told_;     // beyond what the plain parser notes
     std::size_t positionalCount_ = 0;
     std::vector<Aside> asides_;
 };

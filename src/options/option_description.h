@@ -14,6 +14,7 @@
 #include "text/status.h"
 #include "text/text_locale.h"
 #include "zarn/option.h"
+#include "zarn/tooling.h"
 
 namespace zarn_3_3 {
 
@@ -61,13 +62,13 @@ public:
     const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 
     // Whether `text` is a value of the item: converts it into `converted`, checks it against the
-    // allowed values and completes an abbreviated one: `text` then points into `converted`. On
-    // false `error` says why, and `text` is as it was. Warns of a deprecated value on the error
-    // stream.
-    bool validate(std::string_view& text,
-                  variant_t& converted,
-                  std::string& error,
-                  internal::TextLocale locale) const;
+    // allowed values and completes an abbreviated one: `text` then points into `converted`.
+    // noFailure; or what is wrong, with its text in `error`, and `text` is as it was. Warns of a
+    // deprecated value on the error stream.
+    DiagnosticKind validate(std::string_view& text,
+                            variant_t& converted,
+                            std::string& error,
+                            internal::TextLocale locale) const;
 
     // `text` as a value of the declared type; vtNull when it is none.
     variant_t fromString(std::string_view text, internal::TextLocale locale) const;

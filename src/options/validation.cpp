@@ -76,41 +76,41 @@ void warnIfDeprecated(const OptionDescription& option,
 
 }  // namespace
 
-bool OptionDescription::validate(std::string_view& text,
-                                 variant_t& converted,
-                                 std::string& error,
-                                 internal::TextLocale locale) const {
+DiagnosticKind OptionDescription::validate(std::string_view& text,
+                                           variant_t& converted,
+                                           std::string& error,
+                                           internal::TextLocale locale) const {
     converted = fromString(text, locale);
     if (converted.type() == vtNull) {
         error = messages::notOfItsType(primaryName(), text, getTypeName());
-        return false;
+        return valueOfOtherType;
     }
     // Deprecated values without allowed ones have no say: everything is accepted already.
     if (allowedValues.empty()) {
-        return true;
+        return noFailure;
     }
     // Values are compared, not texts: 0x10 is 16, and 1.0 is 1. What is equal to one of them is
     // never taken for the beginning of another.
     if (visitAccepted(*this, [&](const variant_t& value) { return value == converted; })) {
         warnIfDeprecated(*this, text, converted);
-        return true;
+        return noFailure;
     }
     // Texts alone can be abbreviated; of a number, the beginning is another number.
     const Abbreviated found = type == vtString ? findAbbreviated(*this, text) : Abbreviated{};
     if (found.matches == 0) {
         error = messages::valueNotAllowed(primaryName(), text, allowedValueList(*this));
-        return false;
+        return valueNotAllowed;
     }
     if (found.matches > 1) {
         error = messages::ambiguousValue(primaryName(), allowedValueList(*this));
-        return false;
+        return ambiguousValue;
     }
     // From here on the full value counts, for handlers and results; the log and a veto name what
     // was typed.
     converted = variant_t(found.match);
     warnIfDeprecated(*this, found.match, converted);
     text = converted.get<const char*>();
-    return true;
+    return noFailure;
 }
 
 }  // namespace zarn_3_3

@@ -10,6 +10,7 @@
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
 #include "parser/messages.h"
+#include "recognizers/failure.h"
 #include "result/parse_result.h"
 #include "zarn/parser.h"
 
@@ -45,8 +46,9 @@ class ActionCheck {
 public:
     ActionCheck(const RegisteredOptionStorage& registry,
                 const ActionGroups& groups,
-                std::string& error)
-        : registry_(registry), groups_(groups), error_(error) {}
+                std::string& error,
+                FailureNote& failure)
+        : registry_(registry), groups_(groups), error_(error), failure_(failure) {}
 
     int check(const ParseResult& result) {
         std::vector<GivenItem> given = entriesToCheck(registry_, result);
@@ -60,14 +62,19 @@ public:
             return checkModifiers(given);
         }
         if (registry_.hasActions() && isOptionSeen_) {
-            return refuse(messages::noAction);
+            return refuse(noAction, "", "", messages::noAction);
         }
         return resultOk;
     }
 
 private:
-    int refuse(const std::string& message) {
+    // `value`: the other item that it is about.
+    int refuse(DiagnosticKind kind,
+               std::string_view item,
+               std::string_view value,
+               const std::string& message) {
         error_ = message;
+        failure_.make(kind, {}, "", item, value);
         return resultRuleBroken;
     }
 
@@ -77,6 +84,7 @@ private:
         // A name that another parser stored. Kept: the code of the lookup becomes that of the
         // parse, which reads as a veto, and the error text stays as it was.
         if (found != resultSuccess) {
+            failure_.make(unknownResultName, {}, "", given.entry->name, "");
             return found;
         }
         given.item = &registry_.items()[index];
@@ -99,8 +107,9 @@ private:
             narrowGroups(action.primaryName(), isFirst);
         }
         if (&action != firstAction_ && !assertActionsCanBeUsedSimultaneously()) {
-            return refuse(
-                messages::actionsExclude(action.primaryName(), firstAction_->primaryName()));
+            const std::string& name = action.primaryName();
+            const std::string& first = firstAction_->primaryName();
+            return refuse(actionsExclude, name, first, messages::actionsExclude(name, first));
         }
         return resultOk;
     }
@@ -130,8 +139,10 @@ private:
             const OptionDescription& item = *one.item;
             if (item.kind != kindAction && !item.tags.empty() && !one.entry->positions.empty() &&
                 !isIntersected(item.tags, actions_)) {
+                const std::string& name = item.primaryName();
+                const std::string& action = firstAction_->primaryName();
                 return refuse(
-                    messages::actionRefusesOption(firstAction_->primaryName(), item.primaryName()));
+                    actionRefusesOption, name, action, messages::actionRefusesOption(action, name));
             }
         }
         return resultOk;
@@ -140,6 +151,7 @@ private:
     const RegisteredOptionStorage& registry_;
     const ActionGroups& groups_;
     std::string& error_;
+    FailureNote& failure_;
     const OptionDescription* firstAction_ = nullptr;
     bool isOptionSeen_ = false;
     std::set<std::string> actions_;          // the primary names of those given
@@ -151,8 +163,9 @@ private:
 int checkActionRules(const RegisteredOptionStorage& registry,
                      const ActionGroups& groups,
                      const ParseResult& result,
-                     std::string& error) {
-    return ActionCheck(registry, groups, error).check(result);
+                     std::string& error,
+                     FailureNote& failure) {
+    return ActionCheck(registry, groups, error, failure).check(result);
 }
 
 }  // namespace zarn_3_3::internal

@@ -13,6 +13,7 @@ class RegisteredOptionStorage;
 namespace internal {
 
 class ActionGroups;
+class FailureNote;
 
 // Whether what `result` holds goes together: one action, or several of one group; an action, when
 // there are any, as soon as anything else stands there; no modifier of another action. resultOk, or
@@ -21,7 +22,8 @@ class ActionGroups;
 int checkActionRules(const RegisteredOptionStorage& registry,
                      const ActionGroups& groups,
                      const ParseResult& result,
-                     std::string& error);
+                     std::string& error,
+                     FailureNote& failure);
 
 }  // namespace internal
 }  // namespace zarn_3_3

@@ -27,7 +27,8 @@ CommandLineArguments::CommandLineArguments(int argc, const char* const* argv) {
         throw std::invalid_argument("The argument vector is null");
     }
     // The name of the program is no argument.
-    at_ = argv + 1;
+    begin_ = argv + 1;
+    at_ = begin_;
     end_ = argv + argc;
 }
 
@@ -42,12 +43,19 @@ bool CommandLineArguments::next(std::string& argument) {
 }
 
 void CommandLineArguments::copyRest() {
+    beforeCopy_ = static_cast<std::size_t>(at_ - begin_);
     // The pointers too: a handler may write into the vector itself.
     for (; at_ != end_ && *at_ != nullptr; ++at_) {
         copies_.push_back(texts_.keep(*at_));
     }
-    at_ = copies_.data();
+    begin_ = copies_.data();
+    at_ = begin_;
     end_ = at_ + copies_.size();
+}
+
+Place CommandLineArguments::placeOf(std::size_t age) const {
+    const std::size_t given = beforeCopy_ + static_cast<std::size_t>(at_ - begin_);
+    return {static_cast<int>(given - age) + 1, 0, {}};
 }
 
 VectorArguments::~VectorArguments() {
@@ -65,9 +73,14 @@ bool VectorArguments::next(std::string& argument) {
     return true;
 }
 
+// As though the name of the program stood in front of the vector.
+Place VectorArguments::placeOf(std::size_t age) const {
+    return {static_cast<int>(read_ - age) + 1, 0, {}};
+}
+
 // Kept: "-1" reads as "?".
-TextArguments::TextArguments(std::string_view text, Owner owner)
-    : rest_(text == "-1" ? "?" : text), owner_(owner) {}
+TextArguments::TextArguments(std::string_view text, Owner owner, std::string_view file)
+    : rest_{text == "-1" ? "?" : text, 1}, owner_(owner), file_(file) {}
 
 bool TextArguments::next(std::string& argument) {
     if (position_ == lines_.size()) {
@@ -79,7 +92,9 @@ bool TextArguments::next(std::string& argument) {
             return false;
         }
     }
-    argument = lines_[position_];
+    argument = lines_[position_].argument;
+    lineBefore_ = lastLine_;
+    lastLine_ = lines_[position_].line;
     ++position_;
     return true;
 }
@@ -89,22 +104,28 @@ void TextArguments::copyRest() {
     if (owner_ == Owner::library) {
         return;
     }
-    const char* const start = position_ == lines_.size() ? rest_.data() : lines_[position_].data();
-    copy_.assign(start, rest_.data() + rest_.size());
-    rest_ = copy_;
+    const char* start = rest_.text.data();
+    if (position_ != lines_.size()) {
+        start = lines_[position_].argument.data();
+        rest_.line = lines_[position_].line;
+    }
+    copy_.assign(start, rest_.text.data() + rest_.text.size());
+    rest_.text = copy_;
     lines_.clear();
     position_ = 0;
 }
 
-void parseStreamToArgs(std::string_view& text,
-                       std::vector<std::string_view>& args,
-                       std::size_t count) {
-    while (!text.empty() && args.size() < count) {
-        const std::string_view line = text.substr(0, text.find('\n'));
-        text.remove_prefix(std::min(line.size() + 1, text.size()));
+Place TextArguments::placeOf(std::size_t age) const {
+    return {0, age == 1 ? lastLine_ : lineBefore_, file_};
+}
+
+void parseStreamToArgs(TextRest& rest, std::vector<TextLine>& args, std::size_t count) {
+    for (; !rest.text.empty() && args.size() < count; ++rest.line) {
+        const std::string_view line = rest.text.substr(0, rest.text.find('\n'));
+        rest.text.remove_prefix(std::min(line.size() + 1, rest.text.size()));
         const std::string_view argument = argumentOf(line);
         if (!argument.empty()) {
-            args.push_back(argument);
+            args.push_back({argument, rest.line});
         }
     }
 }

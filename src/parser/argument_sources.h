@@ -22,10 +22,13 @@ public:
 private:
     bool next(std::string& argument) override;
     void copyRest() override;
+    Place placeOf(std::size_t age) const override;
 
+    const char* const* begin_ = nullptr;
     const char* const* at_ = nullptr;
     const char* const* end_ = nullptr;
-    TextArena texts_;  // of the copy
+    std::size_t beforeCopy_ = 0;  // were given out when the copy was made
+    TextArena texts_;             // of the copy
     std::vector<const char*> copies_;
 };
 
@@ -41,36 +44,50 @@ public:
 private:
     bool next(std::string& argument) override;
     void copyRest() override {}
+    Place placeOf(std::size_t age) const override;
 
     std::vector<std::string>& all_;
     std::size_t read_ = 0;  // from its front; those in the window are not taken yet
 };
+
+// What is left of a text.
+struct TextRest {
+    std::string_view text;
+    std::size_t line;  // the number of its first one
+};
+
+// An argument of a text.
+struct TextLine {
+    std::string_view argument;  // points into the text
+    std::size_t line;
+};
+
+// Cuts arguments off the front of `rest`, one a line, and appends them to `args`, until those are
+// `count` or none is left; empty lines and comments (';', '#') are dropped. Throws std::bad_alloc.
+void parseStreamToArgs(TextRest& rest, std::vector<TextLine>& args, std::size_t count);
 
 // The arguments of a text.
 class TextArguments final : public Arguments {
 public:
     enum class Owner { client, library };
 
-    // A text of the library's own must outlive this object.
-    TextArguments(std::string_view read, Owner owner);
+    // A text of the library's own must outlive this object, and so must the name of its file.
+    TextArguments(std::string_view read, Owner owner, std::string_view file = {});
 
 private:
     bool next(std::string& argument) override;
     void copyRest() override;
+    Place placeOf(std::size_t age) const override;
 
-    std::string_view rest_;
-    std::vector<std::string_view> lines_;  // those that were cut off last
-    std::size_t position_ = 0;             // among them
+    TextRest rest_;
+    std::vector<TextLine> lines_;  // those that were cut off last
+    std::size_t position_ = 0;     // among them
+    std::size_t lastLine_ = 0;     // of the argument given out last,
+    std::size_t lineBefore_ = 0;   // and of the one before
     Owner owner_;
+    std::string_view file_;
     std::string copy_;
 };
-
-// Cuts arguments off the front of `text`, one a line, and appends them to `args`, until those are
-// `count` or none is left; empty lines and comments (';', '#') are dropped. They point into `text`.
-// Throws std::bad_alloc.
-void parseStreamToArgs(std::string_view& text,
-                       std::vector<std::string_view>& args,
-                       std::size_t count);
 
 }  // namespace zarn_3_3::internal
 

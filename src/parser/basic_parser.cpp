@@ -137,8 +137,23 @@ bool BasicParser::isOptionDeclared(const char* name, bool action, const char* se
            guardedAnswer(false, [&] { return registry.isDeclared(name, action, section); });
 }
 
+int BasicParser::ended(int code) {
+    if (code == resultOk) {
+        failure_.clear();
+        return code;
+    }
+    if (code == resultException) {
+        failure_.make(exceptionCaught, {}, "", "", "");
+    }
+    if (Failure* const failure = failure_.get()) {
+        failure->code = code;
+    }
+    return code;
+}
+
 int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult* result) {
-    return guarded(lastError, [&] {
+    failure_.clear();
+    return ended(guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
         // Defaults come before anything that can fail, so that a failed parse leaves them, and in
         // front of all numbers of the line.
@@ -149,15 +164,16 @@ int BasicParser::parseArgsVector(int argc, const char* const* argv, IParseResult
         }
         CommandLineArguments arguments(argc, argv);
         return parseAll(arguments, filled);
-    });
+    }));
 }
 
 int BasicParser::parseStream(const char* text, IParseResult* result) {
-    return guarded(lastError, [&] {
+    failure_.clear();
+    return ended(guarded(lastError, [&] {
         ParseResult& filled = ownResult(result);
         TextArguments arguments(text == nullptr ? "" : text, TextArguments::Owner::client);
         return parseAll(arguments, filled);
-    });
+    }));
 }
 
 const char* BasicParser::getErrorDesc() {
@@ -226,7 +242,7 @@ int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* resul
     // A copy: the terminator and what follows stay in the vector of whoever called.
     std::vector<std::string> rest(args);
     VectorArguments arguments(rest);
-    return parseBehindOptions(driver, arguments, filled);
+    return ended(parseBehindOptions(driver, arguments, filled));
 }
 
 int BasicParser::parse_phase_one(const std::string& terminator,
@@ -236,14 +252,16 @@ int BasicParser::parse_phase_one(const std::string& terminator,
     // What would be refused can be asked without a result.
     ParseResult* const filled = result == nullptr ? nullptr : &ownResult(result);
     VectorArguments arguments(args);
-    return driverFor(filled, error).parseOptions(terminator, arguments);
+    failure_.clear();
+    return ended(driverFor(filled, error).parseOptions(terminator, arguments));
 }
 
 int BasicParser::parse_phase_two(const std::string& /*terminator*/,
                                  std::vector<std::string>& /*args*/,
                                  IParseResult* result,
                                  std::string& error) {
-    return checkActionRules(registry, allowedActionSets, ownResult(result), error);
+    failure_.clear();
+    return ended(checkActionRules(registry, allowedActionSets, ownResult(result), error, failure_));
 }
 
 int BasicParser::parseAll(Arguments& arguments, ParseResult& result) {
@@ -260,17 +278,17 @@ int BasicParser::parseBehindOptions(ParseDriver& driver,
     // Files come behind the line itself, so that of values given in both the last one is the
     // file's.
     if (code == resultOk && optionFileDeclared) {
-        code = OptionFileWalk(driver, result, lastError).run();
+        code = OptionFileWalk(driver, result, lastError, failure_).run();
     }
     if (code == resultOk) {
-        code = checkActionRules(registry, allowedActionSets, result, lastError);
+        code = checkActionRules(registry, allowedActionSets, result, lastError, failure_);
     }
     return code;
 }
 
 ParseDriver BasicParser::driverFor(ParseResult* result, std::string& error) {
     return {
-        registry, {*this, handlers},
+        registry, {*this, handlers, failure_},
          flags, result, error
     };
 }

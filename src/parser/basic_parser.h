@@ -11,6 +11,7 @@
 #include "options/registered_option_storage.h"
 #include "parser/action_groups.h"
 #include "parser/passing_events.h"
+#include "recognizers/failure.h"
 #include "recognizers/handler_set.h"
 #include "text/garbage.h"
 #include "zarn/parser.h"
@@ -80,6 +81,13 @@ public:
     bool readsOptionFiles() const { return optionFileDeclared; }
     const char* keep(std::string_view text) { return garbage.keep(text); }
 
+    // How the last parse has failed. The modern face puts there what it finds wrong itself.
+    internal::FailureNote& failure() { return failure_; }
+
+    // To be asked by each operation that parses, with its code, when it is about to return. Only a
+    // failure of its own is left: a handler may have parsed meanwhile.
+    int ended(int code);
+
 protected:
     // Slots of the binary interface behind those of IParser. They let exceptions through.
     //
@@ -115,6 +123,7 @@ private:
     internal::PassingEvents passing_;
     bool optionFileDeclared = false;
     internal::ActionGroups allowedActionSets;
+    internal::FailureNote failure_;
 };
 
 }  // namespace zarn_3_3

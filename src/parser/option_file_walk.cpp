@@ -3,6 +3,7 @@
 #include "parser/argument_sources.h"
 #include "parser/messages.h"
 #include "parser/parse_driver.h"
+#include "recognizers/failure.h"
 #include "result/parse_result.h"
 #include "zarn/parser.h"
 
@@ -46,36 +47,44 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
     // reason.
     const auto identity = TROV_2_18::system::identify(path);
     if (identity && isBeingRead(*identity, namedIn)) {
-        return refuse(messages::optionFileRefused(path, messages::optionFileCycle));
+        return refuse(
+            optionFileCycle, path, messages::optionFileRefused(path, messages::optionFileCycle));
     }
     if (files_.size() == mostFiles) {
-        return refuse(messages::optionFileRefused(path, messages::tooManyOptionFiles));
+        return refuse(tooManyOptionFiles,
+                      path,
+                      messages::optionFileRefused(path, messages::tooManyOptionFiles));
     }
     std::string content;
     if (TROV_2_18::system::load_file(path, content) != 0) {
-        return refuse(messages::optionFileUnreadable(path));
+        return refuse(optionFileUnreadable, path, messages::optionFileUnreadable(path));
     }
     // After the load, which has a limit of its own: a file may change until it is read, a pipe has
     // no size.
     bytesRead_ += content.size();
     if (bytesRead_ > mostBytes) {
-        return refuse(messages::optionFileRefused(path, messages::tooMuchOptionText));
+        return refuse(tooMuchOptionText,
+                      path,
+                      messages::optionFileRefused(path, messages::tooMuchOptionText));
     }
     files_.push_back({identity, namedIn});
-    const int code = parse(content);
+    const int code = parse(content, path);
     noteNewValues(files_.size() - 1);
     return code;
 }
 
-int OptionFileWalk::parse(const std::string& content) {
+int OptionFileWalk::parse(const std::string& content, const std::string& path) {
     const ParseResult::FromFile numbers(result_);
-    TextArguments arguments(content, TextArguments::Owner::library);
+    TextArguments arguments(content, TextArguments::Owner::library, path);
     const int code = driver_.parseOptions(endOfOptions, arguments);
     return code != resultOk ? code : driver_.collectNonparsingArguments(endOfOptions, arguments);
 }
 
-int OptionFileWalk::refuse(const std::string& message) {
+int OptionFileWalk::refuse(DiagnosticKind kind,
+                           const std::string& path,
+                           const std::string& message) {
     error_ = message;
+    failure_.make(kind, {}, "", optionFileName, path);
     return resultOptionFileUnreadable;
 }
 

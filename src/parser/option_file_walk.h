@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "platform/load_file.h"
+#include "zarn/tooling.h"
 
 namespace zarn_3_3 {
 
@@ -16,6 +17,7 @@ class ParseResult;
 
 namespace internal {
 
+class FailureNote;
 class ParseDriver;
 
 constexpr const char* optionFileName = "option-file";
@@ -25,8 +27,11 @@ constexpr const char* optionFileName = "option-file";
 // is named again below itself would make that endless.
 class OptionFileWalk {
 public:
-    OptionFileWalk(ParseDriver& driver, ParseResult& result, std::string& error)
-        : driver_(driver), result_(result), error_(error) {}
+    OptionFileWalk(ParseDriver& driver,
+                   ParseResult& result,
+                   std::string& error,
+                   FailureNote& failure)
+        : driver_(driver), result_(result), error_(error), failure_(failure) {}
 
     // resultOk, resultOptionFileUnreadable, or the code with which a file's arguments failed.
     int run();
@@ -40,14 +45,15 @@ private:
     };
 
     int read(const std::string& path, std::size_t namedIn);
-    int parse(const std::string& content);
-    int refuse(const std::string& message);
+    int parse(const std::string& content, const std::string& path);
+    int refuse(DiagnosticKind kind, const std::string& path, const std::string& message);
     bool isBeingRead(const TROV_2_18::system::FileIdentity& identity, std::size_t innermost) const;
     void noteNewValues(std::size_t namedIn);
 
     ParseDriver& driver_;
     ParseResult& result_;
     std::string& error_;
+    FailureNote& failure_;
     std::vector<File> files_;
     std::vector<std::size_t> valueNamedIn_;  // for each value the file that named it, or none
     std::size_t bytesRead_ = 0;

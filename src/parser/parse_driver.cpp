@@ -7,6 +7,7 @@
 #include "parser/argument_sources.h"
 #include "parser/messages.h"
 #include "recognizers/abbreviation_parser.h"
+#include "recognizers/failure.h"
 #include "recognizers/positional_options_parser.h"
 #include "result/parse_result.h"
 #include "text/text_locale.h"
@@ -101,6 +102,8 @@ int ParseDriver::passOver(Arguments& arguments) {
     const bool isUnhandled = audience_.handler.onUknownArgument(arguments.front().c_str());
     if (isUnhandled && (flags_ & flagUnknownIsError) != 0) {
         error_ = messages::unknownArgument(arguments.front());
+        audience_.failure.make(
+            unknownArgument, arguments.placeOfFront(), arguments.front(), "", "");
         return resultRuleBroken;
     }
     trace("ignoring ", arguments.front());

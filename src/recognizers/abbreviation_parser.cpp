@@ -114,6 +114,7 @@ void AbbreviationParser::tellProblem(bool isName, std::string& error) {
     std::string& argument = arguments_.front();
     error = isName ? messages::ambiguousOption(text_, formatTokenMessage(argument), candidates)
                    : messages::unknownOption(argument);
+    noteFront(isName ? ambiguousOption : malformedOption, "", "");
 }
 
 int AbbreviationParser::decideValue(const OptionDescription& option, std::string& error) {
@@ -135,10 +136,17 @@ int AbbreviationParser::decideValue(const OptionDescription& option, std::string
 
 int AbbreviationParser::refuseValue(const OptionDescription& option, std::string& error) {
     const std::string suffix = formatTokenMessage(arguments_.front());
-    return refuse(option.type == vtNull
-                      ? messages::switchTakesNoValue(option.primaryName(), suffix)
-                      : messages::booleanTakesNoValue(option.primaryName(), suffix),
-                  error);
+    const std::string& primary = option.primaryName();
+    return option.type == vtNull ? refuse(switchWithValue,
+                                          option,
+                                          value_,
+                                          messages::switchTakesNoValue(primary, suffix),
+                                          error)
+                                 : refuse(booleanWithValue,
+                                          option,
+                                          value_,
+                                          messages::booleanTakesNoValue(primary, suffix),
+                                          error);
 }
 
 int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::string& error) {
@@ -147,7 +155,11 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::s
     // Most likely the value was forgotten, and this is the next option. A negative number looks the
     // same, and has to be attached.
     if (next != nullptr && !next->empty() && next->front() == '-') {
-        return refuse(messages::valueSeemsToBeOption(option.primaryName(), *next), error);
+        return refuse(valueLooksLikeOption,
+                      option,
+                      *next,
+                      messages::valueSeemsToBeOption(option.primaryName(), *next),
+                      error);
     }
     if (next != nullptr) {
         value_ = *next;
@@ -156,6 +168,9 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::s
     }
     if (value_.empty()) {
         return refuse(
+            valueMissing,
+            option,
+            "",
             messages::valueRequired(option.primaryName(), formatTokenMessage(arguments_.front())),
             error);
     }

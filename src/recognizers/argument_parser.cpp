@@ -7,6 +7,7 @@
 #include <stdexcept>
 #include <utility>
 
+#include "recognizers/failure.h"
 #include "recognizers/messages.h"
 #include "result/option_data.h"
 #include "result/result_collector.h"
@@ -70,10 +71,35 @@ bool IArgumentParser::mayChange(const OptionDescription& option,
     return registry.isOpen(index);
 }
 
-int IArgumentParser::refuse(std::string reason, std::string& error) const {
+int IArgumentParser::refuse(DiagnosticKind kind,
+                            const OptionDescription& option,
+                            std::string_view value,
+                            std::string reason,
+                            std::string& error) const {
     trace(name, ": ", reason);
     error = std::move(reason);
+    note(kind, option.primaryName(), value);
     return resultRuleBroken;
+}
+
+void IArgumentParser::noteFront(DiagnosticKind kind,
+                                std::string_view option,
+                                std::string_view value) const {
+    audience_.failure.make(kind, arguments_.placeOfFront(), arguments_.front(), option, value);
+}
+
+// A value that stands in an argument of its own is what failed, but where it was not taken for one.
+void IArgumentParser::note(DiagnosticKind kind,
+                           std::string_view option,
+                           std::string_view value) const {
+    const std::vector<std::string>& window = arguments_.window();
+    const bool isApart =
+        kind != valueLooksLikeOption && window.size() > 1 && placeIn(window[1], value) != elsewhere;
+    if (isApart) {
+        audience_.failure.make(kind, arguments_.placeOfSecond(), window[1], option, value);
+    } else {
+        noteFront(kind, option, value);
+    }
 }
 
 void IArgumentParser::take() {
@@ -118,7 +144,11 @@ int IArgumentParser::bindPieces(std::string_view value,
     // value that is nothing else is an error.
     std::size_t start = value.find_first_not_of(separator);
     if (start == std::string_view::npos) {
-        return refuse(messages::noValueParsed(value, option.primaryName()), error);
+        return refuse(nothingButSeparators,
+                      option,
+                      value,
+                      messages::noValueParsed(value, option.primaryName()),
+                      error);
     }
     while (start != std::string_view::npos) {
         const std::size_t end = value.find(separator, start);
@@ -146,8 +176,10 @@ int IArgumentParser::bindPiece(std::string_view piece,
     OptionValue& bound = data_->values.emplace_back();
     bound.text = piece;
     // What is wrong about the value is known to the item; which argument it stands in, only here.
-    if (!option.validate(bound.text, bound.value, error, textLocale())) {
-        return refuse(messages::invalidValue(arguments_.front(), error), error);
+    const DiagnosticKind problem = option.validate(bound.text, bound.value, error, textLocale());
+    if (problem != noFailure) {
+        return refuse(
+            problem, option, piece, messages::invalidValue(arguments_.front(), error), error);
     }
     bound.position = Sequence::draw();
     if (!audience_.isThere() || isWelcome(bound, option.primaryName())) {
@@ -155,6 +187,7 @@ int IArgumentParser::bindPiece(std::string_view piece,
     }
     error = messages::vetoedValue(value, option.primaryName(), arguments_.front());
     trace(name, error, messages::handlerVetoed);  // kept: nothing behind the name
+    note(valueRefused, option.primaryName(), piece);
     return resultVetoed;
 }
 

@@ -74,8 +74,18 @@ protected:
                                const OptionDescription& option,
                                IResultCollector* collector);
 
-    // Logs why the argument in front is refused, and makes it the error.
-    int refuse(std::string reason, std::string& error) const;
+    // Logs why the argument in front is refused, and makes it the error. `value`: what is wrong, or
+    // empty.
+    [[gnu::cold]] int refuse(DiagnosticKind kind,
+                             const OptionDescription& option,
+                             std::string_view value,
+                             std::string reason,
+                             std::string& error) const;
+
+    // Notes that the argument in front is wrong.
+    [[gnu::cold]] void noteFront(DiagnosticKind kind,
+                                 std::string_view option,
+                                 std::string_view value) const;
 
     void take();
 
@@ -113,6 +123,9 @@ private:
                   std::string_view value,
                   const OptionDescription& option,
                   std::string& error);
+    [[gnu::cold]] void note(DiagnosticKind kind,
+                            std::string_view option,
+                            std::string_view value) const;
     bool isWelcome(const OptionValue& value, const std::string& option) const;
 
     internal::TextLocale initialLocale_ = internal::globalTextLocale();

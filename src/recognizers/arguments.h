@@ -5,10 +5,18 @@
 
 #include <cstddef>
 #include <string>
+#include <string_view>
 #include <utility>
 #include <vector>
 
 namespace zarn_3_3::internal {
+
+// Where an argument stands: in argv, or on a line of a text. 0: there is none.
+struct Place {
+    int index = 0;
+    std::size_t line = 0;
+    std::string_view file;  // of the text; lives as long as the arguments
+};
 
 // Gives arguments out one after the other; where they come from says the class derived from it.
 //
@@ -55,6 +63,11 @@ public:
     // The one or two arguments that are looked at, as recognisers are called with them.
     std::vector<std::string>& window() { return window_; }
 
+    // Where the argument in front stands, or the one that is looked at behind it. Worked out when
+    // it is asked for, which is when one has failed.
+    Place placeOfFront() const { return placeOf(window_.size()); }
+    Place placeOfSecond() const { return placeOf(1); }
+
 protected:
     Arguments() { window_.reserve(2); }
     ~Arguments() = default;
@@ -64,6 +77,9 @@ private:
     virtual bool next(std::string& argument) = 0;
 
     virtual void copyRest() = 0;
+
+    // `age` is 1 for the argument that was given out last, 2 for the one before.
+    virtual Place placeOf(std::size_t age) const = 0;
 
     bool lookAhead() {
         std::string argument;

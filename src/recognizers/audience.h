@@ -1,4 +1,4 @@
-// Who hears the events of a parse.
+// Who hears of a parse.
 
 #ifndef ZARN_RECOGNIZERS_AUDIENCE_H
 #define ZARN_RECOGNIZERS_AUDIENCE_H
@@ -7,11 +7,14 @@
 
 namespace zarn_3_3::internal {
 
+class FailureNote;
+
 // Events go to the parser, which passes them on to the handlers registered there. While there are
 // none it is not called: most parses are heard by nobody.
 struct Audience {
     EventHandler& handler;
     const HandlerSet& registered;
+    FailureNote& failure;  // for who asks afterwards
 
     bool isThere() const { return !registered.isEmpty(); }
 };

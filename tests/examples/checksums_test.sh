@@ -150,7 +150,7 @@ row 2 stderr 'checksums: Unknown option: -a\x1b[31m' --create -a$'\e[31m' data
 row 2 stderr "checksums: Ambiguous option 'co' in argument: '--co', could be: 'compare', 'color'" --co
 row 2 stderr "checksums: Action '-compare' and action '-create' were defined, but only one action possible." --create --compare a.txt a.txt
 row 2 stderr "checksums: Action '-compare' doesn't accept option '-manifest'" --compare --manifest=x a.txt a.txt
-row 2 stderr "checksums: Option 'color' is boolean and should be declared in form '--option' or '--no-option' in argument: '--color=1'" --color=1
+row 2 stderr "checksums: Option 'color' is boolean and should be declared in form '--option' or '--no-option' in argument: '--color=1'. Did you mean '--color'?" --color=1
 row 2 stderr "checksums: Action '--create' requires argument 'FILE'" --create
 row 2 stderr "checksums: Argument 'FILE' is empty" --create ''
 row 2 stderr "checksums: Action '--compare' needs two manifests, the old one and the new one." --compare a.txt

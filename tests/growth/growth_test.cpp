@@ -9,7 +9,7 @@
 namespace zarn_3_3 {
 namespace {
 
-using testing_support::Tool;
+using testing_support::PlainTool;
 using Words = std::vector<std::string>;
 
 struct Listener final : EventHandler {
@@ -68,7 +68,7 @@ TEST(Growth, IsLinearInArguments) {
     for (const CommandLine& line : commandLines) {
         SCOPED_TRACE(line.argument);
         expectLinear([&line](std::size_t n) {
-            Tool tool(line.flags);
+            PlainTool tool(line.flags);
             tool->addHandler(&listener);
             tool.option("x");
             if (line.isPositional) {
@@ -89,7 +89,7 @@ TEST(Growth, IsLinearInATextAndItsPieces) {
     for (const char* piece : {"--x=value\n# comment\n", "--x\nvalue\n", "a-piece,", ","}) {
         SCOPED_TRACE(piece);
         expectLinear([piece](std::size_t n) {
-            Tool tool;
+            PlainTool tool;
             tool.option("x");
             std::string text = "--x=a,";
             while (n-- > 0) {
@@ -105,7 +105,7 @@ TEST(Growth, IsLinearInATextAndItsPieces) {
 // and they are looked for among the actions, where they are not, and in another section.
 TEST(Growth, IsLinearInDeclarations) {
     expectLinear([](std::size_t n) {
-        Tool tool;
+        PlainTool tool;
         return measure([&] {
             for (std::size_t i = 0; i < n; ++i) {
                 const std::string name = numbered("name", i);  // its end names a section
@@ -128,7 +128,7 @@ TEST(Growth, IsLinearInDeclarations) {
 // With a handler each occurrence has a copy of the item declared last, but not of its tags.
 TEST(Growth, IsLinearInTagsAndOccurrences) {
     expectLinear([](std::size_t n) {
-        Tool tool;
+        PlainTool tool;
         tool->addHandler(&listener);
         IOption& item = tool.option("x", vtNull);
         for (std::size_t i = 0; i < n; ++i) {
@@ -143,7 +143,7 @@ TEST(Growth, IsLinearInTheLengthOfAnArgument) {
     for (const char* const front : {"--x=", "--", "--dry=", "--level=", "--list=", "-----", ""}) {
         SCOPED_TRACE(front);
         expectLinear([front](std::size_t n) {
-            Tool tool(flagUnknownIsError | flagPositionalWithoutDash);
+            PlainTool tool(flagUnknownIsError | flagPositionalWithoutDash);
             tool.option("x").tokenize(0);
             tool.option("dry", vtNull);
             tool.option("level", vtS32);
@@ -157,7 +157,7 @@ TEST(Growth, IsLinearInTheLengthOfAnArgument) {
 
 // What was handed out is handed out again, and what is refused leaves nothing behind.
 TEST(Growth, EndsWhenTheSameIsAskedAgain) {
-    Tool tool(flagUnknownIsError);
+    PlainTool tool(flagUnknownIsError);
     tool.option("name");
     ASSERT_EQ(tool.parse({"--name=x", "--unknown"}), resultRuleBroken);
     const auto ask = [&](int i) {
@@ -183,7 +183,7 @@ TEST(Growth, EndsWhenTheSameIsAskedAgain) {
 // There are no more beginnings than bytes in the names, whatever lengths are asked for.
 TEST(Growth, OfBeginningsEndsWithTheNames) {
     constexpr std::size_t n = 2000;
-    Tool tool;
+    PlainTool tool;
     tool.option(std::string(n, 'x'), vtNull);
     for (std::size_t i = 0; i < n; ++i) {
         tool.option(numbered("name", i), vtNull);
@@ -197,7 +197,7 @@ TEST(Growth, OfBeginningsEndsWithTheNames) {
 }
 
 TEST(Default, IsKeptOnceByAResult) {
-    Tool tool;
+    PlainTool tool;
     tool.option("x,y").defaultValue("text");
     const char* kept = nullptr;
     for (int i = 0; i < 2; ++i) {

@@ -26,7 +26,7 @@ int (*create)(zarn::IParser** out, int flags) = nullptr;
 
 // Values could not be linked: their destructor is the library's.
 void use() {
-    zarn_3_3::testing_support::Tool tool(zarn::flagUnknownIsError);
+    zarn_3_3::testing_support::PlainTool tool(zarn::flagUnknownIsError);
     tool.option("level,l", zarn::vtS32);
     // With the log, which keeps a stream for as long as the library is there.
     const char* const text = "zarnoption=zarnlogenable=1\n--level=1,2,3\n--\nplain";

@@ -49,7 +49,7 @@ protected:
     }
 
     std::string folder;
-    testing_support::Tool tool;
+    testing_support::PlainTool tool;
     std::atomic<int> code{-1};
 };
 

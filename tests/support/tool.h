@@ -12,15 +12,15 @@
 namespace zarn_3_3::testing_support {
 
 // Owns a parser and a result.
-class Tool {
+class PlainTool {
 public:
-    explicit Tool(int flags = 0) {
+    explicit PlainTool(int flags = 0) {
         createParser(&parser, flags);
         parser->createResult(&result);
     }
-    Tool(const Tool&) = delete;
-    Tool& operator=(const Tool&) = delete;
-    ~Tool() {
+    PlainTool(const PlainTool&) = delete;
+    PlainTool& operator=(const PlainTool&) = delete;
+    ~PlainTool() {
         result->destroy();
         parser->destroy();
     }

@@ -131,16 +131,25 @@ template void checkWriting(double);
 void checkCuts(View text) {
     checkArgument(std::string(text));
     Texts lines;
+    std::vector<std::size_t> numbers;
+    std::size_t number = 0;
     for (std::string line : pieces(std::string(text), '\n')) {
         line.erase(0, line.find_first_not_of(" \t\v\f\r"));
+        ++number;
         if (!line.empty() && line[0] != ';' && line[0] != '#') {
             lines.push_back(line.substr(0, line.find_last_not_of('\r') + 1));
+            numbers.push_back(number);
         }
     }
-    std::vector<View> found;
-    View rest = text;
+    std::vector<TextLine> found;
+    TextRest rest{text, 1};
     parseStreamToArgs(rest, found, text.size());
-    require(Texts(found.begin(), found.end()) == lines, "the arguments in the lines of a text");
+    const auto isSame = [&](const TextLine& line) {
+        const auto at = static_cast<std::size_t>(&line - found.data());
+        return line.argument == lines[at] && line.line == numbers[at];
+    };
+    require(found.size() == lines.size() && std::all_of(found.begin(), found.end(), isSame),
+            "the arguments in the lines of a text");
     Texts cut;
     split(text, cut);
     require(cut == pieces(std::string(text), ','), "the pieces between commas");

@@ -13,23 +13,25 @@
 namespace zarn_3_3 {
 namespace {
 
-using testing_support::Tool;
+using testing_support::PlainTool;
 
-struct Row {
-    std::function<void(Tool&)> declare;
+struct CheckRow {
+    std::function<void(PlainTool&)> declare;
     const char* findings;
 };
 
-IOption& option(Tool& tool, const char* names, das_variant_type_t type = vtString) {
+IOption& addOption(PlainTool& tool, const char* names, das_variant_type_t type = vtString) {
     return tool->option(names, "Help.", type, "");
 }
-IOption& action(Tool& tool, const char* names) { return tool->action(names, "Help.", vtNull, ""); }
-IOption& modifier(Tool& tool, const char* names, const char* actions) {
+IOption& addAction(PlainTool& tool, const char* names) {
+    return tool->action(names, "Help.", vtNull, "");
+}
+IOption& addModifier(PlainTool& tool, const char* names, const char* actions) {
     return tool->modifier(names, actions, "Help.", vtNull, "");
 }
 
-void expectFindings(const Row& row) {
-    Tool tool;
+void expectFindings(const CheckRow& row) {
+    PlainTool tool;
     row.declare(tool);
     const char* findings = nullptr;
     const int code = checkVocabulary(tool.parser, nullptr, &findings);
@@ -40,124 +42,128 @@ void expectFindings(const Row& row) {
 }
 
 TEST(Checks, TellOfNames) {
-    const Row rows[] = {
-        {[](Tool& t) { option(t, "a"), option(t, "b,a"), option(t, "c"); },
-         "error refused 'b,a': the declaration is lost: 'a' already means 'a'\n"                  },
-        {[](Tool& t) { option(t, "a,b,c,d"), option(t, "e,f,g"); },
-         "error refused 'a,b,c,d': the declaration is lost: it has more than three names\n"       },
-        {[](Tool& t) { option(t, "a,b,long"), option(t, "d,e,fg"); },
+    const CheckRow rows[] = {
+        {[](PlainTool& t) { addOption(t, "a"), addOption(t, "b,a"), addOption(t, "c"); },
+         "error refused 'b,a': the declaration is lost: 'a' already means 'a'\n"                },
+        {[](PlainTool& t) { addOption(t, "a,b,c,d"), addOption(t, "e,f,g"); },
+         "error refused 'a,b,c,d': the declaration is lost: it has more than three names\n"     },
+        {[](PlainTool& t) { addOption(t, "a,b,long"), addOption(t, "d,e,fg"); },
          "error refused 'a,b,long': the declaration is lost: its third name, 'long', is longer "
-         "than two bytes\n"                                                                       },
-        {[](Tool& t) { option(t, ""); },
-         "error nameless '': the item has no name, so that nothing can be stored for it\n"        },
-        {[](Tool& t) { option(t, "a").synonym("-b"); },
+         "than two bytes\n"                                                                     },
+        {[](PlainTool& t) { addOption(t, ""); },
+         "error nameless '': the item has no name, so that nothing can be stored for it\n"      },
+        {[](PlainTool& t) { addOption(t, "a").synonym("-b"); },
          "error untypable-name 'a': the name '-b' can't be typed: it is empty, begins with a dash, "
-         "or holds '=' or white space\n"                                                          },
-        {[](Tool& t) { option(t, "a b"), option(t, "c=d"), option(t, "e-f"); },
+         "or holds '=' or white space\n"                                                        },
+        {[](PlainTool& t) { addOption(t, "a b"), addOption(t, "c=d"), addOption(t, "e-f"); },
          "error untypable-name 'a b': the name 'a b' can't be typed: it is empty, begins with a "
          "dash, or holds '=' or white space\n"
          "error untypable-name 'c=d': the name 'c=d' can't be typed: it is empty, begins with a "
-         "dash, or holds '=' or white space\n"                                                    },
-        {[](Tool& t) { option(t, "a").synonym("b,c"); },
+         "dash, or holds '=' or white space\n"                                                  },
+        {[](PlainTool& t) { addOption(t, "a").synonym("b,c"); },
          "error comma-in-name 'a': 'b,c' is one name, with its comma: names are cut in "
-         "declarations alone\n"                                                                   },
-        {[](Tool& t) { option(t, "a"), option(t, "b").synonym("a"); },
+         "declarations alone\n"                                                                 },
+        {[](PlainTool& t) { addOption(t, "a"), addOption(t, "b").synonym("a"); },
          "error name-clash 'b': 'a' means 'a', which was declared before: the item is not reached "
-         "by it\n"                                                                                },
-        {[](Tool& t) { option(t, "no-a"), option(t, "a", vtBool), option(t, "b", vtBool); },
-         "error name-clash 'a': 'no-a' means 'no-a', which was declared before: the item is not "
-         "reached by it\n"                                                                        },
-        {[](Tool& t) { option(t, "no-a", vtBool), option(t, "no-b", vtNull); },
+         "by it\n"                                                                              },
+        {[](PlainTool& t) {
+             addOption(t, "no-a"), addOption(t, "a", vtBool), addOption(t, "b", vtBool);
+         },                                                                          "error name-clash 'a': 'no-a' means 'no-a', which was declared before: the item is not "
+         "reached by it\n"                                                  },
+        {[](PlainTool& t) { addOption(t, "no-a", vtBool), addOption(t, "no-b", vtNull); },
          "warning negated-name 'no-a': the boolean 'no-a' is switched off by 'no-no-a', which "
-         "users read as twice not\n"                                                              },
-        {[](Tool& t) { option(t, "color,colour"), option(t, "v,verbose"), option(t, "x,xy"); },
-         "warning own-tie 'color': 'colo' begins 'color' and 'colour' and nothing else, and is "
-         "refused as ambiguous\n"                                                                 },
-        {[](Tool& t) { option(t, "color,colour"), option(t, "colon"); },                        ""},
+         "users read as twice not\n"                                                            },
+        {[](PlainTool& t) {
+             addOption(t, "color,colour"), addOption(t, "v,verbose"), addOption(t, "x,xy");
+         },                                                                          "warning own-tie 'color': 'colo' begins 'color' and 'colour' and nothing else, and is "
+         "refused as ambiguous\n"                                           },
+        {[](PlainTool& t) { addOption(t, "color,colour"), addOption(t, "colon"); },           ""},
     };
-    for (const Row& row : rows) {
+    for (const CheckRow& row : rows) {
         expectFindings(row);
     }
 }
 
 TEST(Checks, TellOfActionsAndPlaces) {
-    const Row rows[] = {
-        {[](Tool& t) { action(t, "pack,p"), modifier(t, "a", "pack"), modifier(t, "b", "list"); },
-         "error unknown-action 'b': there is no action 'list': the item is refused beside every "
-         "action\n"                                                                         },
-        {[](Tool& t) { action(t, "pack,p"), modifier(t, "a", "p"); },
+    const CheckRow rows[] = {
+        {[](PlainTool& t) {
+             addAction(t, "pack,p"), addModifier(t, "a", "pack"), addModifier(t, "b", "list");
+         },                                                                           "error unknown-action 'b': there is no action 'list': the item is refused beside every "
+         "action\n"                                                     },
+        {[](PlainTool& t) { addAction(t, "pack,p"), addModifier(t, "a", "p"); },
          "error action-synonym 'a': 'p' is a synonym of the action 'pack', which is known by its "
          "first name alone\n"                                                               },
-        {[](Tool& t) {
-             action(t, "pack,p"), action(t, "list");
+        {[](PlainTool& t) {
+             addAction(t, "pack,p"), addAction(t, "list");
              t->allowSimultaneousActions({"list", "pack"});
              t->allowSimultaneousActions({"list", "test"});
              t->allowSimultaneousActions({"list", "p"});
-         },                                                                               "error unknown-in-group 'list,test': there is no action 'test' that could go with the "
+         },                                                                           "error unknown-in-group 'list,test': there is no action 'test' that could go with the "
          "others\n"
          "error action-synonym 'list,p': 'p' is a synonym of the action 'pack', which is known by "
          "its first name alone\n"                                       },
-        {[](Tool& t) { option(t, "a").positional(), option(t, "b").positional(); },
+        {[](PlainTool& t) { addOption(t, "a").positional(), addOption(t, "b").positional(); },
          "error second-positional 'b': the arguments go to 'a', which was declared before\n"},
-        {[](Tool& t) { t->option("a", nullptr, vtNull, ""), option(t, "b"); },
+        {[](PlainTool& t) { t->option("a", nullptr, vtNull, ""), addOption(t, "b"); },
          "warning no-help 'a': it has no description: help leaves it out\n"                 },
-        {[](Tool& t) { option(t, "a\xff"), option(t, "a\xc3\xa4"); },
+        {[](PlainTool& t) { addOption(t, "a\xff"), addOption(t, "a\xc3\xa4"); },
          "warning not-utf8 'a\xff': one of its texts is not UTF-8: help and description show it "
          "broken\n"                                                                         },
     };
-    for (const Row& row : rows) {
+    for (const CheckRow& row : rows) {
         expectFindings(row);
     }
 }
 
 TEST(Checks, TellOfValues) {
-    const Row rows[] = {
-        {[](Tool& t) {
-             option(t, "a").allowValue("x").defaultValue("y");
-             option(t, "b").allowValue("x").allowDeprecatedValue("y", "x").defaultValue("x");
-         },                                                                         "error default-not-allowed 'a': its default 'y' is none of the values that it allows\n"},
-        {[](Tool& t) {
-             option(t, "a", vtS32).defaultValue("5");
-             option(t, "b", vtU32).defaultValue(5);
-             option(t, "c", vtU32).defaultValue(-5);
-             option(t, "d").defaultValue(5);
-             option(t, "e", vtDouble).defaultValue(5);
-             option(t, "f", vtDouble).defaultValue(0.1 + 0.2);
-             option(t, "g", vtBool).defaultValue(true);
-         },                                                                         "error default-type 'a': its default is no integer: a query answers something else\n"
+    const CheckRow rows[] = {
+        {[](PlainTool& t) {
+             addOption(t, "a").allowValue("x").defaultValue("y");
+             addOption(t, "b").allowValue("x").allowDeprecatedValue("y", "x").defaultValue("x");
+         },                                                             "error default-not-allowed 'a': its default 'y' is none of the values that it allows\n"},
+        {[](PlainTool& t) {
+             addOption(t, "a", vtS32).defaultValue("5");
+             addOption(t, "b", vtU32).defaultValue(5);
+             addOption(t, "c", vtU32).defaultValue(-5);
+             addOption(t, "d").defaultValue(5);
+             addOption(t, "e", vtDouble).defaultValue(5);
+             addOption(t, "f", vtDouble).defaultValue(0.1 + 0.2);
+             addOption(t, "g", vtBool).defaultValue(true);
+         },                                                             "error default-type 'a': its default is no integer: a query answers something else\n"
          "error default-type 'c': its default is no unsigned integer: a query answers something "
          "else\n"
-         "error default-type 'd': its default is no string: a query answers something else\n"                                                                   },
-        {[](Tool& t) { option(t, "a").defaultValue(""), option(t, "b").defaultValue(" "); },
-         "error default-empty 'a': its default is empty: a query does not find it\n"                                                                                                },
-        {[](Tool& t) { option(t, "a", vtNull).defaultValue("x"); },
-         "error default-on-switch 'a': a switch has no value: its default is never seen\n"                                                                                          },
-        {[](Tool& t) {
-             option(t, "a").allowValue("x,y").allowValue("z");
-             option(t, "b").allowValue("x,y").tokenize('\0');
-             option(t, "c").allowValue("x").allowDeprecatedValue("", "x");
-             option(t, "d", vtS32).allowValue("1").allowValue(2);
-         },                                                                         "error value-unusable 'a': the value 'x,y' can't be typed: it is empty, of another type"
+         "error default-type 'd': its default is no string: a query answers something else\n"                                                       },
+        {[](PlainTool& t) {
+             addOption(t, "a").defaultValue(""), addOption(t, "b").defaultValue(" ");
+         },                                                             "error default-empty 'a': its default is empty: a query does not find it\n"            },
+        {[](PlainTool& t) { addOption(t, "a", vtNull).defaultValue("x"); },
+         "error default-on-switch 'a': a switch has no value: its default is never seen\n"                                                                              },
+        {[](PlainTool& t) {
+             addOption(t, "a").allowValue("x,y").allowValue("z");
+             addOption(t, "b").allowValue("x,y").tokenize('\0');
+             addOption(t, "c").allowValue("x").allowDeprecatedValue("", "x");
+             addOption(t, "d", vtS32).allowValue("1").allowValue(2);
+         },                                                             "error value-unusable 'a': the value 'x,y' can't be typed: it is empty, of another type"
          ", or is cut\n"
          "error value-unusable 'c': the value '' can't be typed: it is empty, of another type"
          ", or is cut\n"
          "error value-unusable 'd': the value '1' can't be typed: it is empty, of another type"
-         ", or is cut\n"                                                                                                                                        },
-        {[](Tool& t) { option(t, "a", vtNull).allowValue("x"); },
+         ", or is cut\n"                                                                                                                            },
+        {[](PlainTool& t) { addOption(t, "a", vtNull).allowValue("x"); },
          "error values-on-switch 'a': a switch has no value: those that it allows are never "
-         "seen\n"                                                                                                                                                                   },
-        {[](Tool& t) { option(t, "a").allowDeprecatedValue("x", "y"); },
+         "seen\n"                                                                                                                                                       },
+        {[](PlainTool& t) { addOption(t, "a").allowDeprecatedValue("x", "y"); },
          "error deprecated-alone 'a': without allowed values everything is accepted, and nobody is "
-         "warned\n"                                                                                                                                                                 },
+         "warned\n"                                                                                                                                                     },
     };
-    for (const Row& row : rows) {
+    for (const CheckRow& row : rows) {
         expectFindings(row);
     }
 }
 
 TEST(Checks, AreSilentAboutWhatIsIgnored) {
-    Tool tool;
-    option(tool, "color,colour"), option(tool, "").positional(), option(tool, "b,c,d,e");
+    PlainTool tool;
+    addOption(tool, "color,colour"), addOption(tool, "").positional(), addOption(tool, "b,c,d,e");
     const char* findings = nullptr;
     const auto check = [&](const char* ignored) {
         return checkVocabulary(tool.parser, ignored, &findings);
@@ -170,8 +176,8 @@ TEST(Checks, AreSilentAboutWhatIsIgnored) {
 
 TEST(Checks, NeedTheirMemoryAndNothingElse) {
     EXPECT_EQ(checkVocabulary(nullptr, "", nullptr), toolingFailed);
-    Tool tool;
-    option(tool, "color,colour"), option(tool, "a", vtNull).allowValue("x");
+    PlainTool tool;
+    addOption(tool, "color,colour"), addOption(tool, "a", vtNull).allowValue("x");
     tool->allowSimultaneousActions({"a", "b"});
     long n = 0;
     for (bool hasStruck = true; hasStruck; ++n) {

@@ -17,7 +17,7 @@
 namespace zarn_3_3 {
 namespace {
 
-using testing_support::Tool;
+using testing_support::PlainTool;
 
 const ToolInfo sonde{sizeof sonde, "sonde", "2.1", "look into \"archives\"\n\x1b\xff"};
 
@@ -74,7 +74,7 @@ std::string describe(IParser* parser, const ToolInfo& info) {
 }
 
 TEST(Description, IsTheSameInEveryLocaleAndChangesNothing) {
-    Tool tool(flagUnknownIsError);
+    PlainTool tool(flagUnknownIsError);
     declareAll(*tool.parser);
     EXPECT_EQ(tool.parse({"--nonsense"}), resultRuleBroken);
     const std::string error = tool->getErrorDesc();
@@ -86,7 +86,7 @@ TEST(Description, IsTheSameInEveryLocaleAndChangesNothing) {
 }
 
 TEST(Description, LeavesOutWhatIsAbsent) {
-    const Tool tool;
+    const PlainTool tool;
     ToolInfo info = sonde;
     EXPECT_EQ(describe(tool.parser, {sizeof info, nullptr, "", nullptr}),
               "{\n  \"format\": 1\n}\n");
@@ -95,7 +95,7 @@ TEST(Description, LeavesOutWhatIsAbsent) {
 }
 
 TEST(Description, KeepsTheFirstHundredRefusals) {
-    const Tool tool;
+    const PlainTool tool;
     for (int i = 0; i < 300; ++i) {
         tool->option(("one,two,three" + std::to_string(i / 2)).c_str(), "", vtString, "");
     }
@@ -109,7 +109,7 @@ TEST(Description, KeepsTheFirstHundredRefusals) {
 }
 
 TEST(Description, FailsForWhatCannotBeAsked) {
-    const Tool tool;
+    const PlainTool tool;
     const char* json = nullptr;
     EXPECT_EQ(describeVocabulary(nullptr, &sonde, &json), toolingFailed);
     EXPECT_STREQ(json, "");
@@ -118,7 +118,7 @@ TEST(Description, FailsForWhatCannotBeAsked) {
 }
 
 TEST(Description, NeedsItsMemoryAndNothingElse) {
-    Tool tool;
+    PlainTool tool;
     declareAll(*tool.parser);
     long n = 0;
     for (bool hasStruck = true; hasStruck; ++n) {
@@ -134,7 +134,7 @@ TEST(Description, NeedsItsMemoryAndNothingElse) {
 }
 
 TEST(Description, TellsThatMemoryRanOutForADeclaration) {
-    const Tool tool;
+    const PlainTool tool;
     static_cast<Countdown&>(memory) = {1, false, false};
     tool->option("one,two", "A description.", vtString, "sections:of some length");
     EXPECT_TRUE(memory.hasStruck);
@@ -166,7 +166,7 @@ const LineRow lines[] = {
 };
 
 TEST(Question, IsAnsweredWhenNothingStandsInFrontOfIt) {
-    const Tool tool;
+    const PlainTool tool;
     for (const LineRow& row : lines) {
         const char* answer = nullptr;
         const int argc = static_cast<int>(row.arguments.size());

@@ -16,7 +16,7 @@
 namespace zarn_3_3 {
 namespace {
 
-using testing_support::Tool;
+using testing_support::PlainTool;
 
 constexpr ToolInfo press{sizeof press, "press", "1.0", "Prints books, 本を印刷する."};
 
@@ -56,7 +56,7 @@ protected:
         return text;
     }
 
-    Tool tool;
+    PlainTool tool;
 };
 
 HelpStyle styleOf(std::uint32_t width, std::uint32_t flags = 0, const char* topic = nullptr) {

@@ -1,0 +1,81 @@
+#include "modern/failures.h"
+
+#include <cstddef>
+#include <string_view>
+
+#include "diagnostics/suggestions.h"
+#include "modern/messages.h"
+#include "text/number_text.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+// "'a', 'b' or 'c'"
+std::string alternatives(const std::vector<std::string>& texts) {
+    std::string list;
+    for (const std::string& text : texts) {
+        const bool isLast = &text == &texts.back();
+        list += list.empty() ? "" : isLast ? " or " : ", ";
+        list += "'" + text + "'";
+    }
+    return list;
+}
+
+}  // namespace
+
+// A value stands at the end of its argument, in whatever way that was typed.
+void retype(Failure& failure, const std::string& typed) {
+    if (failure.valueAt != elsewhere) {
+        const std::string_view tail = std::string_view(failure.argument).substr(failure.valueAt);
+        const std::size_t at = typed.rfind(tail);
+        failure.valueAt = at == typed.size() - tail.size() ? at : elsewhere;
+    }
+    failure.argument = typed;
+}
+
+void retype(FailureNote& note, const std::vector<Word>& words) {
+    Failure* const failure = note.get();
+    if (failure == nullptr || failure->index == 0) {
+        return;
+    }
+    const Word& word = words[static_cast<std::size_t>(failure->index) - 1];
+    failure->index = word.index;
+    if (!word.typed.empty()) {
+        retype(*failure, word.typed);
+    }
+}
+
+void refine(FailureNote& note, const Failure* told) {
+    Failure* const failure = note.get();
+    if (failure == nullptr || told == nullptr) {
+        return;
+    }
+    failure->kind = told->kind;
+    failure->option = told->option;
+    // Of several values in a positional argument the one that is wrong.
+    if (failure->valueAt != elsewhere && told->valueAt != elsewhere &&
+        failure->value == told->argument) {
+        failure->value = told->value;
+        failure->valueAt += told->valueAt;
+    }
+}
+
+std::string toldInFull(Vocabulary& vocabulary, const std::string& text) {
+    const Failure* const failure = vocabulary.plain().failure().get();
+    if (failure == nullptr) {
+        return text;
+    }
+    std::string told = text;
+    const std::vector<std::string> meant =
+        suggestionsFor(*failure, vocabulary.plain().vocabulary());
+    if (!meant.empty()) {
+        told = messages::didYouMean(told, alternatives(meant));
+    }
+    if (!failure->file.empty()) {
+        told = messages::atLine(
+            failure->file, textFromNumber<unsigned long long>(failure->line), told);
+    }
+    return told;
+}
+
+}  // namespace zarn_3_3::internal

@@ -53,6 +53,15 @@ found_by_cmake() {
         -DCMAKE_PREFIX_PATH="$2"
     quietly cmake --build "$build"
     try_tool "$build/consumer"
+    quietly cmake --install "$build" --prefix "$work/tools"
+    is_described "$work/tools" "$build/consumer"
+}
+
+# is_described PREFIX TOOL: what is installed with the tool in PREFIX is what it answers.
+is_described() {
+    diff "$1/share/zarn/consumer.json" <("$2" --zarn-answer describe) ||
+        fail "the installed description is not what the tool answers"
+    rm -r "$1/share/zarn"
 }
 
 # found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.

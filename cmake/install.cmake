@@ -29,7 +29,7 @@ install(FILES cmake/zarnConfig.cmake ${PROJECT_BINARY_DIR}/zarnConfigVersion.cma
 install(FILES cmake/ask_tool.cmake cmake/zarn_tool.cmake
     DESTINATION ${package_dir}/cmake COMPONENT development
 )
-install(DIRECTORY completion DESTINATION ${package_dir} COMPONENT development OPTIONAL)
+install(DIRECTORY completion DESTINATION ${package_dir} COMPONENT development)
 
 # pkg-config finds the prefix from the place of its file, so it needs the way back up. A directory
 # outside the prefix stays as it is: appending an absolute one replaces what was there.

@@ -13,19 +13,23 @@ foreach(kind LIBDIR INCLUDEDIR)
     set(${kind} ${directory})
 endforeach()
 
-install(TARGETS zarn EXPORT zarnConfig
+install(TARGETS zarn EXPORT zarnTargets
     LIBRARY DESTINATION ${libdir} COMPONENT runtime NAMELINK_COMPONENT development
     ARCHIVE DESTINATION ${libdir} COMPONENT development
     FILE_SET HEADERS DESTINATION ${includedir} COMPONENT development
 )
 
-# Nothing else has to be found first, so the list of targets is the whole package.
+# zarn_tool.cmake finds the scripts' templates beside its directory, as in the sources.
 set(package_dir ${libdir}/cmake/zarn)
-install(EXPORT zarnConfig NAMESPACE zarn:: DESTINATION ${package_dir} COMPONENT development)
+install(EXPORT zarnTargets NAMESPACE zarn:: DESTINATION ${package_dir} COMPONENT development)
 write_basic_package_version_file(zarnConfigVersion.cmake COMPATIBILITY SameMinorVersion)
-install(FILES ${PROJECT_BINARY_DIR}/zarnConfigVersion.cmake DESTINATION ${package_dir}
-    COMPONENT development
+install(FILES cmake/zarnConfig.cmake ${PROJECT_BINARY_DIR}/zarnConfigVersion.cmake
+    DESTINATION ${package_dir} COMPONENT development
 )
+install(FILES cmake/ask_tool.cmake cmake/zarn_tool.cmake
+    DESTINATION ${package_dir}/cmake COMPONENT development
+)
+install(DIRECTORY completion DESTINATION ${package_dir} COMPONENT development)
 
 # pkg-config finds the prefix from the place of its file, so it needs the way back up. A directory
 # outside the prefix stays as it is: appending an absolute one replaces what was there.
@@ -46,6 +50,6 @@ install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${libdir}/pkgconfig COMP
 # The pages keep their places among each other, so that their links hold.
 install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
-    FILES_MATCHING PATTERN "*.md" PATTERN "docs/samples/*"
+    FILES_MATCHING PATTERN "*.md" PATTERN "*.schema.json" PATTERN "docs/samples/*"
     PATTERN docs/tools EXCLUDE
 )

@@ -115,10 +115,10 @@ private:
     const HelpNames& helpNames(std::size_t number) const;
     IOption& declare(const Declaration& given);
     const std::string* findTaken(const std::vector<std::string>& nameList) const;
-    IOption& refused(RefusalReason reason,
-                     std::string_view names,
-                     std::string_view name = {}) noexcept;
-    void note(Refusal&& refusal);
+    [[gnu::cold]] IOption& refused(RefusalReason reason,
+                                   std::string_view names,
+                                   std::string_view name = {}) noexcept;
+    [[gnu::cold]] void note(Refusal&& refusal);
 
     char separator = ',';
     OptionList options;

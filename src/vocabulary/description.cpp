@@ -192,7 +192,7 @@ std::string internal::descriptionOf(const BasicParser& parser, const ToolTexts& 
     writeRefused(json, parser.vocabulary());
     writeItems(json, parser);
     json.close();
-    return json.written();
+    return json.take();
 }
 
 int describeVocabulary(IParser* parser, const ToolInfo* tool, const char** json) {

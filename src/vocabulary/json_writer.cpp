@@ -1,11 +1,18 @@
 #include "vocabulary/json_writer.h"
 
+#include <algorithm>
+
 #include "text/utf8.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
-constexpr const char* replacementCharacter = "\xEF\xBF\xBD";
+constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
+
+bool isPlain(char c) {
+    const auto byte = static_cast<unsigned char>(c);
+    return byte >= ' ' && byte < 0x80 && c != '"' && c != '\\';
+}
 
 // The letter behind the backslash; 0 for what has none.
 char shortEscape(char c) {
@@ -98,20 +105,32 @@ void JsonWriter::beginLine() {
     text_.append(2 * levels_.size(), ' ');
 }
 
+// Most texts need no escape: they go over in one piece.
 void JsonWriter::quote(std::string_view value) {
     text_ += '"';
     while (!value.empty()) {
-        const std::size_t length = characterLength(value);
-        if (length == 1) {
-            escape(value.front());
-        } else if (length == 0) {
-            text_.append(replacementCharacter);
-        } else {
-            text_.append(value.substr(0, length));
+        std::size_t plain = 0;
+        while (plain < value.size() && isPlain(value[plain])) {
+            ++plain;
         }
-        value.remove_prefix(length == 0 ? 1 : length);
+        text_.append(value.data(), plain);
+        value.remove_prefix(plain);
+        if (!value.empty()) {
+            value.remove_prefix(writeSpecial(value));
+        }
     }
     text_ += '"';
+}
+
+// Writes the character in front and returns its bytes.
+std::size_t JsonWriter::writeSpecial(std::string_view value) {
+    const std::size_t length = characterLength(value);
+    if (length == 1) {
+        escape(value.front());
+    } else {
+        text_.append(length == 0 ? replacementCharacter : value.substr(0, length));
+    }
+    return std::max<std::size_t>(length, 1);
 }
 
 void JsonWriter::escape(char c) {
@@ -119,12 +138,10 @@ void JsonWriter::escape(char c) {
     if (const char letter = shortEscape(c)) {
         text_ += '\\';
         text_ += letter;
-    } else if (static_cast<unsigned char>(c) < ' ') {
+    } else {
         text_.append("\\u00");
         text_ += digits[c / 16];
         text_ += digits[c % 16];
-    } else {
-        text_ += c;
     }
 }
 

@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 namespace zarn_3_3::internal {
@@ -26,8 +27,8 @@ public:
     // In a list, also when it is empty.
     void element(std::string_view value);
 
-    // Everything, when all that was opened is closed.
-    const std::string& written() const { return text_; }
+    // Takes everything out, when all that was opened is closed.
+    std::string take() { return std::move(text_); }
 
 private:
     struct Level {
@@ -40,6 +41,7 @@ private:
     void beginEntry(std::string_view key);
     void beginLine();
     void quote(std::string_view value);
+    std::size_t writeSpecial(std::string_view value);
     void escape(char c);
 
     std::string text_;

@@ -53,6 +53,23 @@ found_by_cmake() {
         -DCMAKE_PREFIX_PATH="$2"
     quietly cmake --build "$build"
     try_tool "$build/consumer"
+    quietly cmake --install "$build" --prefix "$work/tools"
+    comes_with_its_files "$work/tools" "$build/consumer"
+}
+
+# comes_with_its_files PREFIX TOOL: the description installed in PREFIX is what the tool answers, and
+# the scripts are those of this tool. Takes them away.
+comes_with_its_files() {
+    local share=$1/share script
+    diff "$share/zarn/consumer.json" <("$2" --zarn-answer describe) ||
+        fail "the installed description is not what the tool answers"
+    rm "$share/zarn/consumer.json"
+    for script in bash-completion/completions/consumer zsh/site-functions/_consumer \
+        fish/vendor_completions.d/consumer.fish; do
+        diff <(sed 's/@tool@/consumer/g' "$here/../../completion/tool.${script%%[-/]*}.in") \
+            "$share/$script" || fail "$script is not the script of this tool"
+        rm "$share/$script"
+    done
 }
 
 # found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.

@@ -1,6 +1,7 @@
 // A small tool on the installed headers alone; it touches each part of the interface that must
 // link.
 
+#include <zarn/tooling.h>
 #include <zarn/zarn.h>
 
 #include <climits>
@@ -44,8 +45,12 @@ int main(int argc, char** argv) {
     parser->addHandler(&refuser);
     declare(*parser);
 
-    const int code = parser->parseArgsVector(argc, argv, result);
-    if (code == zarn::resultOk) {
+    const zarn::ToolInfo tool{sizeof tool, "consumer", "1.0", "Greets; loud, if asked to."};
+    const char* answer = "";
+    int code = zarn::resultOk;
+    if (zarn::answerQuestion(parser, &tool, argc, argv, &answer) == zarn::questionAnswered) {
+        std::cout << answer;
+    } else if (code = parser->parseArgsVector(argc, argv, result); code == zarn::resultOk) {
         greet(*result);
     } else {
         std::cerr << parser->getErrorDesc() << '\n';

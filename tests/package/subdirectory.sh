@@ -29,6 +29,7 @@ is_a_good_part() {
 
 installed_into "$work/first/lib" "$work/first/headers" "$work/second"
 try_tool "$build_dir/consumer"
+comes_with_its_files "$work/second" "$build_dir/consumer"
 [[ ! -e $build_dir/zarn/tests && ! -e $build_dir/zarn/examples ]] ||
     fail "more than the library is built by those who did not ask"
 mv "$work/second" "$work/moved"

@@ -117,17 +117,18 @@ TEST(Description, FailsForWhatCannotBeAsked) {
     EXPECT_EQ(describeVocabulary(tool.parser, &sonde, nullptr), toolingFailed);
 }
 
-TEST(Description, NeedsItsMemoryAndNothingElse) {
+TEST(Question, NeedsMemoryForItsAnswerAndNothingElse) {
     PlainTool tool;
     declareAll(*tool.parser);
+    const char* const line[] = {"sonde", "--zarn-answer", "describe", "--", "word"};
     long n = 0;
     for (bool hasStruck = true; hasStruck; ++n) {
         const char* json = nullptr;
         static_cast<Countdown&>(memory) = {n + 1, false, false};
-        const int code = describeVocabulary(tool.parser, &sonde, &json);
+        const int code = answerQuestion(tool.parser, &sonde, 5, line, &json);
         hasStruck = memory.hasStruck;
         static_cast<Countdown&>(memory) = {};
-        EXPECT_EQ(code, hasStruck ? toolingFailed : toolingDone) << "allocation " << n;
+        EXPECT_EQ(code, hasStruck ? toolingFailed : questionAnswered) << "allocation " << n;
         EXPECT_EQ(json, hasStruck ? std::string() : describe(tool.parser, sonde));
     }
     EXPECT_GT(n, 5);

@@ -1,0 +1,64 @@
+# Tools that are asked while they are built: what they take, and completion in the shells.
+
+# zarn_tool(<target> [VERSION <version>] [SUMMARY <summary>] [COMPONENT <component>] [NO_COMPLETION])
+#
+# Asks the executable, behind its link step, for its description, and fails the build when it does
+# not answer: a script that completed its words would run it otherwise. Installs the description as
+# share/zarn/TOOL.json and, without NO_COMPLETION, scripts for bash, zsh and fish; TOOL is the
+# OUTPUT_NAME of the target, or its name. To be called in the directory that adds the executable.
+#
+# VERSION, SUMMARY  what the tool has to say of itself; the build fails when it says something else
+# COMPONENT         of what is installed
+function(zarn_tool target)
+    cmake_parse_arguments(PARSE_ARGV 1 given "NO_COMPLETION" "VERSION;SUMMARY;COMPONENT" "")
+    if(NOT TARGET ${target})
+        message(FATAL_ERROR "zarn_tool: there is no target '${target}'")
+    endif()
+    if(DEFINED given_UNPARSED_ARGUMENTS)
+        message(FATAL_ERROR "zarn_tool: '${given_UNPARSED_ARGUMENTS}' is not known")
+    endif()
+    get_target_property(tool ${target} OUTPUT_NAME)
+    if(NOT tool)
+        set(tool ${target})
+    endif()
+    if(CMAKE_CROSSCOMPILING AND NOT CMAKE_CROSSCOMPILING_EMULATOR)
+        message(WARNING "zarn_tool: '${tool}' cannot run here, so nothing is installed for it")
+        return()
+    endif()
+    zarn_ask_tool()
+    if(NOT given_NO_COMPLETION)
+        zarn_install_script(bash bash-completion/completions ${tool})
+        zarn_install_script(zsh zsh/site-functions _${tool})
+        zarn_install_script(fish fish/vendor_completions.d ${tool}.fish)
+    endif()
+endfunction()
+
+# The steps of zarn_tool, which see its variables.
+macro(zarn_ask_tool)
+    set(answer ${CMAKE_CURRENT_BINARY_DIR}/zarn_tool/${tool}.json)
+    add_custom_command(TARGET ${target} POST_BUILD
+        COMMAND ${CMAKE_COMMAND} -D "TOOL=$<TARGET_FILE:${target}>" -D "ANSWER=${answer}"
+            -D "EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
+            -D "VERSION=${given_VERSION}" -D "SUMMARY=${given_SUMMARY}"
+            -P ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/ask_tool.cmake
+        BYPRODUCTS ${answer}
+        COMMENT "Asking ${tool} what it takes"
+        VERBATIM
+    )
+    zarn_install_file(${answer} zarn ${tool}.json)
+endmacro()
+
+macro(zarn_install_script shell directory name)
+    set(template ${CMAKE_CURRENT_FUNCTION_LIST_DIR}/../completion/tool.${shell}.in)
+    set(script ${CMAKE_CURRENT_BINARY_DIR}/zarn_tool/${tool}.${shell})
+    configure_file(${template} ${script} @ONLY)
+    zarn_install_file(${script} ${directory} ${name})
+endmacro()
+
+macro(zarn_install_file file directory name)
+    set(component)
+    if(given_COMPONENT)
+        set(component COMPONENT ${given_COMPONENT})
+    endif()
+    install(FILES ${file} DESTINATION share/${directory} RENAME ${name} ${component})
+endmacro()

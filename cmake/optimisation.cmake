@@ -6,7 +6,6 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 # library that its start touches.
 set_source_files_properties(
     src/diagnostics/last_diagnostic.cpp
-    src/diagnostics/likeness.cpp
     src/diagnostics/suggestions.cpp
     src/help/help_renderer.cpp
     src/help/help_topics.cpp

@@ -3,16 +3,13 @@
 #ifndef ZARN_DIAGNOSTICS_LIKENESS_H
 #define ZARN_DIAGNOSTICS_LIKENESS_H
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string_view>
 #include <vector>
 
 namespace zarn_3_3::internal {
-
-// The least number of bytes that are left out, put in, replaced, or swapped with their neighbour
-// between the two texts, no byte twice; `most` + 1 when it is more than `most`. The first has at
-// most 64 bytes.
-std::size_t distance(std::string_view typed, std::string_view meant, std::size_t most);
 
 // Collects the nearest of the texts that are offered.
 class Nearest {
@@ -21,7 +18,10 @@ public:
 
     // Whether the text is as near as those that were found so far, or nearer.
     bool isNear(std::string_view text) {
-        lastDistance_ = isAnyNear_ ? distance(typed_, text, most_) : most_ + 1;
+        // Texts of other lengths are out without a look at them.
+        const bool canBeNear = isAnyNear_ && text.size() <= typed_.size() + most_ &&
+                               typed_.size() <= text.size() + most_;
+        lastDistance_ = canBeNear ? distance(text) : most_ + 1;
         return lastDistance_ <= most_;
     }
 
@@ -31,8 +31,13 @@ public:
     // In the order in which they were taken.
     const std::vector<std::string_view>& found() const { return found_; }
 
+    // The least number of bytes that are left out, put in, replaced, or swapped with their
+    // neighbour between the text and the one that was typed, which has at most 64; no byte twice.
+    std::size_t distance(std::string_view text) const;
+
 private:
     std::string_view typed_;
+    std::array<std::uint64_t, 256> places_{};  // of each byte in what was typed
     bool isAnyNear_;    // short and very long texts are like too many, or like nothing
     std::size_t most_;  // the distance of those found, or what there may be
     std::size_t lastDistance_ = 0;

@@ -14,6 +14,7 @@
 #include "recognizers/failure.h"
 #include "text/cut_argument.h"
 #include "text/filled.h"
+#include "text/number_text.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -116,15 +117,16 @@ Texts valuesLike(const Failure& failure, const OptionDescription& item) {
     return arguments;
 }
 
-// "--level=-5" for "--level" "-5"; not when that names another option, or is no value.
+// "--level=-5" for "--level" "-5"; not when that names another option, or looks like no value.
 Texts joined(const Failure& failure,
              const OptionDescription& item,
              const RegisteredOptionStorage& registry) {
     const CutOption next(failure.value);
     std::size_t index = 0;
-    if (findOption(next.name, index, registry) == resultSuccess ||
-        registry.findBeginning(next.name).first != KeptTexts::none ||
-        item.fromString(failure.value, globalTextLocale()).type() == vtNull) {
+    const bool isNumber = item.type != vtString;
+    if ((isNumber && !looksNegative(failure.value)) ||
+        findOption(next.name, index, registry) == resultSuccess ||
+        registry.findBeginning(next.name).first != KeptTexts::none) {
         return {};
     }
     const bool isOpen = !CutOption(failure.argument).rest.empty();

@@ -5,6 +5,7 @@
 #include "recognizers/messages.h"
 #include "text/cut_argument.h"
 #include "text/filled.h"
+#include "text/number_text.h"
 #include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
@@ -26,13 +27,6 @@ const ItemRecord* takesNext(const Vocabulary& vocabulary, const std::string& arg
 
 bool hasSign(const ItemRecord& item) {
     return item.type == vtS32 || item.type == vtS64 || item.type == vtDouble;
-}
-
-bool isDigit(char c) { return c >= '0' && c <= '9'; }
-
-bool looksNegative(const std::string& text) {
-    const std::size_t first = text.size() > 1 && text[1] == '.' ? 2 : 1;
-    return text.size() > first && text[0] == '-' && isDigit(text[first]);
 }
 
 // Takes the arguments of one command line.

@@ -41,6 +41,12 @@ template <typename T>
 template <typename T>
 [[gnu::cold]] std::string textFromStream(T number);
 
+// Whether it begins as a number below zero: "-5", "-.5".
+inline bool looksNegative(std::string_view text) {
+    const std::size_t first = text.size() > 1 && text[1] == '.' ? 2 : 1;
+    return text.size() > first && text[0] == '-' && text[first] >= '0' && text[first] <= '9';
+}
+
 }  // namespace zarn_3_3::internal
 
 #endif  // ZARN_TEXT_NUMBER_TEXT_H

@@ -5,6 +5,11 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 # What runs once in a parse or less often: size counts there, since a tool pays for every page of the
 # library that its start touches.
 set_source_files_properties(
+    src/completion/bash_word.cpp
+    src/completion/candidates.cpp
+    src/completion/line_walk.cpp
+    src/completion/name_choice.cpp
+    src/completion/protocol.cpp
     src/help/help_renderer.cpp
     src/help/help_topics.cpp
     src/interface/word_wrapped_text.cpp

@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <new>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 
@@ -16,6 +18,7 @@
 #include "modern/vocabulary.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
+#include "zarn/tooling.h"
 #include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
@@ -134,6 +137,22 @@ int exitCodeFor(int code) {
     }
 }
 
+// Throws std::bad_alloc.
+std::optional<Answer> answerToQuestion(Vocabulary& vocabulary,
+                                       const std::string& name,
+                                       CommandLine line) {
+    const Tool& told = vocabulary.tool();
+    const ToolInfo tool{sizeof tool, name.c_str(), told.version, told.summary};
+    const int argc = line.argv == nullptr ? 0 : line.argc;
+    const char* text = nullptr;
+    const int code = answerQuestion(&vocabulary.plain(), &tool, argc, line.argv, &text);
+    if (code == toolingFailed) {
+        throw std::bad_alloc();
+    }
+    return code == questionAnswered ? std::optional<Answer>({text, "", exitAnswered})
+                                    : std::nullopt;
+}
+
 std::string textOfNumber(const variant_t& number) {
     switch (number.type()) {
         case vtDouble:
@@ -212,7 +231,10 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
     vocabulary->callAs(tool);
-    std::optional<Answer> found = findAnswer(*vocabulary, tool, line);
+    std::optional<Answer> found = answerToQuestion(*vocabulary, tool, line);
+    if (!found) {
+        found = findAnswer(*vocabulary, tool, line);
+    }
     auto outcome =
         found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
     if (!found) {

@@ -42,6 +42,7 @@ public:
     // Makes an item take texts of any kind, whole. What it was declared as is kept for help and
     // description.
     void takeAnyText(std::size_t number);
+    bool takesAnyText(std::size_t number) const { return declaredAs_.count(number) != 0; }
 
     // The item as its author declared it.
     const OptionDescription& asDeclared(std::size_t number) const;

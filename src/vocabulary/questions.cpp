@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "completion/protocol.h"
 #include "parser/ask_parser.h"
 #include "vocabulary/tool_texts.h"
 
@@ -39,10 +40,10 @@ bool isQuestion(int argc, const char* const* argv, Question& question) {
 }
 
 // An empty text for what this library does not know.
-std::string answerTo(const Question& /*question*/,
-                     const BasicParser& /*parser*/,
+std::string answerTo(const Question& question,
+                     const BasicParser& parser,
                      const ToolTexts& /*tool*/) {
-    return "";
+    return answerCompletion(question.text, question.words, parser);
 }
 
 }  // namespace

@@ -22,8 +22,8 @@ namespace {
 using Texts = std::vector<std::string>;
 
 // An argument cut as the parse cuts it.
-struct CutOption {
-    explicit CutOption(const std::string& argument) {
+struct TypedOption {
+    explicit TypedOption(const std::string& argument) {
         std::string_view value;
         splitOptionValue(argument, &name, &value, globalTextLocale());
         const std::string_view whole = argument;
@@ -31,7 +31,7 @@ struct CutOption {
         dashes = whole.substr(0, begin);
         rest = whole.substr(begin + name.size());
     }
-    CutOption(std::string&&) = delete;  // the views would dangle
+    TypedOption(std::string&&) = delete;  // the views would dangle
 
     std::string_view dashes;
     std::string_view name;
@@ -70,7 +70,7 @@ Texts actionNames(const RegisteredOptionStorage& registry) {
 
 // Names like the one that was typed, with everything else as it was typed.
 Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry) {
-    const CutOption cut(failure.argument);
+    const TypedOption cut(failure.argument);
     const KeptTexts& forms = registry.names().forms();
     Nearest nearest(cut.dashes.empty() ? std::string_view() : cut.name);
     const auto written = [&cut](std::string_view name) {
@@ -83,7 +83,7 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
         }
         const std::string argument = written(form);
         // A name with a dash in front or a "=" in it cannot be typed.
-        const bool isTypable = CutOption(argument).name == form;
+        const bool isTypable = TypedOption(argument).name == form;
         const OptionDescription& item = registry.items()[registry.names().firstWithForm(number)];
         if (isTypable && !isHidden(item, registry)) {
             nearest.take(form);
@@ -121,7 +121,7 @@ Texts valuesLike(const Failure& failure, const OptionDescription& item) {
 Texts joined(const Failure& failure,
              const OptionDescription& item,
              const RegisteredOptionStorage& registry) {
-    const CutOption next(failure.value);
+    const TypedOption next(failure.value);
     std::size_t index = 0;
     const bool isNumber = item.type != vtString;
     if ((isNumber && !looksNegative(failure.value)) ||
@@ -129,13 +129,13 @@ Texts joined(const Failure& failure,
         registry.findBeginning(next.name).first != KeptTexts::none) {
         return {};
     }
-    const bool isOpen = !CutOption(failure.argument).rest.empty();
+    const bool isOpen = !TypedOption(failure.argument).rest.empty();
     return {filled("{}{}{}", {failure.argument, isOpen ? "" : "=", failure.value})};
 }
 
 // "--color" for "--color=yes", "--no-color" for "--color=no".
 Texts withoutValue(const Failure& failure, const OptionDescription& item) {
-    const CutOption cut(failure.argument);
+    const TypedOption cut(failure.argument);
     const std::string_view noes[] = {"0", "false", "no", "off"};
     const bool isMeantFalse =
         item.type == vtBool &&
@@ -157,7 +157,7 @@ std::vector<std::string> candidatesOf(const Failure& failure,
     Texts found;
     const OptionDescription* const item = itemOf(failure, registry);
     if (failure.kind == ambiguousOption) {
-        makeOptionNamesList(registry, CutOption(failure.argument).name, found);
+        makeOptionNamesList(registry, TypedOption(failure.argument).name, found);
     } else if (failure.kind == noAction) {
         found = actionNames(registry);
     } else if (item == nullptr) {

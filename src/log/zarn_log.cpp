@@ -24,7 +24,7 @@ std::ostream& zarnLog() {
 }
 
 bool switchLog(std::string_view firstArgument) noexcept {
-    const bool on = firstArgument == "zarnoption=zarnlogenable=1";
+    const bool on = isLogSwitch(firstArgument);
     zarnLogEnabled.store(on, std::memory_order_relaxed);
     return on;
 }

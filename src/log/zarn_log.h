@@ -44,6 +44,10 @@ private:
 // Where trace lines go: the console, or nowhere while the log is off.
 std::ostream& zarnLog();
 
+inline bool isLogSwitch(std::string_view argument) noexcept {
+    return argument == "zarnoption=zarnlogenable=1";
+}
+
 // Looks for the log switch: the log is on afterwards if `firstArgument` is it, and off otherwise.
 bool switchLog(std::string_view firstArgument) noexcept;
 void switchLogOff() noexcept;

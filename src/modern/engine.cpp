@@ -5,6 +5,8 @@
 #include <cstddef>
 #include <iterator>
 #include <memory>
+#include <new>
+#include <optional>
 #include <stdexcept>
 #include <utility>
 

@@ -10,6 +10,7 @@
 
 #include "options/name_index.h"
 #include "recognizers/argument_parser.h"
+#include "recognizers/argument_reading.h"
 
 namespace zarn_3_3 {
 
@@ -26,11 +27,11 @@ public:
 
 private:
     bool recognizeName(const std::string& argument, RegisteredOptionStorage& registry);
-    int findBestMatch(const std::string& argument, RegisteredOptionStorage& registry);
+    void listCandidates(const std::string& argument, const RegisteredOptionStorage& registry);
     const OptionDescription* match(RegisteredOptionStorage& registry,
                                    std::size_t& optionIndex,
                                    std::string& error) override;
-    [[gnu::cold]] void tellProblem(bool isName, std::string& error);
+    [[gnu::cold]] void tellProblem(std::string& error);
     int decideValue(const OptionDescription& option, std::string& error);
     [[gnu::cold]] int refuseValue(const OptionDescription& option, std::string& error);
     int takeNextArgument(const OptionDescription& option, std::string& error);
@@ -44,9 +45,7 @@ private:
     std::size_t argumentCount_ = 1;  // 2 when the value is the next argument
 
     // Views into the arguments in front, which stay where they are until they are taken.
-    std::string_view text_;   // the name in the argument
-    std::string_view value_;  // the value, attached to it or the next argument
-    bool hasValue_ = false;   // whether one was attached
+    internal::CutOption cut_;  // its value, once that is decided: attached, or the next argument
 };
 
 // Appends the names and the "no-" forms of booleans that begin with `beginning`, each once, in the

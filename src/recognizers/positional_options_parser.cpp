@@ -2,6 +2,7 @@
 
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
+#include "recognizers/argument_reading.h"
 #include "zarn/event_handler.h"
 #include "zarn/parser.h"
 
@@ -14,12 +15,7 @@ int PositionalOptionsParser::recognize(std::vector<std::string>& args,
                                        std::string& /*error*/) {
     const std::string& argument = args[0];
     trace(name, ": recognizing argument '", argument, "'");
-    // Without the flag every argument is taken that is no option: the other recogniser, which is
-    // asked as well, takes precedence.
-    const bool isRefused =
-        (flags_ & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
-    const bool isTaken = !isRefused && registry.firstPositional() != NameIndex::none;
-    return isTaken ? recognized : declined;
+    return isForPositional(argument, flags_, registry) ? recognized : declined;
 }
 
 const OptionDescription* PositionalOptionsParser::match(RegisteredOptionStorage& registry,

@@ -4,6 +4,7 @@
 #include <string_view>
 #include <vector>
 
+#include "completion/protocol.h"
 #include "parser/ask_parser.h"
 #include "vocabulary/checks.h"
 #include "vocabulary/description.h"
@@ -53,7 +54,10 @@ std::string answerTo(const Question& question, const BasicParser& parser, const 
     if (question.text == "describe") {
         return descriptionOf(parser, tool);
     }
-    return kind == "check" ? findingsFor(question.text, parser) : "";
+    if (kind == "check") {
+        return findingsFor(question.text, parser);
+    }
+    return answerCompletion(question.text, question.words, parser);
 }
 
 }  // namespace

@@ -1,0 +1,172 @@
+#include "completion/candidates.h"
+
+#include <algorithm>
+#include <cstddef>
+
+#include "completion/line_walk.h"
+#include "completion/name_choice.h"
+#include "parser/basic_parser.h"
+#include "recognizers/argument_reading.h"
+#include "text/cut_argument.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+bool beginsWith(std::string_view text, std::string_view beginning) {
+    return text.substr(0, beginning.size()) == beginning;
+}
+
+// Of a list that ends in a separator.
+std::vector<variant_t> valuesIn(std::string_view list, const OptionDescription& item) {
+    std::vector<variant_t> values;
+    while (!list.empty()) {
+        const std::size_t end = list.find(item.tokenizer);
+        values.push_back(item.fromString(list.substr(0, end), globalTextLocale()));
+        list.remove_prefix(end + 1);
+    }
+    return values;
+}
+
+// The allowed values of one item.
+class ValueChoice {
+public:
+    // `typed`: the value so far.
+    ValueChoice(const OptionDescription& item, std::string_view typed)
+        : item_(item),
+          list_(item.tokenizer == 0 ? "" : typed.substr(0, typed.rfind(item.tokenizer) + 1)),
+          beginning_(typed.substr(list_.size())),
+          given_(valuesIn(list_, item)) {}
+
+    template <typename Offer>
+    void visit(Offer offer) const {
+        for (const variant_t& value : item_.allowedValues) {
+            const std::string text = item_.toString(value);
+            if (!text.empty() && beginsWith(text, beginning_) && isTypeable(text) &&
+                isOpen(value)) {
+                offer(std::string(list_) + text);
+            }
+        }
+    }
+
+private:
+    bool isTypeable(const std::string& text) const {
+        return item_.tokenizer == 0 || text.find(item_.tokenizer) == std::string::npos;
+    }
+
+    // Nobody is led to a deprecated value, or to one that stands there already.
+    bool isOpen(const variant_t& value) const {
+        return item_.deprecatedValues.count(value) == 0 &&
+               std::find(given_.begin(), given_.end(), value) == given_.end();
+    }
+
+    const OptionDescription& item_;
+    std::string_view list_;  // up to the last separator
+    std::string_view beginning_;
+    std::vector<variant_t> given_;  // in the list
+};
+
+class Completing {
+public:
+    Completing(const std::string& word, const WordPlace& place, const BasicParser& parser)
+        : word_(word), place_(place), parser_(parser), registry_(parser.vocabulary()) {}
+
+    Completion run() {
+        if (place_.isBehindOptions()) {
+            offerRest();
+        } else if (place_.waiting != NameIndex::none) {
+            offerNext();
+        } else if (getDashLength(word_, 0) != 0) {
+            offerOption();
+        } else if (registry_.firstPositional() != NameIndex::none) {
+            offerPositional();
+        } else if (word_.empty()) {
+            offerNames("", "");
+        }
+        return std::move(completion_);
+    }
+
+private:
+    // What stands behind the terminator is the tool's own, unless it wants it treated as the rest.
+    void offerRest() {
+        const bool isTaken =
+            place_.isInRest || (parser_.creationFlags() & flagPositionalBehindTerminator) != 0;
+        if (isTaken && registry_.firstPositional() != NameIndex::none) {
+            offerPositional();
+        }
+    }
+
+    void offerNext() {
+        if (!isNoValue(word_)) {
+            offerValues(registry_.items()[place_.waiting], "", word_);
+        }
+    }
+
+    void offerOption() {
+        CutOption cut;
+        const bool isCut = cutOption(word_, globalTextLocale(), cut);
+        if (isCut && cut.hasValue) {
+            offerAttached(cut);
+        } else {
+            const std::size_t nameAt = isCut ? word_.size() - cut.name.size() : word_.size();
+            offerNames(std::string_view(word_).substr(0, nameAt), cut.name);
+        }
+    }
+
+    void offerAttached(const CutOption& cut) {
+        const NameMatch match = cut.isNamed() ? resolveName(cut.name, registry_) : NameMatch();
+        if (match.item != NameIndex::none && needsValue(registry_.items()[match.item])) {
+            const std::string_view head(word_.data(), word_.size() - cut.value.size());
+            offerValues(registry_.items()[match.item], head, cut.value);
+        }
+    }
+
+    void offerPositional() { offerValues(positionalItem(), "", word_); }
+
+    // Where several take their arguments by their places, the last one takes all that are left.
+    const OptionDescription& positionalItem() const {
+        const std::size_t first = registry_.firstPositional();
+        std::size_t number = first;
+        std::size_t left = registry_.takesAnyText(first) ? place_.plainWords : 0;
+        for (std::size_t i = first + 1; left > 0 && i < registry_.items().size(); ++i) {
+            if (registry_.items()[i].isPositional) {
+                number = i;
+                --left;
+            }
+        }
+        return registry_.asDeclared(number);
+    }
+
+    // `head`: what of the word stands in front of the value.
+    void offerValues(const OptionDescription& item, std::string_view head, std::string_view typed) {
+        if (item.allowedValues.empty()) {
+            completion_.takesFiles = item.type == vtString;
+            return;
+        }
+        ValueChoice(item, typed).visit([&](const std::string& value) {
+            // Where options may stand, it would be taken for one.
+            if (!head.empty() || place_.isBehindOptions() || getDashLength(value, 0) == 0) {
+                completion_.candidates.push_back({std::string(head) + value, {}});
+            }
+        });
+    }
+
+    void offerNames(std::string_view dashes, std::string_view beginning) {
+        completion_.candidates = NameChoice(parser_, place_.given).namesOf(dashes, beginning);
+    }
+
+    const std::string& word_;
+    const WordPlace& place_;
+    const BasicParser& parser_;
+    const RegisteredOptionStorage& registry_;
+    Completion completion_;
+};
+
+}  // namespace
+
+Completion completionsOf(const std::string& word,
+                         const std::vector<std::string>& before,
+                         const BasicParser& parser) {
+    return Completing(word, placeBehind(before, parser), parser).run();
+}
+
+}  // namespace zarn_3_3::internal

@@ -1,0 +1,89 @@
+// How an argument is read: what is an option, which item its name means, where its value stands.
+//
+// Shared by the recognisers and by those who want to know beforehand what they would make of it.
+
+#ifndef ZARN_RECOGNIZERS_ARGUMENT_READING_H
+#define ZARN_RECOGNIZERS_ARGUMENT_READING_H
+
+#include <cstddef>
+#include <string>
+#include <string_view>
+
+#include "options/name_index.h"
+#include "options/registered_option_storage.h"
+#include "text/cut_argument.h"
+#include "text/text_locale.h"
+#include "zarn/parser.h"
+
+namespace zarn_3_3::internal {
+
+// The parts of an argument that may be an option; they point into it.
+struct CutOption {
+    std::string_view name;
+    std::string_view value;  // empty without one
+    bool hasValue = false;   // whether one is attached
+
+    // "--" with a value behind it, or a third dash: it looks like an option, and can be none.
+    bool isNamed() const { return !name.empty() && name[0] != '-'; }
+};
+
+// Whether the argument may be an option; `cut` is left as it was when not. A lone dash is none:
+// many tools take it for the standard input.
+inline bool cutOption(const std::string& argument, TextLocale locale, CutOption& cut) {
+    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+        return false;
+    }
+    cut.value = {};
+    cut.hasValue = splitOptionValue(argument, &cut.name, &cut.value, locale);
+    return true;
+}
+
+// What a name in an argument stands for.
+struct NameMatch {
+    std::size_t item = NameIndex::none;
+    std::string_view form;     // the name or "no-" form that was matched
+    bool isAmbiguous = false;  // several begin so, and `item` is none of them
+};
+
+// A form that is typed in full beats every longer one; of the others those match that begin with
+// the text, letter by letter. One match is taken. Nothing is ever guessed beyond that, however
+// close a name may be: a tool could do something else than its user asked for.
+inline NameMatch resolveName(std::string_view name, const RegisteredOptionStorage& registry) {
+    NameMatch match;
+    if (findOption(name, match.item, registry) == resultSuccess) {
+        match.form = name;
+        return match;
+    }
+    const PrefixIndex::Found found = registry.findBeginning(name);
+    // The index counts forms, not items: two names of one item that begin so are ambiguous too.
+    match.isAmbiguous = found.first != KeptTexts::none && !found.isOnly;
+    if (found.isOnly) {
+        match.form = registry.names().forms()[found.first];
+        match.item = registry.names().firstWithForm(found.first);
+    }
+    return match;
+}
+
+// For switches and booleans the name is all there is to say.
+inline bool needsValue(const OptionDescription& option) {
+    return option.type != vtNull && option.type != vtBool;
+}
+
+// Whether an argument that stands behind an option in want of a value is none, but most likely the
+// next option. A negative number looks the same, and has to be attached.
+inline bool isNoValue(const std::string& next) { return !next.empty() && next.front() == '-'; }
+
+// Whether the positional item takes an argument that is no option.
+inline bool isForPositional(const std::string& argument,
+                            int flags,
+                            const RegisteredOptionStorage& registry) {
+    // Without the flag every argument is taken that is no option: the recogniser of options, which
+    // is asked as well, takes precedence.
+    const bool isRefused =
+        (flags & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
+    return !isRefused && registry.firstPositional() != NameIndex::none;
+}
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_RECOGNIZERS_ARGUMENT_READING_H

@@ -7,7 +7,6 @@ set(optimised_configs Release,RelWithDebInfo,MinSizeRel)
 set_source_files_properties(
     src/help/columns.cpp
     src/help/formatted_help.cpp
-    src/help/help_blocks.cpp
     src/help/help_renderer.cpp
     src/help/help_topics.cpp
     src/help/shown_item.cpp

@@ -90,4 +90,15 @@ std::size_t columnsOf(std::string_view text) {
     return columns;
 }
 
+std::string withoutEmphasis(std::string_view text) {
+    std::string plain;
+    while (!text.empty()) {
+        const std::size_t length = emphasisLength(text);
+        const std::size_t end = std::min(text.find('\x1b', 1), text.size());
+        plain.append(text.substr(length, end - length));
+        text.remove_prefix(end);
+    }
+    return plain;
+}
+
 }  // namespace zarn_3_3::internal

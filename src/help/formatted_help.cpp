@@ -1,10 +1,13 @@
 #include "help/formatted_help.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <map>
+#include <vector>
 
 #include "help/columns.h"
-#include "help/help_blocks.h"
 #include "help/messages.h"
+#include "help/shown_item.h"
 #include "help/wrapped_text.h"
 
 namespace zarn_3_3::internal {
@@ -21,13 +24,28 @@ constexpr std::size_t furtherIndent = 4;   // of what goes on in the next line
 constexpr std::size_t ownLineIndent = 8;
 constexpr std::size_t columnGap = 3;
 
+std::string underlined(std::string_view text) {
+    return std::string("\x1b[4m").append(text).append("\x1b[0m");
+}
+
+// What has no section stands under a title for what it is.
+enum Group : std::uint8_t { itsActions, itsArguments, optionsOfActions, commonOptions };
+
+// A block of items below one title, in the order in which blocks stand: its section, its group and,
+// of the options of some actions, the first one with these.
+using Place = std::uint64_t;
+
+constexpr Place placeAt(std::size_t section, Group group, std::size_t firstItem) {
+    constexpr unsigned itemBits = 32;
+    constexpr unsigned groupBits = 2;
+    return ((Place{section} << groupBits | group) << itemBits) | firstItem;
+}
+
+// Where an action is asked for, null stands for the vocabulary as a whole.
 class HelpWriter {
 public:
     HelpWriter(const RegisteredOptionStorage& registry, const HelpLook& look)
-        : look_(look),
-          items_(shownItems(registry)),
-          blocks_(items_, registry.sectionList()),
-          text_(look.width) {}
+        : look_(look), sections_(registry.sectionList()), items_(registry), text_(look.width) {}
 
     std::string whole() {
         addUsage();
@@ -37,25 +55,27 @@ public:
     }
 
     std::string of(std::size_t item) {
-        const ShownItem& shown = items_[item];
+        const ShownItem& shown = items_.all()[item];
         if (shown.isAction()) {
-            beginUsage();
+            text_.add(underlined(messages::usage), 0);
             addUsageOf(&shown);
             addParagraph(shown.description(""));
             addBlocks(&shown);
         } else {
             chooseColumn({
-                {"", {&shown}, true}
+                {0, &shown}
             });
-            addEntry(shown, true);
+            addEntry(shown, items_.actionNames(shown, messages::orElse));
         }
         return finished();
     }
 
 private:
+    using Blocks = std::multimap<Place, const ShownItem*>;
+
     std::string finished() {
         text_.endLine();
-        return text_.take();
+        return look_.isEmphasized ? text_.take() : withoutEmphasis(text_.take());
     }
 
     void addParagraph(std::string_view text) {
@@ -65,42 +85,41 @@ private:
         }
     }
 
-    void beginUsage() { text_.add(underlined(messages::usage, look_.isEmphasized), 0); }
-
-    void addUsage() {
-        beginUsage();
-        const std::vector<const ShownItem*>& actions = blocks_.actions();
-        if (actions.empty() || actions.size() > mostUsageLines) {
-            addUsageOf(nullptr);
-            return;
-        }
-        for (const ShownItem* const action : actions) {
-            if (action != actions.front()) {
-                text_.endLine();
-                text_.moveTo(usageIndent());
-            }
-            addUsageOf(action);
-        }
-    }
-
-    static std::size_t usageIndent() { return columnsOf(messages::usage) + 1; }
+    static std::size_t usageIndent() { return std::string_view(messages::usage).size() + 1; }
 
     void addUsageWord(std::string_view word) { text_.add(word, usageIndent() + furtherIndent); }
 
+    void addUsage() {
+        text_.add(underlined(messages::usage), 0);
+        if (items_.visibleActions() == 0 || items_.visibleActions() > mostUsageLines) {
+            addUsageOf(nullptr);
+            return;
+        }
+        for (const ShownItem& shown : items_.all()) {
+            if (shown.isAction() && !shown.isHidden) {
+                addUsageOf(&shown);
+                text_.endLine();
+                text_.moveTo(usageIndent());
+            }
+        }
+    }
+
     // How to call the tool with this action; null: with whatever action.
     void addUsageOf(const ShownItem* action) {
-        addUsageWord(bold(look_.tool, look_.isEmphasized));
+        if (!look_.tool.empty()) {
+            addUsageWord(bold(look_.tool));
+        }
         if (action != nullptr) {
-            addUsageWord(action->asTyped(look_.isEmphasized));
-        } else if (!blocks_.actions().empty()) {
+            addUsageWord(action->asTyped());
+        } else if (items_.visibleActions() != 0) {
             addUsageWord(messages::anyAction);
         }
         addUsageOptions(action);
         addUsagePlaces(action);
     }
 
-    bool isInUsage(const ShownItem& shown, const ShownItem* action) const {
-        return !shown.isHidden && (action == nullptr || goesWith(shown, *action));
+    static bool isIn(const ShownItem& shown, const ShownItem* action) {
+        return action == nullptr || shown.goesWith(*action);
     }
 
     // What one action requires is no matter of the line for all of them.
@@ -110,12 +129,12 @@ private:
 
     void addUsageOptions(const ShownItem* action) {
         bool hasOthers = false;
-        for (const ShownItem& shown : items_) {
-            if (!shown.isOption() || !isInUsage(shown, action)) {
+        for (const ShownItem& shown : items_.all()) {
+            if (shown.isHidden || !shown.isOption() || !isIn(shown, action)) {
                 continue;
             }
             if (isRequired(shown, action)) {
-                addUsageWord(shown.asTyped(look_.isEmphasized));
+                addUsageWord(shown.asTyped());
             } else {
                 hasOthers = true;
             }
@@ -125,8 +144,8 @@ private:
 
     void addUsagePlaces(const ShownItem* action) {
         std::vector<const ShownItem*> places;
-        for (const ShownItem& shown : items_) {
-            if (shown.item->isPositional && isInUsage(shown, action)) {
+        for (const ShownItem& shown : items_.all()) {
+            if (!shown.isHidden && shown.item->isPositional && isIn(shown, action)) {
                 places.push_back(&shown);
             }
         }
@@ -137,37 +156,87 @@ private:
     }
 
     void addBlocks(const ShownItem* action) {
-        const std::vector<HelpBlock> blocks = blocks_.of(action, look_.showsHidden);
-        chooseColumn(blocks);
-        for (const HelpBlock& block : blocks) {
-            const bool isSentence =
-                std::string_view(".:!?").find(block.title.back()) != std::string_view::npos;
-            addParagraph(underlined(block.title, look_.isEmphasized) + (isSentence ? "" : ":"));
-            text_.endLine();
-            for (const ShownItem* const shown : block.items) {
-                addEntry(*shown, block.tellsActions);
+        Blocks blocks;
+        for (const ShownItem& shown : items_.all()) {
+            if (isIn(shown, action) && (look_.showsHidden || !shown.isHidden)) {
+                blocks.emplace(placeOf(shown, action), &shown);
             }
+        }
+        chooseColumn(blocks);
+        const Place* before = nullptr;
+        for (const auto& [place, shown] : blocks) {
+            if (before == nullptr || *before != place) {
+                addTitle(titleOf(*shown, action));
+            }
+            const bool tellsActions =
+                action == nullptr && groupOf(*shown, action) != optionsOfActions;
+            addEntry(*shown, tellsActions ? items_.actionNames(*shown, messages::orElse) : "");
+            before = &place;
         }
     }
 
-    // Descriptions begin behind the widest of the heads that leave room for them.
-    void chooseColumn(const std::vector<HelpBlock>& blocks) {
-        const std::size_t furthest = look_.width * 2 / 5;
-        forEach(blocks, [&](const ShownItem& shown) {
-            hasShortNames_ = hasShortNames_ || shown.hasShortName();
-        });
-        forEach(blocks, [&](const ShownItem& shown) {
-            const std::size_t column = indentOf(shown) + columnsOf(shown.head(false)) + columnGap;
-            column_ = column <= furthest ? std::max(column_, column) : column_;
-        });
+    Group groupOf(const ShownItem& shown, const ShownItem* action) const {
+        const Section& section = sections_[shown.item->section];
+        if (shown.isHidden || !section.key.empty() || !section.title.empty()) {
+            return commonOptions;
+        }
+        if (!shown.isOption()) {
+            return shown.isAction() ? itsActions : itsArguments;
+        }
+        const bool isCommon =
+            action != nullptr ? shown.actions.empty() : items_.actionNames(shown, "").empty();
+        return isCommon ? commonOptions : optionsOfActions;
     }
 
-    template <typename Do>
-    static void forEach(const std::vector<HelpBlock>& blocks, Do then) {
-        for (const HelpBlock& block : blocks) {
-            for (const ShownItem* const shown : block.items) {
-                then(*shown);
-            }
+    Place placeOf(const ShownItem& shown, const ShownItem* action) const {
+        const Group group = groupOf(shown, action);
+        const std::vector<ShownItem>& all = items_.all();
+        const auto first = std::find_if(all.begin(), all.end(), [&](const ShownItem& other) {
+            return other.actions == shown.actions && other.isOption();
+        });
+        const bool isApart = group == optionsOfActions && action == nullptr;
+        return placeAt(shown.isHidden ? sections_.size() : shown.item->section,
+                       group,
+                       isApart ? static_cast<std::size_t>(first - all.begin()) : 0);
+    }
+
+    std::string titleOf(const ShownItem& shown, const ShownItem* action) const {
+        const Section& section = sections_[shown.item->section];
+        if (!section.title.empty()) {
+            return section.title;
+        }
+        if (shown.isHidden) {
+            return messages::hiddenOptions;
+        }
+        if (!section.key.empty()) {
+            return section.key;
+        }
+        const Group group = groupOf(shown, action);
+        if (group != optionsOfActions) {
+            return group == itsActions     ? messages::actions
+                   : group == itsArguments ? messages::arguments
+                                           : messages::options;
+        }
+        return messages::optionsOf + (action != nullptr
+                                          ? typedForm(action->item->primaryName())
+                                          : items_.actionNames(shown, messages::andAlso));
+    }
+
+    void addTitle(const std::string& title) {
+        const bool isSentence = std::string_view(".:!?").find(title.back()) != std::string::npos;
+        addParagraph(underlined(title) + (isSentence ? "" : ":"));
+        text_.endLine();
+    }
+
+    // Descriptions begin behind the widest of the heads that leave room for them.
+    void chooseColumn(const Blocks& blocks) {
+        const std::size_t furthest = look_.width * 2 / 5;
+        for (const auto& [place, shown] : blocks) {
+            hasShortNames_ = hasShortNames_ || shown->hasShortName();
+        }
+        for (const auto& [place, shown] : blocks) {
+            const std::size_t column = indentOf(*shown) + columnsOf(shown->head()) + columnGap;
+            column_ = column <= furthest ? std::max(column_, column) : column_;
         }
     }
 
@@ -180,23 +249,21 @@ private:
         return entryIndent + (leavesRoom ? shortNameWidth : 0);
     }
 
-    void addEntry(const ShownItem& shown, bool tellsActions) {
+    void addEntry(const ShownItem& shown, const std::string& actionNames) {
         text_.moveTo(indentOf(shown));
-        text_.add(shown.head(look_.isEmphasized), entryIndent + furtherIndent);
-        const std::size_t column = isNarrow() ? ownLineIndent : column_;
+        text_.add(shown.head(), entryIndent + furtherIndent);
         if (isNarrow()) {
             text_.endLine();
         }
+        const std::size_t column = isNarrow() ? ownLineIndent : column_;
         text_.moveTo(column);
-        text_.add(
-            shown.description(tellsActions ? blocks_.actionNames(shown, messages::orElse) : ""),
-            column);
+        text_.add(shown.description(actionNames), column);
         text_.endLine();
     }
 
     const HelpLook& look_;
-    std::vector<ShownItem> items_;
-    HelpBlocks blocks_;
+    const SectionList& sections_;
+    ShownItems items_;
     WrappedText text_;
     bool hasShortNames_ = false;
     std::size_t column_ = ownLineIndent;

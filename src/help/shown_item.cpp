@@ -1,22 +1,20 @@
 #include "help/shown_item.h"
 
 #include <algorithm>
-#include <iterator>
-#include <map>
-#include <set>
 
 #include "help/help_renderer.h"
 #include "help/messages.h"
-#include "text/filled.h"
+#include "options/action_modifiers.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
-using ActionsByTag = std::multimap<std::string_view, std::size_t>;
+// Marks of ShownItem::actions.
+constexpr char isApart = '-';
+constexpr char isTogether = 'x';
+constexpr char isTogetherHidden = 'h';
 
 bool isShort(std::string_view name) { return name.size() == 1; }
-
-std::string_view dashesOf(std::string_view name) { return isShort(name) ? "-" : "--"; }
 
 std::string_view valueWord(const OptionDescription& item) {
     if (item.isPositional) {
@@ -32,23 +30,39 @@ std::string_view valueWord(const OptionDescription& item) {
     }
 }
 
-std::string nameOf(const OptionDescription& item, std::string_view name, bool isEmphasized) {
-    const bool isBoth = item.type == vtBool && name == item.primaryName();
-    return bold(filled("{}{}{}", {dashesOf(name), isBoth ? "[no-]" : "", name}), isEmphasized);
+void appendName(std::string& text, const OptionDescription& item, std::string_view name) {
+    std::string form = typedForm(name);
+    if (item.type == vtBool && name == item.primaryName()) {
+        form.insert(form.size() - name.size(), messages::eitherForm);
+    }
+    text.append(bold(form));
 }
 
-std::string withValue(const ShownItem& shown, const std::string& names) {
-    const bool takesValue = shown.item->type != vtNull && shown.item->type != vtBool;
-    return takesValue ? filled("{} {}", {names, shown.valueName}) : names;
+void appendValue(std::string& text, const ShownItem& shown) {
+    if (shown.item->type != vtNull && shown.item->type != vtBool) {
+        text.append(" ").append(shown.valueName);
+    }
+}
+
+// One of a list, behind which `left` others follow: "a", "a or b", "a, b or c".
+void appendListed(std::string& list,
+                  std::string_view word,
+                  std::size_t left,
+                  std::string_view lastSeparator) {
+    if (!list.empty()) {
+        list.append(left == 0 ? lastSeparator : ", ");
+    }
+    list.append(word);
 }
 
 std::string valuesOf(const OptionDescription& item) {
-    std::vector<std::string> values;
+    std::string values;
+    std::size_t left = item.allowedValues.size();
     for (const variant_t& allowed : item.allowedValues) {
         const std::string value = item.toString(allowed);
-        values.push_back(value.empty() ? "\"\"" : value);
+        appendListed(values, value.empty() ? "\"\"" : value, --left, messages::orElse);
     }
-    return messages::listed(values, messages::orElse);
+    return values;
 }
 
 // Empty for none: a default with an empty text is none, in a result too.
@@ -62,119 +76,137 @@ std::string defaultOf(const OptionDescription& item) {
     return item.getDefaultValueAsText();
 }
 
+void appendNote(std::string& notes, const char* label, const std::string& about) {
+    if (!about.empty()) {
+        notes.append(notes.empty() ? "" : "; ").append(label).append(about);
+    }
+}
+
 // Takes the full stop, which goes behind what is added. An ellipsis stays.
 bool takeFullStop(std::string& text) {
     const std::size_t stop = text.find_last_not_of('.') + 1;
     const bool isThere = stop + 1 == text.size();
-    text.erase(isThere ? stop : text.size());
+    text.resize(isThere ? stop : text.size());
     return isThere;
-}
-
-std::vector<std::size_t> actionsOf(const OptionDescription& item, const ActionsByTag& byTag) {
-    std::set<std::size_t> found;
-    for (const std::string& tag : item.tags) {
-        const auto [begin, end] = byTag.equal_range(tag);
-        std::transform(begin, end, std::inserter(found, found.end()), [](const auto& action) {
-            return action.second;
-        });
-    }
-    return {found.begin(), found.end()};
 }
 
 }  // namespace
 
 bool ShownItem::hasShortName() const {
-    return !item->isPositional && std::any_of(item->names.begin(), item->names.end(), isShort);
-}
-
-std::string ShownItem::asTyped(bool isEmphasized) const {
-    return withValue(*this, nameOf(*item, item->primaryName(), isEmphasized));
-}
-
-std::string ShownItem::head(bool isEmphasized) const {
-    if (item->isPositional) {
-        return bold(valueName, isEmphasized);
-    }
-    std::vector<std::string> shortNames;
-    std::vector<std::string> names;
     for (const std::string& name : item->names) {
-        (isShort(name) ? shortNames : names).push_back(nameOf(*item, name, isEmphasized));
+        if (isShort(name)) {
+            return !item->isPositional;
+        }
     }
-    names.insert(names.begin(), shortNames.begin(), shortNames.end());
-    return withValue(*this, messages::listed(names, ", "));
+    return false;
+}
+
+bool ShownItem::goesWith(const ShownItem& action) const {
+    return !isAction() && (actions.empty() || actions[action.actionNumber] != isApart);
+}
+
+std::string ShownItem::asTyped() const {
+    std::string text;
+    appendName(text, *item, item->primaryName());
+    appendValue(text, *this);
+    return text;
+}
+
+std::string ShownItem::head() const {
+    if (item->isPositional) {
+        return bold(valueName);
+    }
+    std::string text;
+    for (const bool takesShort : {true, false}) {
+        for (const std::string& name : item->names) {
+            if (isShort(name) == takesShort) {
+                text.append(text.empty() ? "" : ", ");
+                appendName(text, *item, name);
+            }
+        }
+    }
+    appendValue(text, *this);
+    return text;
 }
 
 std::string ShownItem::place(bool isRequired, bool isLast) const {
-    const char* const many = isLast && !item->takesOneValue ? "..." : "";
-    return filled(isRequired ? "{}{}" : "[{}{}]", {valueName, many});
+    std::string text(valueName);
+    text.append(isLast && !item->takesOneValue ? "..." : "");
+    return isRequired ? text : "[" + text + "]";
 }
 
 std::string ShownItem::description(const std::string& actionNames) const {
-    std::string text(item->description);
     const std::string values = valuesOf(*item);
-    const std::string byDefault = defaultOf(*item);
     std::string notes;
-    const auto note = [&](std::string (*say)(std::string_view), std::string_view about) {
-        if (!about.empty()) {
-            notes.append(notes.empty() ? "" : "; ").append(say(about));
-        }
-    };
-    note(messages::onlyWith, actionNames);
-    note(messages::byDefault, byDefault);
-    note(messages::fromVariable, variable);
-    if (values.empty() && notes.empty()) {
-        return text;
-    }
-    const bool hasStop = takeFullStop(text);
+    appendNote(notes, messages::onlyWith, actionNames);
+    appendNote(notes, messages::byDefault, defaultOf(*item));
+    appendNote(notes, messages::fromVariable, std::string(variable));
+    std::string text(item->description);
+    const bool hasStop = !(values + notes).empty() && takeFullStop(text);
     if (!values.empty()) {
         text.append(text.empty() ? "" : ": ").append(values);
     }
     if (!notes.empty()) {
-        text.append(text.empty() ? "" : " ").append("(").append(notes).append(")");
+        text.append(text.empty() ? "(" : " (").append(notes).append(")");
     }
     return text.append(hasStop ? "." : "");
 }
 
-std::vector<ShownItem> shownItems(const RegisteredOptionStorage& registry) {
-    std::vector<ShownItem> items;
-    ActionsByTag byTag;
-    for (std::size_t i = 0; i < registry.items().size(); ++i) {
-        const OptionDescription& item = registry.asDeclared(i);
-        const std::string_view name = registry.valueName(i);
-        items.push_back({&item,
-                         i,
-                         name.empty() ? valueWord(item) : name,
-                         registry.variableName(i),
-                         {},
-                         isSectionVisible(registry.sectionKey(item), true)});
-        for (const std::string& tag : item.tags) {
-            if (items.back().isAction()) {
-                byTag.emplace(tag, i);
-            }
+ShownItems::ShownItems(const RegisteredOptionStorage& registry) : items_(registry.items().size()) {
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        ShownItem& shown = items_[i];
+        shown.item = &registry.asDeclared(i);
+        shown.valueName = registry.valueName(i);
+        if (shown.valueName.empty()) {
+            shown.valueName = valueWord(*shown.item);
+        }
+        shown.variable = registry.variableName(i);
+        shown.isHidden = isSectionVisible(registry.sectionKey(*shown.item), true);
+        if (shown.isAction()) {
+            shown.actionNumber = actions_.size();
+            actions_.push_back(&shown);
+            visibleActions_ += shown.isHidden ? 0 : 1;
         }
     }
-    for (ShownItem& shown : items) {
-        if (!shown.isAction()) {
-            shown.actions = actionsOf(*shown.item, byTag);
-        }
-        // What goes with hidden actions alone would give them away.
-        shown.isHidden = shown.isHidden ||
-                         (!shown.actions.empty() &&
-                          std::all_of(shown.actions.begin(), shown.actions.end(), [&](auto action) {
-                              return items[action].isHidden;
-                          }));
+    for (ShownItem& shown : items_) {
+        readActions(shown);
     }
-    return items;
 }
 
-std::string typedForm(std::string_view name) { return filled("{}{}", {dashesOf(name), name}); }
-
-std::string bold(std::string_view text, bool isEmphasized) {
-    return isEmphasized && !text.empty() ? filled("\x1b[1m{}\x1b[0m", {text}) : std::string(text);
+void ShownItems::readActions(ShownItem& shown) {
+    if (shown.isAction() || shown.item->tags.empty()) {
+        return;
+    }
+    for (const ShownItem* const action : actions_) {
+        const bool areTogether = isIntersected(shown.item->tags, action->item->tags);
+        shown.actions += !areTogether ? isApart : action->isHidden ? isTogetherHidden : isTogether;
+    }
+    if (shown.actions.find_first_not_of(isApart) == std::string::npos) {
+        shown.actions.clear();
+    } else if (shown.actions.find(isTogether) == std::string::npos) {
+        shown.isHidden = true;  // what goes with hidden actions alone would give them away
+    }
 }
 
-std::string underlined(std::string_view text, bool isEmphasized) {
-    return isEmphasized && !text.empty() ? filled("\x1b[4m{}\x1b[0m", {text}) : std::string(text);
+std::string ShownItems::actionNames(const ShownItem& shown, std::string_view lastSeparator) const {
+    auto left = static_cast<std::size_t>(
+        std::count(shown.actions.begin(), shown.actions.end(), isTogether));
+    std::string names;
+    const bool goesWithAll = left == visibleActions_;
+    for (std::size_t i = 0; i < shown.actions.size() && !goesWithAll; ++i) {
+        if (shown.actions[i] == isTogether) {
+            appendListed(names, typedForm(actions_[i]->item->primaryName()), --left, lastSeparator);
+        }
+    }
+    return names;
+}
+
+std::string typedForm(std::string_view name) {
+    return std::string(isShort(name) ? "-" : "--").append(name);
+}
+
+std::string bold(std::string_view text) {
+    return std::string("\x1b[1m").append(text).append("\x1b[0m");
 }
 
 }  // namespace zarn_3_3::internal

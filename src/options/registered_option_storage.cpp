@@ -177,11 +177,10 @@ const OptionDescription& RegisteredOptionStorage::asDeclared(std::size_t number)
     return kept != declaredAs_.end() ? kept->second : options[number];
 }
 
-const RegisteredOptionStorage::HelpNames& RegisteredOptionStorage::helpNames(
-    std::size_t number) const {
-    static const HelpNames none;
+std::string_view RegisteredOptionStorage::helpName(std::size_t number,
+                                                   std::string HelpNames::*which) const {
     const auto named = helpNames_.find(number);
-    return named != helpNames_.end() ? named->second : none;
+    return named != helpNames_.end() ? std::string_view(named->second.*which) : std::string_view();
 }
 
 result_t validateName(const std::vector<std::string>& names) {

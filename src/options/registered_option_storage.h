@@ -66,13 +66,17 @@ public:
 
     // What help and description call the value of an item; empty for the word of its type.
     void nameValue(std::size_t number, std::string_view name) { helpNames_[number].value = name; }
-    std::string_view valueName(std::size_t number) const { return helpNames(number).value; }
+    std::string_view valueName(std::size_t number) const {
+        return helpName(number, &HelpNames::value);
+    }
 
     // The variable of the environment that help shows for an item; empty for none.
     void nameVariable(std::size_t number, std::string_view name) {
         helpNames_[number].variable = name;
     }
-    std::string_view variableName(std::size_t number) const { return helpNames(number).variable; }
+    std::string_view variableName(std::size_t number) const {
+        return helpName(number, &HelpNames::variable);
+    }
 
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
@@ -112,7 +116,7 @@ private:
         std::string variable;
     };
 
-    const HelpNames& helpNames(std::size_t number) const;
+    std::string_view helpName(std::size_t number, std::string HelpNames::*which) const;
     IOption& declare(const Declaration& given);
     const std::string* findTaken(const std::vector<std::string>& nameList) const;
     [[gnu::cold]] IOption& refused(RefusalReason reason,

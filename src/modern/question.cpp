@@ -10,13 +10,11 @@ namespace zarn_3_3::internal {
 std::optional<Answer> answerToQuestion(Vocabulary& vocabulary,
                                        const std::string& tool,
                                        CommandLine line) {
-    if (line.argv == nullptr) {
-        return std::nullopt;
-    }
+    const int argc = line.argv == nullptr ? 0 : line.argc;
     const Tool& given = vocabulary.tool();
     const ToolInfo info{sizeof info, tool.c_str(), given.version, given.summary};
     const char* answer = nullptr;
-    const int code = answerQuestion(&vocabulary.plain(), &info, line.argc, line.argv, &answer);
+    const int code = answerQuestion(&vocabulary.plain(), &info, argc, line.argv, &answer);
     if (code == toolingFailed) {
         throw std::bad_alloc();
     }

@@ -19,7 +19,7 @@ namespace {
 
 using testing_support::PlainTool;
 
-const ToolInfo sonde{sizeof sonde, "sonde", "2.1", "look into \"archives\"\n\x1b\xff"};
+const ToolInfo sonde{sizeof sonde, "sonde", "2.1", "look into \"archives\"\b\f\n\r\x1b\xff"};
 
 void declareNumbers(IParser& parser) {
     parser.option("few", "", vtS32, "numbers:Numbers").defaultValue(-1234567);

@@ -2,6 +2,9 @@
 
 #include <gmock/gmock.h>
 
+#include <utility>
+
+#include "support/failing_new.h"
 #include "typed/tool_under_test.h"
 
 namespace zarn_3_3 {
@@ -170,6 +173,25 @@ TEST(RunOf, AToolAnswersQuestionsFirst) {
     parser.declare({modifier("deep", "pack", "Of an action that is not there.")});
     const Line line{"--zarn-answer", "describe"};
     EXPECT_THROW((void)parser.run(line.argc(), line.argv()), std::logic_error);
+}
+
+TEST(RunOf, AToolWithoutMemoryAnswersNothing) {
+    Parser parser({"sonde", "2.1", nullptr});
+    const Line line{"--zarn-answer", "describe"};
+    long n = 0;
+    for (bool hasStruck = true; hasStruck; ++n) {
+        testing::internal::CaptureStdout();
+        testing::internal::CaptureStderr();
+        memory.left = n + 1;
+        const std::optional<int> code = parser.run(line.argc(), line.argv());
+        memory.left = 0;
+        hasStruck = std::exchange(memory.hasStruck, false);
+        EXPECT_EQ(testing::internal::GetCapturedStdout().empty(), hasStruck) << "allocation " << n;
+        EXPECT_EQ(testing::internal::GetCapturedStderr(),
+                  hasStruck ? "sonde: out of memory\n" : "");
+        EXPECT_EQ(code, hasStruck ? exitInternal : exitAnswered);
+    }
+    EXPECT_GT(n, 10);
 }
 
 TEST(RunOf, AToolThatTakesTheRestLeavesItsArgumentsAlone) {

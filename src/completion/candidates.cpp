@@ -1,6 +1,5 @@
 #include "completion/candidates.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "completion/line_walk.h"
@@ -12,21 +11,6 @@
 namespace zarn_3_3::internal {
 namespace {
 
-bool beginsWith(std::string_view text, std::string_view beginning) {
-    return text.substr(0, beginning.size()) == beginning;
-}
-
-// Of a list that ends in a separator.
-std::vector<variant_t> valuesIn(std::string_view list, const OptionDescription& item) {
-    std::vector<variant_t> values;
-    while (!list.empty()) {
-        const std::size_t end = list.find(item.tokenizer);
-        values.push_back(item.fromString(list.substr(0, end), globalTextLocale()));
-        list.remove_prefix(end + 1);
-    }
-    return values;
-}
-
 // The allowed values of one item.
 class ValueChoice {
 public:
@@ -34,35 +18,42 @@ public:
     ValueChoice(const OptionDescription& item, std::string_view typed)
         : item_(item),
           list_(item.tokenizer == 0 ? "" : typed.substr(0, typed.rfind(item.tokenizer) + 1)),
-          beginning_(typed.substr(list_.size())),
-          given_(valuesIn(list_, item)) {}
+          beginning_(typed.substr(list_.size())) {}
 
     template <typename Offer>
     void visit(Offer offer) const {
         for (const variant_t& value : item_.allowedValues) {
             const std::string text = item_.toString(value);
-            if (!text.empty() && beginsWith(text, beginning_) && isTypeable(text) &&
-                isOpen(value)) {
+            if (isOpen(text) && item_.deprecatedValues.count(value) == 0) {
                 offer(std::string(list_) + text);
             }
         }
     }
 
 private:
-    bool isTypeable(const std::string& text) const {
-        return item_.tokenizer == 0 || text.find(item_.tokenizer) == std::string::npos;
+    // Nobody is led to a deprecated value, one that cannot be typed, or one that stands there
+    // already.
+    bool isOpen(std::string_view text) const {
+        return !text.empty() && text.substr(0, beginning_.size()) == beginning_ &&
+               (item_.tokenizer == 0 || text.find(item_.tokenizer) == std::string_view::npos) &&
+               !isGiven(text);
     }
 
-    // Nobody is led to a deprecated value, or to one that stands there already.
-    bool isOpen(const variant_t& value) const {
-        return item_.deprecatedValues.count(value) == 0 &&
-               std::find(given_.begin(), given_.end(), value) == given_.end();
+    bool isGiven(std::string_view text) const {
+        std::string_view rest = list_;
+        while (!rest.empty()) {
+            const std::string_view given = rest.substr(0, rest.find(item_.tokenizer));
+            if (given == text) {
+                return true;
+            }
+            rest.remove_prefix(given.size() + 1);
+        }
+        return false;
     }
 
     const OptionDescription& item_;
     std::string_view list_;  // up to the last separator
     std::string_view beginning_;
-    std::vector<variant_t> given_;  // in the list
 };
 
 class Completing {
@@ -113,10 +104,10 @@ private:
     }
 
     void offerAttached(const CutOption& cut) {
-        const NameMatch match = cut.isNamed() ? resolveName(cut.name, registry_) : NameMatch();
-        if (match.item != NameIndex::none && needsValue(registry_.items()[match.item])) {
+        const std::size_t item = NamedItem(cut.name, registry_).item;
+        if (cut.isNamed() && item != NameIndex::none && needsValue(registry_.items()[item])) {
             const std::string_view head(word_.data(), word_.size() - cut.value.size());
-            offerValues(registry_.items()[match.item], head, cut.value);
+            offerValues(registry_.items()[item], head, cut.value);
         }
     }
 

@@ -42,7 +42,7 @@ private:
         if (!cutOption(word, globalTextLocale(), cut)) {
             return false;
         }
-        const NameMatch match = resolveName(cut.name, registry_);
+        const NamedItem match(cut.name, registry_);
         if (match.item == NameIndex::none || !cut.isNamed()) {
             return match.isAmbiguous;
         }
@@ -69,6 +69,11 @@ private:
 };
 
 }  // namespace
+
+NamedItem::NamedItem(std::string_view name, const RegisteredOptionStorage& registry) {
+    std::string_view form;
+    isAmbiguous = resolveName(name, registry, item, form) == Matches::several;
+}
 
 WordPlace placeBehind(const std::vector<std::string>& words, const BasicParser& parser) {
     LineWalk walk(parser);

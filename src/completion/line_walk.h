@@ -6,6 +6,7 @@
 #include <cstddef>
 #include <set>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "options/name_index.h"
@@ -13,6 +14,7 @@
 namespace zarn_3_3 {
 
 class BasicParser;
+class RegisteredOptionStorage;
 
 namespace internal {
 
@@ -25,6 +27,15 @@ struct WordPlace {
     std::set<std::string> given;  // the primary names of the actions
 
     bool isBehindOptions() const { return isBehindTerminator || isInRest; }
+};
+
+// The item that a name or a beginning of one stands for, or NameIndex::none; `isAmbiguous` when
+// several begin so. Throws std::bad_alloc.
+struct NamedItem {
+    NamedItem(std::string_view name, const RegisteredOptionStorage& registry);
+
+    std::size_t item = NameIndex::none;
+    bool isAmbiguous = false;
 };
 
 // The place behind these words, which are read as a parse reads them. Words that it would refuse

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "completion/line_walk.h"
 #include "help/help_renderer.h"
 #include "options/action_modifiers.h"
 #include "parser/action_groups.h"
@@ -120,7 +121,7 @@ bool NameChoice::addForm(std::size_t number, std::string_view form) {
     CutOption cut;
     const bool isTypeable = cutOption(word, globalTextLocale(), cut) && !cut.hasValue &&
                             cut.isNamed() && cut.name == form;
-    if (!isTypeable || resolveName(form, registry_).item != number) {
+    if (!isTypeable || NamedItem(form, registry_).item != number) {
         return false;
     }
     const OptionDescription& item = registry_.items()[number];

@@ -32,16 +32,14 @@ int AbbreviationParser::recognize(std::vector<std::string>& args,
 // An ambiguous argument is recognised too, for `parse` to refuse it: nobody else shall take it.
 bool AbbreviationParser::recognizeName(const std::string& argument,
                                        RegisteredOptionStorage& registry) {
-    const NameMatch match = resolveName(cut_.name, registry);
-    if (match.isAmbiguous) {
+    const Matches matches = resolveName(cut_.name, registry, matchIndex, matchName);
+    if (matches == Matches::several) {
         listCandidates(argument, registry);
         return true;
     }
-    if (match.item == NameIndex::none) {
+    if (matches == Matches::none) {
         return false;
     }
-    matchIndex = match.item;
-    matchName = match.form;
     trace(name,
           ": best match option for '",
           cut_.name,

@@ -29,7 +29,9 @@ struct CutOption {
 
 // Whether the argument may be an option; `cut` is left as it was when not. A lone dash is none:
 // many tools take it for the standard input.
-inline bool cutOption(const std::string& argument, TextLocale locale, CutOption& cut) {
+[[gnu::always_inline]] inline bool cutOption(const std::string& argument,
+                                             TextLocale locale,
+                                             CutOption& cut) {
     if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
         return false;
     }
@@ -38,30 +40,32 @@ inline bool cutOption(const std::string& argument, TextLocale locale, CutOption&
     return true;
 }
 
-// What a name in an argument stands for.
-struct NameMatch {
-    std::size_t item = NameIndex::none;
-    std::string_view form;     // the name or "no-" form that was matched
-    bool isAmbiguous = false;  // several begin so, and `item` is none of them
-};
+// How many names a text stands for.
+enum class Matches { none, one, several };
 
 // A form that is typed in full beats every longer one; of the others those match that begin with
-// the text, letter by letter. One match is taken. Nothing is ever guessed beyond that, however
-// close a name may be: a tool could do something else than its user asked for.
-inline NameMatch resolveName(std::string_view name, const RegisteredOptionStorage& registry) {
-    NameMatch match;
-    if (findOption(name, match.item, registry) == resultSuccess) {
-        match.form = name;
-        return match;
+// the text, letter by letter. One match is taken: `item` and `form`, the name or "no-" form, tell
+// which. Nothing is ever guessed beyond that, however close a name may be: a tool could do
+// something else than its user asked for.
+[[gnu::always_inline]] inline Matches resolveName(std::string_view text,
+                                                  const RegisteredOptionStorage& registry,
+                                                  std::size_t& item,
+                                                  std::string_view& form) {
+    if (findOption(text, item, registry) == resultSuccess) {
+        form = text;
+        return Matches::one;
     }
-    const PrefixIndex::Found found = registry.findBeginning(name);
+    const PrefixIndex::Found found = registry.findBeginning(text);
+    if (found.first == KeptTexts::none) {
+        return Matches::none;
+    }
     // The index counts forms, not items: two names of one item that begin so are ambiguous too.
-    match.isAmbiguous = found.first != KeptTexts::none && !found.isOnly;
-    if (found.isOnly) {
-        match.form = registry.names().forms()[found.first];
-        match.item = registry.names().firstWithForm(found.first);
+    if (!found.isOnly) {
+        return Matches::several;
     }
-    return match;
+    form = registry.names().forms()[found.first];
+    item = registry.names().firstWithForm(found.first);
+    return Matches::one;
 }
 
 // For switches and booleans the name is all there is to say.
@@ -74,9 +78,9 @@ inline bool needsValue(const OptionDescription& option) {
 inline bool isNoValue(const std::string& next) { return !next.empty() && next.front() == '-'; }
 
 // Whether the positional item takes an argument that is no option.
-inline bool isForPositional(const std::string& argument,
-                            int flags,
-                            const RegisteredOptionStorage& registry) {
+[[gnu::always_inline]] inline bool isForPositional(const std::string& argument,
+                                                   int flags,
+                                                   const RegisteredOptionStorage& registry) {
     // Without the flag every argument is taken that is no option: the recogniser of options, which
     // is asked as well, takes precedence.
     const bool isRefused =

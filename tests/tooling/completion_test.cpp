@@ -125,7 +125,7 @@ const Row rows[] = {
     {"ForgottenValue",          0, {"--parts", "--lev"},               ""                                     },
     {"BehindForgottenValue",    0, {"--parts", "--level=10", "--lev"}, "--level="                             },
     {"List",                    0, {"--parts=head,"},                  "--parts=head,body|--parts=head,-tail" },
-    {"ListOfNumbers",           0, {"--level=+10,"},                   "--level=+10,100|--level=+10,20"       },
+    {"ListOfNumbers",           0, {"--level=10,"},                    "--level=10,100|--level=10,20"         },
     {"Numbers",                 0, {"--level=1"},                      "--level=10|--level=100"               },
     {"GivenNumber",             0, {"--level=10,1"},                   "--level=10,100"                       },
     {"SwitchValue",             0, {"--create="},                      ""                                     },

@@ -9,14 +9,7 @@ set_source_files_properties(
     src/help/help_topics.cpp
     src/interface/word_wrapped_text.cpp
     src/log/zarn_log.cpp
-    src/modern/arguments.cpp
-    src/modern/behind_parse.cpp
-    src/modern/engine.cpp
-    src/modern/item_record.cpp
-    src/modern/outcome.cpp
-    src/modern/pages.cpp
-    src/modern/quantities.cpp
-    src/modern/vocabulary.cpp
+    ${zarn_modern_seldom_sources}
     src/options/action_modifiers.cpp
     src/parser/action_groups.cpp
     src/parser/action_rules.cpp

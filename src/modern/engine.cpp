@@ -14,6 +14,7 @@
 #include "modern/outcome.h"
 #include "modern/pages.h"
 #include "modern/vocabulary.h"
+#include "modern/writing.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
 #include "zarn/typed/parser.h"
@@ -25,6 +26,8 @@ StoredOutcome& stored(Outcome* outcome) { return static_cast<StoredOutcome&>(*ou
 const StoredOutcome& stored(const Outcome* outcome) {
     return static_cast<const StoredOutcome&>(*outcome);
 }
+
+ItemRecord& record(ItemDescription* item) { return static_cast<ItemRecord&>(*item); }
 
 bool isAloneGiven(StoredOutcome& outcome) {
     for (const auto& item : outcome.vocabulary().items()) {
@@ -38,10 +41,10 @@ bool isAloneGiven(StoredOutcome& outcome) {
 // What there is to say when the plain parse has ended with this code.
 void conclude(StoredOutcome& outcome, int code) {
     Vocabulary& vocabulary = outcome.vocabulary();
-    outcome.asides() = vocabulary.endParse();
+    outcome.asides() = vocabulary.watch().end();
     std::string error;
     if (code != resultOk) {
-        error = vocabulary.explained(vocabulary.plain().getErrorDesc());
+        error = vocabulary.watch().explained(vocabulary.plain().getErrorDesc());
     }
     const bool isAlone = isAloneGiven(outcome);
     if (isAlone && code == resultRuleBroken && error == messages::noAction) {
@@ -59,28 +62,6 @@ void conclude(StoredOutcome& outcome, int code) {
     outcome.end(code, std::move(error));
 }
 
-// In two steps, of which only the first can fail.
-void writeTargets(StoredOutcome& outcome) {
-    std::vector<Value> all;
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->target == nullptr) {
-            continue;
-        }
-        item->target->drop();
-        all.clear();
-        Value last;
-        const Origin origin = outcome.find(*item, last, &all);
-        if (!all.empty() && !(origin == Origin::byDefault && item->showsTarget)) {
-            item->target->take(all.data(), all.size(), last);
-        }
-    }
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->target != nullptr) {
-            item->target->write();
-        }
-    }
-}
-
 // Ends the outcome when something is wrong with the line.
 void refuseWrong(StoredOutcome& outcome,
                  std::string (*wrong)(const Vocabulary&, CommandLine),
@@ -95,7 +76,7 @@ void parseAdapted(StoredOutcome& outcome, CommandLine line) {
     Vocabulary& vocabulary = outcome.vocabulary();
     refuseWrong(outcome, &wrongEmptyArgument, line);
     if (outcome.code == resultOk) {
-        vocabulary.beginParse(outcome.result(), {});
+        vocabulary.watch().begin(outcome.result(), {});
         conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
     }
 }
@@ -170,7 +151,31 @@ void releaseVocabulary(Vocabulary* vocabulary) noexcept { vocabulary->release();
 
 IParser* plainParser(Vocabulary* vocabulary) noexcept { return &vocabulary->plain(); }
 
-void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription& item) {
+ItemDescription* beginItem(Role role,
+                           das_variant_type_t type,
+                           const char* names,
+                           const char* actions,
+                           const char* description) {
+    auto* const item = new ItemRecord();
+    item->role = role;
+    item->type = type;
+    item->names = names;
+    item->actions = actions;
+    item->description = description;
+    return item;
+}
+
+void releaseItem(ItemDescription* item) noexcept { delete &record(item); }
+
+Extras& extrasOf(ItemDescription* item) { return record(item).changeableExtras(); }
+
+void allowValue(ItemDescription* item, const variant_t& value, const variant_t& replacement) {
+    extrasOf(item).allowed.push_back({value, replacement});
+}
+
+void addCheck(ItemDescription* item, Check* check) noexcept { append(record(item).checks, check); }
+
+void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription* item) {
     vocabulary->declare(section, item);
 }
 
@@ -190,7 +195,7 @@ std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic) {
 Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
     auto outcome = parseUnwritten(*vocabulary, {argc, argv});
     if (outcome->code == resultOk) {
-        writeTargets(*outcome);
+        writeVariables(*outcome);
     }
     return outcome.release();
 }
@@ -199,10 +204,10 @@ Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
     std::unique_ptr<StoredOutcome> outcome(into != nullptr ? &stored(into)
                                                            : new StoredOutcome(*vocabulary));
     vocabulary->settle();
-    vocabulary->beginParse(outcome->result(), std::move(outcome->asides()));
+    vocabulary->watch().begin(outcome->result(), std::move(outcome->asides()));
     conclude(*outcome, vocabulary->plain().parseStream(text, outcome->plain));
     if (outcome->code == resultOk) {
-        writeTargets(*outcome);
+        writeVariables(*outcome);
     }
     return outcome.release();
 }
@@ -224,7 +229,7 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
         answer.error = filled("{}: {}\n", {tool, visible(outcome->text)});
         answer.exitCode = exitCodeFor(outcome->code);
     } else {
-        writeTargets(*outcome);
+        writeVariables(*outcome);
     }
     return outcome.release();
 }
@@ -232,7 +237,9 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
 void releaseOutcome(Outcome* outcome) noexcept { delete &stored(outcome); }
 
 Origin findValues(const Outcome* outcome, const char* name, Value& last, std::vector<Value>* all) {
-    return stored(outcome).find(name, last, all);
+    Found found = stored(outcome).find(name, all);
+    last = std::move(found.last);
+    return found.origin;
 }
 
 std::vector<Occurrence> findOccurrences(const Outcome* outcome,

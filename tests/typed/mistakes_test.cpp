@@ -90,11 +90,16 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
 TEST(Mistakes, AreNoneWhereItemsAreDeclaredPlainly) {
     Parser parser;
     parser->option("plain", "", vtS32, "");
+    parser.readOptionFiles("");
+    parser.atMostOne({"plain", "option-file"});
     const Line line{"--plain=3"};
     const Result result = parser.parse(line.argc(), line.argv());
     EXPECT_EQ(result.get<int>("plain"), 3);
     EXPECT_EQ(result.occurrences({"plain"}).size(), 1u);
     EXPECT_FALSE(parser.parse(0, nullptr).isGiven("plain"));
+    const Line both{"--option-file=/dev/null", "--plain=3"};
+    EXPECT_STREQ(parser.parse(both.argc(), both.argv()).text(),
+                 "Option '--plain' does not go with option '--option-file'");
 }
 
 TEST(Mistakes, LeaveTheVocabularyAsItWas) {

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <initializer_list>
-#include <memory>
 #include <new>
 #include <optional>
 #include <string>
@@ -81,7 +80,7 @@ public:
     template <std::size_t count>
     void declare(const char* section, Item (&&items)[count]) {
         for (Item& item : items) {
-            internal::declareItem(vocabulary_.get(), section, item.description);
+            internal::declareItem(vocabulary_.get(), section, item.take());
         }
     }
     template <std::size_t count>
@@ -184,12 +183,6 @@ public:
     }
 
 private:
-    struct Release {
-        void operator()(internal::Vocabulary* vocabulary) const noexcept {
-            releaseVocabulary(vocabulary);
-        }
-    };
-
     static bool print(std::FILE* stream, const std::string& text) {
         return text.empty() || (std::fwrite(text.data(), 1, text.size(), stream) == text.size() &&
                                 std::fflush(stream) == 0);
@@ -203,7 +196,7 @@ private:
         return internal::pageOf(vocabulary_.get(), page, topic);
     }
 
-    std::unique_ptr<internal::Vocabulary, Release> vocabulary_;
+    internal::Owner<internal::Vocabulary, &internal::releaseVocabulary> vocabulary_;
     std::optional<Result> result_;
     const char* name_;
 };

@@ -114,6 +114,15 @@ std::string broken(const Rule& rule, const StoredOutcome& outcome) {
 
 }  // namespace
 
+bool isAloneGiven(const StoredOutcome& outcome) {
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->isAlone && outcome.origin(*item) > Origin::byDefault) {
+            return true;
+        }
+    }
+    return false;
+}
+
 int readEnvironment(StoredOutcome& outcome, std::string& error) {
     for (const auto& item : outcome.vocabulary().items()) {
         if (const char* const text = variableFor(*item, outcome)) {

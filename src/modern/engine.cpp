@@ -29,15 +29,6 @@ const StoredOutcome& stored(const Outcome* outcome) {
 
 ItemRecord& record(ItemDescription* item) { return static_cast<ItemRecord&>(*item); }
 
-bool isAloneGiven(StoredOutcome& outcome) {
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->isAlone && outcome.origin(*item) > Origin::byDefault) {
-            return true;
-        }
-    }
-    return false;
-}
-
 // What there is to say when the plain parse has ended with this code.
 void conclude(StoredOutcome& outcome, int code) {
     Vocabulary& vocabulary = outcome.vocabulary();
@@ -86,7 +77,7 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
     refuseWrong(*outcome, &wrongNamedArgument, line);
-    if (vocabulary.habits() == 0 || line.argc < 2 || line.argv == nullptr) {
+    if (!vocabulary.isAdapting() || line.argc < 2 || line.argv == nullptr) {
         parseAdapted(*outcome, line);
         return outcome;
     }
@@ -95,7 +86,9 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     for (const Word& word : words) {
         adapted.push_back(word.text.c_str());
     }
-    parseAdapted(*outcome, {static_cast<int>(adapted.size()), adapted.data()});
+    const CommandLine adaptedLine{static_cast<int>(adapted.size()), adapted.data()};
+    refuseWrong(*outcome, &wrongLongName, adaptedLine);
+    parseAdapted(*outcome, adaptedLine);
     if (outcome->code != resultOk) {
         std::string error = outcome->text;
         quoteTyped(error, words);
@@ -179,6 +172,10 @@ void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription* i
     vocabulary->declare(section, item);
 }
 
+void showDefaults(Vocabulary* vocabulary) noexcept { vocabulary->showDefaults(); }
+
+void addLineCheck(Vocabulary* vocabulary, Check* check) noexcept { vocabulary->add(check); }
+
 void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept { vocabulary->accept(habits); }
 
 void addRule(Vocabulary* vocabulary, RuleKind kind, const char* const* names, std::size_t count) {
@@ -194,9 +191,7 @@ std::string pageOf(Vocabulary* vocabulary, Page page, const char* topic) {
 
 Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
     auto outcome = parseUnwritten(*vocabulary, {argc, argv});
-    if (outcome->code == resultOk) {
-        writeVariables(*outcome);
-    }
+    writeVariables(*outcome);
     return outcome.release();
 }
 
@@ -206,9 +201,7 @@ Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
     vocabulary->settle();
     vocabulary->watch().begin(outcome->result(), std::move(outcome->asides()));
     conclude(*outcome, vocabulary->plain().parseStream(text, outcome->plain));
-    if (outcome->code == resultOk) {
-        writeVariables(*outcome);
-    }
+    writeVariables(*outcome);
     return outcome.release();
 }
 
@@ -225,11 +218,12 @@ Outcome* runLine(Vocabulary* vocabulary, int argc, const char* const* argv, Answ
     }
     if (found) {
         answer = std::move(*found);
-    } else if (outcome->code != resultOk) {
+        return outcome.release();
+    }
+    writeVariables(*outcome);
+    if (outcome->code != resultOk) {
         answer.error = filled("{}: {}\n", {tool, visible(outcome->text)});
         answer.exitCode = exitCodeFor(outcome->code);
-    } else {
-        writeVariables(*outcome);
     }
     return outcome.release();
 }

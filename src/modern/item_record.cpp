@@ -222,23 +222,34 @@ void requireSettings(const ItemRecord& item) {
     if (isGiven(extras.least) && isGiven(extras.greatest) && extras.greatest < extras.least) {
         mistake(item.names, noValueBetween);
     }
-    const char* const text = get_variant_value(extras.defaultValue, "");
-    if (!isGiven(extras.defaultValue) || (item.type == vtString && *text == '\0')) {
-        return;
+    const std::string wrongDefault = whyRefused(item, extras.defaultValue);
+    if (!wrongDefault.empty()) {
+        mistake(item.names, messages::defaultRefused(wrongDefault));
     }
+    const std::string wrongImplied = whyRefused(item, extras.impliedValue);
+    if (!wrongImplied.empty()) {
+        mistake(item.names, messages::impliedRefused(wrongImplied));
+    }
+}
+
+std::string whyRefused(const ItemRecord& item, const variant_t& setting) {
+    const char* const text = get_variant_value(setting, "");
+    if (!isGiven(setting) || (item.type == vtString && *text == '\0')) {
+        return "";
+    }
+    const std::vector<AllowedValue>& allowed = item.extras().allowed;
     const bool isAllowed =
-        extras.allowed.empty() ||
-        std::any_of(extras.allowed.begin(), extras.allowed.end(), [&](const AllowedValue& each) {
-            return !isGiven(each.replacement) && each.value == extras.defaultValue;
+        allowed.empty() ||
+        std::any_of(allowed.begin(), allowed.end(), [&](const AllowedValue& each) {
+            return !isGiven(each.replacement) && each.value == setting;
         });
     if (!isAllowed) {
-        mistake(item.names, messages::defaultNotAllowed);
+        return messages::notAllowed;
     }
     std::string reason;
     // Whether a file exists is no matter of the declaration.
-    if (!item.holds(Value(text, extras.defaultValue, 0), true, reason)) {
-        mistake(item.names, messages::defaultRefused(reason));
-    }
+    const bool isHeld = item.holds(Value(text, setting, 0), true, reason);
+    return isHeld ? "" : reason;
 }
 
 }  // namespace zarn_3_3::internal

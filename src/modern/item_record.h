@@ -26,6 +26,7 @@ struct ItemRecord final : ItemDescription {
     // items, as texts.
     bool needsOwnParse() const;
     bool takesValue() const { return type != vtNull && type != vtBool; }
+    bool needsValue() const { return takesValue() && extras().impliedValue.type() == vtNull; }
     bool takesMany() const { return target == nullptr || target->takesMany; }
     bool isModifier() const { return role != Role::action && !plain->tags.empty(); }
     const std::string& primaryName() const { return plain->primaryName(); }
@@ -72,6 +73,9 @@ void release(Check* checks) noexcept;
 // Throw std::logic_error when the author has made a mistake in it, apart from the names of others.
 void requireNames(const ItemRecord& item);
 void requireSettings(const ItemRecord& item);
+
+// Why the item would refuse the setting, which has its type; empty when it would not.
+std::string whyRefused(const ItemRecord& item, const variant_t& setting);
 
 }  // namespace zarn_3_3::internal
 

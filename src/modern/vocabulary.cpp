@@ -38,9 +38,7 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
     for (const char** text : {&item->names, &item->actions, &item->description, &item->shownName}) {
         *text = orEmpty(*text);
     }
-    if (item->showsTarget && item->target != nullptr) {
-        item->changeableExtras().defaultValue = item->target->current(item->variable);
-    }
+    showVariable(*item);
     requireNames(*item);
     requireSettings(*item);
     items_.push_back(std::move(item));
@@ -50,7 +48,23 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
         items_.pop_back();
         throw;
     }
+    impliesValues_ =
+        impliesValues_ || (items_.back()->takesValue() && !items_.back()->needsValue());
     return *items_.back();
+}
+
+// As its default.
+void Vocabulary::showVariable(ItemRecord& item) const {
+    const bool isOffered = showsDefaults_ && !item.isRequired && !item.takesMany() &&
+                           item.extras().defaultValue.type() == vtNull;
+    if (item.target == nullptr || !(isOffered || item.showsTarget)) {
+        return;
+    }
+    const variant_t shown = item.target->current(item.variable);
+    if (item.showsTarget || (shown.type() != vtNull && whyRefused(item, shown).empty())) {
+        item.changeableExtras().defaultValue = shown;
+        item.showsTarget = true;
+    }
 }
 
 void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
@@ -181,7 +195,7 @@ void Vocabulary::requireOwnTargets() const {
     std::vector<std::pair<const void*, std::size_t>> owners;
     owners.reserve(items_.size());
     for (std::size_t i = 0; i < items_.size(); ++i) {
-        if (items_[i]->target != nullptr) {
+        if (items_[i]->target != nullptr && items_[i]->extras().constant.value == nullptr) {
             owners.emplace_back(items_[i]->variable, i);
         }
     }

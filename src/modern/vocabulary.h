@@ -28,7 +28,7 @@ public:
     Vocabulary(const Tool& tool, int flags);
     Vocabulary(const Vocabulary&) = delete;
     Vocabulary& operator=(const Vocabulary&) = delete;
-    ~Vocabulary() = default;
+    ~Vocabulary() { internal::release(lineChecks_); }
 
     void share() noexcept { ++owners_; }
     void release() noexcept;
@@ -36,7 +36,9 @@ public:
     // Takes the item, whether it is declared or throws.
     ItemRecord& declare(const char* section, ItemDescription* description);
     void add(Rule rule) { rules_.push_back(std::move(rule)); }
+    void add(Check* check) noexcept { append(lineChecks_, check); }
     void accept(unsigned habits) noexcept { habits_ = habits; }
+    void showDefaults() noexcept { showsDefaults_ = true; }
 
     // To be called before a parse: asks what could not be asked before, and listens.
     void settle();
@@ -55,6 +57,9 @@ public:
         return positionals_.size() > 1 ? positionals_.front() : nullptr;
     }
     const std::vector<Rule>& rules() const { return rules_; }
+    const Check* lineChecks() const { return lineChecks_; }
+    // Whether arguments may look other than the plain parser has them.
+    bool isAdapting() const { return habits_ != 0 || impliesValues_; }
 
     // The name by which a tool without one was called.
     const std::string& calledAs() const { return calledAs_; }
@@ -78,6 +83,7 @@ public:
     bool isBeginning(std::string_view text) const;
 
 private:
+    void showVariable(ItemRecord& item) const;
     void declarePlainly(const char* section, ItemRecord& item);
     void keepTexts(ItemRecord& item, std::size_t index);
     void addPositional(const ItemRecord& item);
@@ -100,6 +106,9 @@ private:
     std::vector<ItemRecord*> byIndex_;  // by the index of the item in the plain parser
     std::vector<const ItemRecord*> positionals_;
     std::vector<Rule> rules_;
+    Check* lineChecks_ = nullptr;
+    bool showsDefaults_ = false;
+    bool impliesValues_ = false;
     std::size_t settledItems_ = 0;
     std::size_t settledRules_ = 0;
     ParseWatch watch_;

@@ -7,8 +7,9 @@
 
 namespace zarn_3_3::internal {
 
-// Writes what a parse that went well has found. With an exception, no variable is written.
-void writeVariables(const StoredOutcome& outcome);
+// Writes what a parse that went well has found, and asks the checks of the whole line, one of which
+// may end the outcome. When one does, or with an exception, the variables are as they were.
+void writeVariables(StoredOutcome& outcome);
 
 }  // namespace zarn_3_3::internal
 

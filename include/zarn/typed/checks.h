@@ -45,6 +45,26 @@ private:
     std::string reason_;
 };
 
+// That predicate() is true.
+template <typename Predicate>
+class HoldsForLine final : public Check {
+public:
+    HoldsForLine(Predicate predicate, std::string reason)
+        : predicate_(std::move(predicate)), reason_(std::move(reason)) {}
+
+    bool holds(const Value& /*value*/, std::string& reason) const override {
+        if (predicate_()) {
+            return true;
+        }
+        reason = reason_;
+        return false;
+    }
+
+private:
+    Predicate predicate_;
+    std::string reason_;
+};
+
 // That the text is the path of an existing file, or folder. What a link leads to counts.
 class Exists final : public Check {
 public:

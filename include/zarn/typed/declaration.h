@@ -70,8 +70,8 @@ public:
             extras().greatest = internal::plainNumber(std::numeric_limits<T>::max());
         }
         if constexpr (internal::isNamed<T>) {
-            for (const Name<T>& each : Names<T>::table) {
-                internal::allowValue(description_.get(), each.name, {});
+            for (const auto& each : Names<T>::table) {
+                internal::allowValue(description_.get(), internal::nameIn<T>(each).name, {});
             }
         } else if constexpr (internal::isConverted<T> && !internal::isPath<T>) {
             internal::addCheck(description_.get(), new internal::Readable<T>());
@@ -90,6 +90,31 @@ public:
     Declaration&& into(V& variable) && {
         description_->target = &internal::TargetOf<T, V>::kind;
         description_->variable = &variable;
+        return std::move(*this);
+    }
+
+    // Has a switch store `value` in the variable, in place of into. Several may share one variable,
+    // with each other and with one option that goes into it: what was given last counts.
+    //
+    //     zarn::option("numeric,n", "Compare numbers.").stores(order, Order::numeric),
+    //     zarn::option("random,R", "Shuffle.").stores(order, Order::random),
+    template <typename V, typename U>
+    Declaration&& stores(V& variable, U&& value) && {
+        static_assert(std::is_same_v<T, Switch>, "stores() is for switches, which take no value");
+        using Kind = internal::ConstantOf<V>;
+        extras().constant.hold(new V(std::forward<U>(value)), &Kind::release);
+        description_->target = &Kind::kind;
+        description_->variable = &variable;
+        return std::move(*this);
+    }
+
+    // Makes the value optional: without one, the option counts as given with `value`. One that is
+    // given is attached, as in "--color=never"; the next argument never is. Option files and texts
+    // give the value always.
+    template <typename U>
+    Declaration&& withoutValue(const U& value) && {
+        static_assert(!std::is_same_v<T, bool>, "a boolean takes no value");
+        extras().impliedValue = setting(value);
         return std::move(*this);
     }
 

@@ -89,9 +89,10 @@ public:
 
 // What a variable is made of.
 struct Given {
-    const Value* values;  // those that were given, or the one that counts; null unless takesMany
-    std::size_t count;    // of them; at least 1
-    const Value& last;    // the one that counts alone
+    const Value* values;   // those that were given, or the one that counts; null unless takesMany
+    std::size_t count;     // of them; at least 1
+    const Value& last;     // the one that counts alone
+    const void* constant;  // what is stored in place of a value, or null
 };
 
 // How variables of one type are written: in two steps, so that those of a vocabulary are written
@@ -119,12 +120,33 @@ struct AllowedValue {
     variant_t replacement;  // empty, unless the value is deprecated
 };
 
+// A value of whatever type, owned.
+struct Constant {
+    Constant() = default;
+    Constant(const Constant&) = delete;
+    Constant& operator=(const Constant&) = delete;
+    ~Constant() { hold(nullptr, release); }
+
+    void hold(void* newValue, void (*newRelease)(void*) noexcept) noexcept {
+        if (value != nullptr) {
+            release(value);
+        }
+        value = newValue;
+        release = newRelease;
+    }
+
+    void* value = nullptr;
+    void (*release)(void*) noexcept = nullptr;
+};
+
 // What most items do without.
 struct Extras {
     std::vector<AllowedValue> allowed = {};
     variant_t defaultValue = {};  // empty: none
     variant_t least = {};         // of numbers; empty: what the type holds
     variant_t greatest = {};
+    variant_t impliedValue = {};   // of the option without a value; empty: it needs one
+    Constant constant = {};        // what goes into the variable of a switch
     const char* environment = "";  // the name of a variable, or empty
     char* (*readVariable)(const char*) = nullptr;
 };
@@ -197,6 +219,13 @@ ZARN_EXPORT void addCheck(ItemDescription* item, Check* check) noexcept;
 
 // Takes the item, whether it is declared or throws.
 ZARN_EXPORT void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription* item);
+
+// Has items that are declared from now on show their variables as defaults.
+ZARN_EXPORT void showDefaults(Vocabulary* vocabulary) noexcept;
+
+// Puts the check, which it owns from then on, behind the others of a whole command line. It is
+// asked without a value, when the variables are written.
+ZARN_EXPORT void addLineCheck(Vocabulary* vocabulary, Check* check) noexcept;
 
 ZARN_EXPORT void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept;
 ZARN_EXPORT void addRule(Vocabulary* vocabulary,

@@ -33,6 +33,7 @@ enum Habit : unsigned {
     negativeNumbers = 0x4,  // "-5" behind an option of a number with sign, or for a positional item
                             // of one, is its value
     loneDash = 0x8,         // "-" is a value, or a positional argument: the standard input
+    shortNames = 0x10,      // behind one dash stand letters alone: "-jobs" is none of "--jobs"
 };
 constexpr unsigned unixHabits = bundles | gluedValues | negativeNumbers | loneDash;
 
@@ -100,6 +101,25 @@ public:
     // Takes arguments in the habits of Unix, too: any combination of Habit values, as unixHabits.
     // Only command lines are taken so, no texts and option files.
     void accept(unsigned habits) noexcept { internal::acceptHabits(vocabulary_.get(), habits); }
+
+    // Has every item that is declared from now on, and goes into a variable for one value, show as
+    // its default what the variable holds then, as byDefault() does. Switches and items that are
+    // required show none, nor does one that would refuse what the variable holds.
+    void showDefaults() noexcept { internal::showDefaults(vocabulary_.get()); }
+
+    // Refuses a command line for which predicate() is not true. It is asked when everything else is
+    // right and the variables are written; they are then set back. `reason` is the message. Where
+    // an option that is alone() is given, nothing is asked.
+    //
+    //     parser.check([&] { return !isChecking || files.size() < 2; }, "--check takes one file");
+    template <typename Predicate>
+    void check(Predicate predicate, std::string reason) {
+        static_assert(std::is_invocable_r_v<bool, const Predicate&>,
+                      "a check of the command line is called without arguments");
+        internal::addLineCheck(
+            vocabulary_.get(),
+            new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
+    }
 
     // One of these options must be given, and no other of them.
     void exactlyOne(std::initializer_list<const char*> names) {

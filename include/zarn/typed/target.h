@@ -61,40 +61,54 @@ Element elementOf(const Value& value) {
     }
 }
 
-// A variable of type V for an option with values of type T.
-template <typename T, typename V>
-struct TargetOf {
-    using Element = typename VariableOf<V>::Element;
-    static constexpr bool isVector = VariableOf<V>::isVector;
-
-    static_assert(goesInto<T, Element>(),
-                  "into() wants a variable of the type of the option, an optional or a vector of "
-                  "it; for a switch a bool or an integer, for a text a std::string or a path");
-    static_assert(!goesInto<T, Element>() || std::is_nothrow_swappable_v<V>,
+// A variable of type V.
+template <typename V>
+struct TargetBase {
+    static_assert(std::is_nothrow_swappable_v<V>,
                   "variables are written all or none: their exchange must not throw");
-
-    static void* make(const Given& given) {
-        if constexpr (isVector) {
-            auto all = Owner<V, &TargetOf::drop>(new V());
-            all->reserve(given.count);
-            for (std::size_t i = 0; i < given.count; ++i) {
-                all->push_back(elementOf<T, Element>(given.values[i]));
-            }
-            return all.take();
-        } else if constexpr (std::is_same_v<T, Switch> && !std::is_same_v<Element, bool>) {
-            return new V(static_cast<Element>(given.count));
-        } else {
-            return new V(elementOf<T, Element>(given.last));
-        }
-    }
 
     static void exchange(void* variable, void* made) noexcept {
         using std::swap;
         swap(*static_cast<V*>(variable), *static_cast<V*>(made));
     }
 
-    static void drop(V* made) noexcept { delete made; }
     static void release(void* made) noexcept { delete static_cast<V*>(made); }
+};
+
+// A variable of type V for a switch that stores a constant in it.
+template <typename V>
+struct ConstantOf : TargetBase<V> {
+    static void* make(const Given& given) { return new V(*static_cast<const V*>(given.constant)); }
+    static variant_t current(const void* /*variable*/) { return {}; }
+
+    static constexpr TargetKind kind{
+        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, false};
+};
+
+// A variable of type V for an option with values of type T.
+template <typename T, typename V>
+struct TargetOf : TargetBase<V> {
+    using Element = typename VariableOf<V>::Element;
+    static constexpr bool isVector = VariableOf<V>::isVector;
+
+    static_assert(goesInto<T, Element>(),
+                  "into() wants a variable of the type of the option, an optional or a vector of "
+                  "it; for a switch a bool or an integer, for a text a std::string or a path");
+
+    static void* make(const Given& given) {
+        if constexpr (isVector) {
+            V all;
+            all.reserve(given.count);
+            for (std::size_t i = 0; i < given.count; ++i) {
+                all.push_back(elementOf<T, Element>(given.values[i]));
+            }
+            return new V(std::move(all));
+        } else if constexpr (std::is_same_v<T, Switch> && !std::is_same_v<Element, bool>) {
+            return new V(static_cast<Element>(given.count));
+        } else {
+            return new V(elementOf<T, Element>(given.last));
+        }
+    }
 
     static variant_t current(const void* variable) {
         const V& held = *static_cast<const V*>(variable);
@@ -115,7 +129,8 @@ struct TargetOf {
         }
     }
 
-    static constexpr TargetKind kind{&make, &exchange, &release, &current, isVector};
+    static constexpr TargetKind kind{
+        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, isVector};
 };
 
 }  // namespace zarn_3_3::internal

@@ -77,7 +77,8 @@ public:
     //
     // A mistake is: a name that is taken, is empty, has a dash in front, a blank or a "=" in it;
     // more than three names, or a third of more than two bytes; a default that the item would
-    // refuse; a variable that another item has. At the first parse: an action that is not declared.
+    // refuse. At the first parse: a variable that another item goes into; an action that is not
+    // declared.
     template <std::size_t count>
     void declare(const char* section, Item (&&items)[count]) {
         for (Item& item : items) {

@@ -1,6 +1,7 @@
 #include "modern/arguments.h"
 
 #include "modern/messages.h"
+#include "parser/messages.h"
 #include "parser/parse_driver.h"
 #include "recognizers/messages.h"
 #include "text/cut_argument.h"
@@ -22,11 +23,16 @@ const ItemRecord* takesNext(const Vocabulary& vocabulary, const std::string& arg
         return nullptr;
     }
     const ItemRecord* const item = vocabulary.resolve(cut.name);
-    return item != nullptr && item->takesValue() ? item : nullptr;
+    return item != nullptr && item->needsValue() ? item : nullptr;
 }
 
 bool hasSign(const ItemRecord& item) {
     return item.type == vtS32 || item.type == vtS64 || item.type == vtDouble;
+}
+
+// Whether several letters stand behind one dash.
+bool isBundle(std::string_view argument) {
+    return argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
 }
 
 // Takes the arguments of one command line.
@@ -41,7 +47,7 @@ public:
         } else if (isPositional(argument)) {
             const std::string& name = vocabulary_.positionals().front()->primaryName();
             words_.push_back({filled("--{}={}", {name, argument}), argument});
-        } else if (!addLetters(argument)) {
+        } else if (!addImplied(argument) && !addLetters(argument)) {
             words_.push_back({argument, ""});
         }
         for (std::size_t i = before; i < words_.size(); ++i) {
@@ -84,10 +90,27 @@ private:
         option.text += option.text.back() == '=' ? argument : "=" + argument;
     }
 
+    // "--color", which is "--color=always". False when the argument is no option of this kind.
+    bool addImplied(const std::string& argument) {
+        const CutArgument cut = cutArgument(argument);
+        const bool isCut = cut.name.data() + cut.name.size() != argument.data() + argument.size();
+        const bool isLong = !has(shortNames) || !isBundle(argument);
+        const ItemRecord* const item =
+            cut.isOption && !isCut && isLong ? vocabulary_.resolve(cut.name) : nullptr;
+        if (item == nullptr || !item->takesValue() || item->needsValue()) {
+            return false;
+        }
+        words_.push_back({withImplied(argument, *item), argument});
+        return true;
+    }
+
+    static std::string withImplied(std::string_view option, const ItemRecord& item) {
+        return filled("{}={}", {option, item.plain->toString(item.extras().impliedValue)});
+    }
+
     // "-xvf" and "-k2". False when the argument is neither.
     bool addLetters(const std::string& argument) {
-        const bool isShort = argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
-        if (!isShort || isName(argument)) {
+        if (!isBundle(argument) || (!has(shortNames) && isName(argument))) {
             return false;
         }
         std::vector<Word> letters;
@@ -106,6 +129,8 @@ private:
                 }
                 text.append("=").append(rest.substr(rest[0] == '=' ? 1 : 0));
                 rest = {};
+            } else if (item->takesValue() && !item->needsValue()) {
+                text = withImplied(text, *item);
             } else if (!rest.empty() && !has(bundles)) {
                 return false;
             }
@@ -241,6 +266,24 @@ std::string wrongNamedArgument(Vocabulary& vocabulary, CommandLine line) {
                           line,
                           walk.index(),
                           messages::givenByPlace(item->called()));
+        }
+    }
+    return "";
+}
+
+std::string wrongLongName(Vocabulary& vocabulary, CommandLine line) {
+    if ((vocabulary.habits() & shortNames) == 0) {
+        return "";
+    }
+    OptionWalk walk(vocabulary, line);
+    for (; !walk.isAtEnd(); walk.next(walk.argument())) {
+        const std::string argument = walk.argument();
+        const std::string_view name = cutArgument(argument).name;
+        if (walk.waiting() == nullptr && isBundle(argument) && name.size() > 1 &&
+            vocabulary.isBeginning(name)) {
+            vocabulary.plain().failure().make(
+                unknownArgument, {walk.index(), 0, {}}, argument, "", "");
+            return messages::unknownArgument(argument);
         }
     }
     return "";

@@ -70,6 +70,10 @@ std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line);
 // whose could not be told any more. Empty when there is none.
 std::string wrongNamedArgument(Vocabulary& vocabulary, CommandLine line);
 
+// What is wrong with the first argument that has one dash in front of a long name, where that is
+// no habit. Empty when there is none.
+std::string wrongLongName(Vocabulary& vocabulary, CommandLine line);
+
 // The arguments behind the first, taken apart by the habits that the vocabulary accepts.
 std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);
 

@@ -35,7 +35,7 @@ std::string argumentFor(const ItemRecord& item, std::string_view text) {
 const ItemRecord* actionGiven(const StoredOutcome& outcome,
                               Vocabulary& vocabulary,
                               const ItemRecord& modifier) {
-    for (const std::string& name : modifier.actions) {
+    for (const std::string& name : modifier.plain->tags) {
         const ItemRecord* const action = vocabulary.find(name);
         if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
             return action;
@@ -47,13 +47,13 @@ const ItemRecord* actionGiven(const StoredOutcome& outcome,
 // The value of the variable of an item that was not given; null when there is none, or when a
 // modifier goes with none of its actions.
 const char* variableFor(const ItemRecord& item, StoredOutcome& outcome) {
-    if (item.environment.empty() || outcome.origin(item) > Origin::byDefault) {
+    if (*item.extras().environment == '\0' || outcome.origin(item) > Origin::byDefault) {
         return nullptr;
     }
-    if (!item.actions.empty() && actionGiven(outcome, outcome.vocabulary(), item) == nullptr) {
+    if (item.isModifier() && actionGiven(outcome, outcome.vocabulary(), item) == nullptr) {
         return nullptr;
     }
-    const char* const text = item.readVariable(item.environment.c_str());
+    const char* const text = item.extras().readVariable(item.extras().environment);
     return text == nullptr || *text == '\0' ? nullptr : text;
 }
 
@@ -61,7 +61,7 @@ int takeVariable(const ItemRecord& item,
                  const char* text,
                  StoredOutcome& outcome,
                  std::string& error) {
-    const std::string assignment = filled("{}={}", {item.environment, text});
+    const std::string assignment = filled("{}={}", {item.extras().environment, text});
     const std::string argument = argumentFor(item, text);
     if (argument.empty()) {
         error = messages::invalidValue(assignment, messages::noBoolean);
@@ -70,9 +70,9 @@ int takeVariable(const ItemRecord& item,
     }
     Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};
     const int code =
-        outcome.vocabulary().parseAside(item, argument, assignment, *aside.result, error);
+        outcome.vocabulary().watch().parseAside(item, argument, assignment, *aside.result, error);
     outcome.asides().push_back(std::move(aside));
-    noteOf(outcome) = std::move(outcome.vocabulary().told());
+    noteOf(outcome) = std::move(outcome.vocabulary().watch().told());
     return code;
 }
 
@@ -83,7 +83,7 @@ std::string needs(const ItemRecord& item, const ItemRecord& other, StoredOutcome
 
 // Why the item is missed; empty when it is not.
 std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
-    if (item.actions.empty()) {
+    if (!item.isModifier()) {
         noteOf(outcome).make(requiredMissing, {}, "", item.primaryName(), "");
         return messages::isRequired(item);
     }
@@ -136,6 +136,15 @@ std::string broken(const Rule& rule, StoredOutcome& outcome) {
 }
 
 }  // namespace
+
+bool isAloneGiven(const StoredOutcome& outcome) {
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->isAlone && outcome.origin(*item) > Origin::byDefault) {
+            return true;
+        }
+    }
+    return false;
+}
 
 int readEnvironment(StoredOutcome& outcome, std::string& error) {
     for (const auto& item : outcome.vocabulary().items()) {

@@ -9,6 +9,9 @@
 
 namespace zarn_3_3::internal {
 
+// Whether an option that is alone() was given.
+bool isAloneGiven(const StoredOutcome& outcome);
+
 // Each answers resultOk, or a code with its text in `error`.
 
 // Takes values of the environment for items that were not given.

@@ -18,6 +18,7 @@
 #include "modern/pages.h"
 #include "modern/question.h"
 #include "modern/vocabulary.h"
+#include "modern/writing.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
 #include "zarn/typed/parser.h"
@@ -30,23 +31,16 @@ const StoredOutcome& stored(const Outcome* outcome) {
     return static_cast<const StoredOutcome&>(*outcome);
 }
 
-bool isAloneGiven(StoredOutcome& outcome) {
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->isAlone && outcome.origin(*item) > Origin::byDefault) {
-            return true;
-        }
-    }
-    return false;
-}
+ItemRecord& record(ItemDescription* item) { return static_cast<ItemRecord&>(*item); }
 
 // What there is to say when the plain parse has ended with this code.
 void conclude(StoredOutcome& outcome, int code) {
     Vocabulary& vocabulary = outcome.vocabulary();
-    outcome.asides() = vocabulary.endParse();
+    outcome.asides() = vocabulary.watch().end();
     std::string error;
     if (code != resultOk) {
-        error = vocabulary.explained(vocabulary.plain().getErrorDesc());
-        refine(vocabulary.plain().failure(), vocabulary.told().get());
+        error = vocabulary.watch().explained(vocabulary.plain().getErrorDesc());
+        refine(vocabulary.plain().failure(), vocabulary.watch().told().get());
     }
     const bool isAlone = isAloneGiven(outcome);
     if (isAlone && code == resultRuleBroken && error == messages::noAction) {
@@ -62,28 +56,6 @@ void conclude(StoredOutcome& outcome, int code) {
         code = checkRules(outcome, error);
     }
     outcome.end(vocabulary.plain().ended(code), std::move(error));
-}
-
-// In two steps, of which only the first can fail.
-void writeTargets(StoredOutcome& outcome) {
-    std::vector<Value> all;
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->target == nullptr) {
-            continue;
-        }
-        item->target->drop();
-        all.clear();
-        Value last;
-        const Origin origin = outcome.find(*item, last, &all);
-        if (!all.empty() && !(origin == Origin::byDefault && item->showsTarget)) {
-            item->target->take(all.data(), all.size(), last);
-        }
-    }
-    for (const auto& item : outcome.vocabulary().items()) {
-        if (item->target != nullptr) {
-            item->target->write();
-        }
-    }
 }
 
 // Ends the outcome when something is wrong with the line.
@@ -102,7 +74,7 @@ void parseAdapted(StoredOutcome& outcome, CommandLine line) {
     Vocabulary& vocabulary = outcome.vocabulary();
     refuseWrong(outcome, &wrongEmptyArgument, line);
     if (outcome.code == resultOk) {
-        vocabulary.beginParse(outcome.result(), {});
+        vocabulary.watch().begin(outcome.result(), {});
         conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
     }
 }
@@ -112,7 +84,7 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
     refuseWrong(*outcome, &wrongNamedArgument, line);
-    if (outcome->code != resultOk || vocabulary.habits() == 0 || line.argc < 2 ||
+    if (outcome->code != resultOk || !vocabulary.isAdapting() || line.argc < 2 ||
         line.argv == nullptr) {
         parseAdapted(*outcome, line);
         return outcome;
@@ -122,7 +94,9 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
     for (const Word& word : words) {
         adapted.push_back(word.text.c_str());
     }
-    parseAdapted(*outcome, {static_cast<int>(adapted.size()), adapted.data()});
+    const CommandLine adaptedLine{static_cast<int>(adapted.size()), adapted.data()};
+    refuseWrong(*outcome, &wrongLongName, adaptedLine);
+    parseAdapted(*outcome, adaptedLine);
     if (outcome->code != resultOk) {
         std::string error = outcome->text;
         quoteTyped(error, words);
@@ -179,9 +153,37 @@ void releaseVocabulary(Vocabulary* vocabulary) noexcept { vocabulary->release();
 
 IParser* plainParser(Vocabulary* vocabulary) noexcept { return &vocabulary->plain(); }
 
-void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription& item) {
+ItemDescription* beginItem(Role role,
+                           das_variant_type_t type,
+                           const char* names,
+                           const char* actions,
+                           const char* description) {
+    auto* const item = new ItemRecord();
+    item->role = role;
+    item->type = type;
+    item->names = names;
+    item->actions = actions;
+    item->description = description;
+    return item;
+}
+
+void releaseItem(ItemDescription* item) noexcept { delete &record(item); }
+
+Extras& extrasOf(ItemDescription* item) { return record(item).changeableExtras(); }
+
+void allowValue(ItemDescription* item, const variant_t& value, const variant_t& replacement) {
+    extrasOf(item).allowed.push_back({value, replacement});
+}
+
+void addCheck(ItemDescription* item, Check* check) noexcept { append(record(item).checks, check); }
+
+void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription* item) {
     vocabulary->declare(section, item);
 }
+
+void showDefaults(Vocabulary* vocabulary) noexcept { vocabulary->showDefaults(); }
+
+void addLineCheck(Vocabulary* vocabulary, Check* check) noexcept { vocabulary->add(check); }
 
 void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept { vocabulary->accept(habits); }
 
@@ -198,9 +200,7 @@ std::string pageOf(Vocabulary* vocabulary, const HelpStyle& style) {
 
 Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
     auto outcome = parseUnwritten(*vocabulary, {argc, argv});
-    if (outcome->code == resultOk) {
-        writeTargets(*outcome);
-    }
+    writeVariables(*outcome);
     return outcome.release();
 }
 
@@ -208,11 +208,9 @@ Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
     std::unique_ptr<StoredOutcome> outcome(into != nullptr ? &stored(into)
                                                            : new StoredOutcome(*vocabulary));
     vocabulary->settle();
-    vocabulary->beginParse(outcome->result(), std::move(outcome->asides()));
+    vocabulary->watch().begin(outcome->result(), std::move(outcome->asides()));
     conclude(*outcome, vocabulary->plain().parseStream(text, outcome->plain));
-    if (outcome->code == resultOk) {
-        writeTargets(*outcome);
-    }
+    writeVariables(*outcome);
     return outcome.release();
 }
 
@@ -237,11 +235,12 @@ Outcome* runLine(Vocabulary* vocabulary,
     }
     if (found) {
         answer = std::move(*found);
-    } else if (outcome->code != resultOk) {
+        return outcome.release();
+    }
+    writeVariables(*outcome);
+    if (outcome->code != resultOk) {
         answer.error = filled("{}: {}\n", {tool, visible(toldInFull(*vocabulary, outcome->text))});
         answer.exitCode = exitCodeFor(outcome->code);
-    } else {
-        writeTargets(*outcome);
     }
     return outcome.release();
 }
@@ -249,7 +248,9 @@ Outcome* runLine(Vocabulary* vocabulary,
 void releaseOutcome(Outcome* outcome) noexcept { delete &stored(outcome); }
 
 Origin findValues(const Outcome* outcome, const char* name, Value& last, std::vector<Value>* all) {
-    return stored(outcome).find(name, last, all);
+    Found found = stored(outcome).find(name, all);
+    last = std::move(found.last);
+    return found.origin;
 }
 
 std::vector<Occurrence> findOccurrences(const Outcome* outcome,

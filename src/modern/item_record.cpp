@@ -1,69 +1,91 @@
 #include "modern/item_record.h"
 
 #include <algorithm>
+#include <array>
 #include <cstddef>
+#include <cstring>
+#include <limits>
 #include <new>
 
 #include "modern/messages.h"
-#include "options/option_description.h"
 #include "text/filled.h"
-#include "zarn/option.h"
+#include "zarn/typed/declaration.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
-const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
+struct Bounds {
+    variant_t least;
+    variant_t greatest;
+};
 
-// Unlike the lists of the plain interface, with an empty piece behind a last comma.
-std::vector<std::string> piecesOf(std::string_view list) {
-    std::vector<std::string> pieces;
-    std::size_t start = 0;
-    for (std::size_t end = 0; end != std::string_view::npos; start = end + 1) {
-        end = list.find(',', start);
-        pieces.emplace_back(list.substr(start, end - start));
+template <typename T>
+Bounds allOf() {
+    return {std::numeric_limits<T>::lowest(), std::numeric_limits<T>::max()};
+}
+
+Bounds boundsOf(das_variant_type_t type) {
+    switch (type) {
+        case vtS32:
+            return allOf<int>();
+        case vtU32:
+            return allOf<unsigned>();
+        case vtS64:
+            return allOf<long long>();
+        case vtU64:
+            return allOf<unsigned long long>();
+        default:
+            return allOf<double>();
     }
-    return pieces;
+}
+
+bool isGiven(const variant_t& setting) { return setting.type() != vtNull; }
+
+bool hasBounds(const Extras& extras) { return isGiven(extras.least) || isGiven(extras.greatest); }
+
+// Streams read "-1" as the greatest number of a type without sign.
+bool isNegated(const ItemRecord& item, const Value& value) {
+    return (item.type == vtU32 || item.type == vtU64) && value.text != nullptr &&
+           *value.text == '-';
+}
+
+bool isWithin(const ItemRecord& item, const Value& value) {
+    const Extras& extras = item.extras();
+    return !isNegated(item, value) && !(isGiven(extras.least) && value.value < extras.least) &&
+           !(isGiven(extras.greatest) && extras.greatest < value.value);
 }
 
 }  // namespace
 
-ItemRecord::ItemRecord(ItemDescription& given)
-    : role(given.role),
-      type(given.type),
-      allNames(orEmpty(given.names)),
-      names(piecesOf(allNames)),
-      description(given.role == Role::option ? "" : orEmpty(given.description)),
-      shownName(orEmpty(given.shownName)),
-      environment(orEmpty(given.environment)),
-      readVariable(given.readVariable),
-      allowed(std::move(given.allowed)),
-      defaultValue(std::move(given.defaultValue)),
-      least(std::move(given.least)),
-      greatest(std::move(given.greatest)),
-      checks(std::move(given.checks)),
-      target(std::move(given.target)),
-      separator(given.separator),
-      isRequired(given.isRequired),
-      isAlone(given.isAlone),
-      showsTarget(given.showsTarget) {
-    if (*orEmpty(given.actions) != '\0') {
-        actions = piecesOf(given.actions);
-    }
-    if (showsTarget && (target == nullptr || target->takesMany())) {
-        mistake(allNames.c_str(), messages::noVariable);
-    }
-    if (showsTarget) {
-        defaultValue = target->current();
-    }
+const Extras& ItemRecord::extras() const {
+    static const Extras none;
+    return ownExtras != nullptr ? *ownExtras : none;
 }
 
+Extras& ItemRecord::changeableExtras() {
+    if (ownExtras == nullptr) {
+        ownExtras = std::make_unique<Extras>();
+    }
+    return *ownExtras;
+}
+
+ItemRecord::~ItemRecord() { release(checks); }
+
 bool ItemRecord::needsOwnParse() const {
-    return type != vtString || !allowed.empty() || separator != '\0';
+    return type != vtString || !plain->allowedValues.empty() || separator != '\0';
+}
+
+std::string ItemRecord::allNames() const {
+    std::string all;
+    for (const std::string& name : plain->names) {
+        all.append(all.empty() ? "" : ",").append(name);
+    }
+    return all;
 }
 
 std::string ItemRecord::called() const {
     if (role == Role::positional) {
-        return shownName.empty() ? primaryName() : shownName;
+        return *shownName == '\0' ? primaryName() : shownName;
     }
     return typedName(primaryName());
 }
@@ -72,92 +94,162 @@ void ItemRecord::configure(IOption& item) const {
     if (role == Role::positional) {
         item.positional();
     }
+    const std::vector<AllowedValue>& allowed = extras().allowed;
     for (const AllowedValue& each : allowed) {
-        if (each.replacement.type() == vtNull) {
-            item.allowValue(each.value);
-        } else {
+        if (isGiven(each.replacement)) {
             item.allowDeprecatedValue(each.value, each.replacement);
+        } else {
+            item.allowValue(each.value);
         }
     }
-    if (defaultValue.type() != vtNull) {
-        item.defaultValue(defaultValue);
+    if (isGiven(extras().defaultValue)) {
+        item.defaultValue(extras().defaultValue);
     }
     item.tokenize(separator);  // last: allowValue has values cut at ','
-    const auto& plain = static_cast<const OptionDescription&>(item);
+    const auto& made = static_cast<const OptionDescription&>(item);
     const auto isTaken = [&](const AllowedValue& each) {
-        return each.replacement.type() == vtNull ||
-               plain.deprecatedValues.find(each.value) != plain.deprecatedValues.end();
+        return !isGiven(each.replacement) ||
+               made.deprecatedValues.find(each.value) != made.deprecatedValues.end();
     };
-    const auto replaced = std::count_if(allowed.begin(), allowed.end(), [](const auto& each) {
-        return each.replacement.type() != vtNull;
-    });
-    if (plain.hasDefault != (defaultValue.type() != vtNull) ||
-        plain.allowedValues.size() != allowed.size() - static_cast<std::size_t>(replaced) ||
+    const auto deprecated = std::count_if(
+        allowed.begin(), allowed.end(), [](const auto& each) { return isGiven(each.replacement); });
+    if (made.allowedValues.size() != allowed.size() - static_cast<std::size_t>(deprecated) ||
         !std::all_of(allowed.begin(), allowed.end(), isTaken)) {
         throw std::bad_alloc();
     }
 }
 
-Value ItemRecord::replaced(const Value& value) const {
-    for (const AllowedValue& each : allowed) {
-        if (each.replacement.type() != vtNull && each.value == value.value) {
-            const bool isText = each.replacement.type() == vtString;
-            Value read(value);
-            read.value = each.replacement;
-            read.text = isText ? each.replacement.get<const char*>() : value.text;
-            return read;
+std::string ItemRecord::boundsText() const {
+    const Bounds all = boundsOf(type);
+    return internal::boundsText(isGiven(extras().least) ? extras().least : all.least,
+                                isGiven(extras().greatest) ? extras().greatest : all.greatest);
+}
+
+bool ItemRecord::isChecked() const {
+    const bool hasNoSign = type == vtU32 || type == vtU64;
+    return checks != nullptr || (isBounded() && (hasNoSign || hasBounds(extras())));
+}
+
+bool ItemRecord::holds(const Value& value, bool isLasting, std::string& reason) const {
+    if (isBounded() && !isWithin(*this, value)) {
+        reason = !hasBounds(extras()) || isNegated(*this, value)
+                     ? boundsText()
+                     : internal::boundsText(extras().least, extras().greatest);
+        return false;
+    }
+    for (const Check* check = checks; check != nullptr; check = check->next) {
+        if ((check->isLasting() || !isLasting) && !check->holds(value, reason)) {
+            return false;
         }
     }
-    return value;
+    return true;
+}
+
+Value ItemRecord::replaced(const Value& value) const {
+    if (plain->deprecatedValues.empty()) {
+        return value;
+    }
+    const auto found = plain->deprecatedValues.find(value.value);
+    if (found == plain->deprecatedValues.end()) {
+        return value;
+    }
+    Value read(value);
+    read.value = found->second;
+    read.text = get_variant_value(read.value, value.text);
+    return read;
 }
 
 std::string typedName(std::string_view name) {
     return filled("{}{}", {name.size() == 1 ? "-" : "--", name});
 }
 
-void requireNames(const ItemRecord& item) {
-    const auto refuse = [&](const std::string& what) { mistake(item.allNames.c_str(), what); };
-    for (const std::string& name : item.names) {
-        if (name.empty()) {
-            refuse(messages::nameEmpty);
-        }
-        if (name[0] == '-' || name.find_first_of(" \t\n\v\f\r=") != std::string::npos) {
-            refuse(messages::nameUntypable(name));
-        }
-        if (std::count(item.names.begin(), item.names.end(), name) > 1) {
-            refuse(messages::nameTwice(name));
-        }
+void append(Check*& checks, Check* check) noexcept {
+    Check** end = &checks;
+    while (*end != nullptr) {
+        end = &(*end)->next;
     }
-    if (item.names.size() > 3) {
-        refuse(messages::tooManyNames);
-    }
-    if (item.names.size() == 3 && item.names[2].size() > 2) {
-        refuse(messages::thirdNameLong(item.names[2]));
+    *end = check;
+}
+
+void release(Check* checks) noexcept {
+    while (checks != nullptr) {
+        Check* const next = checks->next;
+        delete checks;
+        checks = next;
     }
 }
 
-void requireDefault(const ItemRecord& item) {
-    const bool isText = item.defaultValue.type() == vtString;
-    const char* const text = isText ? item.defaultValue.get<const char*>() : "";
-    if (item.defaultValue.type() == vtNull || (isText && *text == '\0')) {
+// Unlike the lists of the plain interface, with an empty piece behind a last comma.
+void requireNames(const ItemRecord& item) {
+    const auto refuse = [&](const std::string& what) { mistake(item.names, what); };
+    std::array<std::string_view, 3> names;
+    std::size_t count = 0;
+    for (const char* next = item.names; next != nullptr; ++count) {
+        const std::string_view name(next, std::strcspn(next, ",= \t\n\v\f\r"));
+        const char end = next[name.size()];
+        if (*next == '-' || (end != ',' && end != '\0')) {
+            refuse(messages::nameUntypable(std::string_view(next, std::strcspn(next, ","))));
+        }
+        if (name.empty()) {
+            refuse(messages::nameEmpty);
+        }
+        for (std::size_t i = 0; i < std::min(count, names.size()); ++i) {
+            if (names[i] == name) {
+                refuse(messages::nameTwice(name));
+            }
+        }
+        if (count < names.size()) {
+            names[count] = name;
+        }
+        next = end == ',' ? next + name.size() + 1 : nullptr;
+    }
+    if (count > names.size()) {
+        refuse(messages::tooManyNames);
+    }
+    if (names[2].size() > 2) {
+        refuse(messages::thirdNameLong(names[2]));
+    }
+}
+
+void requireSettings(const ItemRecord& item) {
+    const Extras& extras = item.extras();
+    if (item.showsTarget && item.takesMany()) {
+        mistake(item.names, messages::noVariable);
+    }
+    if (item.ownExtras == nullptr) {
         return;
     }
+    if (isGiven(extras.least) && isGiven(extras.greatest) && extras.greatest < extras.least) {
+        mistake(item.names, noValueBetween);
+    }
+    const std::string wrongDefault = whyRefused(item, extras.defaultValue);
+    if (!wrongDefault.empty()) {
+        mistake(item.names, messages::defaultRefused(wrongDefault));
+    }
+    const std::string wrongImplied = whyRefused(item, extras.impliedValue);
+    if (!wrongImplied.empty()) {
+        mistake(item.names, messages::impliedRefused(wrongImplied));
+    }
+}
+
+std::string whyRefused(const ItemRecord& item, const variant_t& setting) {
+    const char* const text = get_variant_value(setting, "");
+    if (!isGiven(setting) || (item.type == vtString && *text == '\0')) {
+        return "";
+    }
+    const std::vector<AllowedValue>& allowed = item.extras().allowed;
     const bool isAllowed =
-        item.allowed.empty() ||
-        std::any_of(item.allowed.begin(), item.allowed.end(), [&](const AllowedValue& each) {
-            return each.replacement.type() == vtNull && each.value == item.defaultValue;
+        allowed.empty() ||
+        std::any_of(allowed.begin(), allowed.end(), [&](const AllowedValue& each) {
+            return !isGiven(each.replacement) && each.value == setting;
         });
     if (!isAllowed) {
-        mistake(item.allNames.c_str(), messages::defaultNotAllowed);
+        return messages::notAllowed;
     }
-    const Value value(text, item.defaultValue, 0);
     std::string reason;
-    for (const Check* check = item.checks.get(); check != nullptr; check = check->next.get()) {
-        // Whether a file exists is no matter of the declaration.
-        if (check->isLasting() && !check->holds(value, reason)) {
-            mistake(item.allNames.c_str(), messages::defaultRefused(reason));
-        }
-    }
+    // Whether a file exists is no matter of the declaration.
+    const bool isHeld = item.holds(Value(text, setting, 0), true, reason);
+    return isHeld ? "" : reason;
 }
 
 }  // namespace zarn_3_3::internal

@@ -6,26 +6,33 @@
 #include <memory>
 #include <string>
 #include <string_view>
-#include <vector>
 
+#include "options/option_description.h"
 #include "zarn/typed/engine.h"
 
-namespace zarn_3_3 {
+namespace zarn_3_3::internal {
 
-class IOption;
+// What is known of an item beside its plain declaration.
+struct ItemRecord final : ItemDescription {
+    ItemRecord() = default;
+    ItemRecord(const ItemRecord&) = delete;
+    ItemRecord& operator=(const ItemRecord&) = delete;
+    ~ItemRecord();
 
-namespace internal {
-
-// What is kept of its description when an item has been declared.
-struct ItemRecord {
-    explicit ItemRecord(ItemDescription& given);
+    const Extras& extras() const;
+    Extras& changeableExtras();
 
     // Whether its values have to be parsed anew when they were stored for a group of positional
     // items, as texts.
     bool needsOwnParse() const;
     bool takesValue() const { return type != vtNull && type != vtBool; }
-    bool takesMany() const { return target == nullptr || target->takesMany(); }
-    const std::string& primaryName() const { return names.front(); }
+    bool needsValue() const { return takesValue() && extras().impliedValue.type() == vtNull; }
+    bool takesMany() const { return target == nullptr || target->takesMany; }
+    bool isModifier() const { return role != Role::action && !plain->tags.empty(); }
+    const std::string& primaryName() const { return plain->primaryName(); }
+
+    // All names, as they were given.
+    std::string allNames() const;
 
     // How messages call it: as users type it.
     std::string called() const;
@@ -33,39 +40,43 @@ struct ItemRecord {
     // Chains its settings. Throws std::bad_alloc when the plain item has not taken all of them.
     void configure(IOption& item) const;
 
+    // Whether its values are numbers, of which some may not be typed.
+    bool isBounded() const { return !isPlain && takesValue() && type != vtString; }
+
+    // What its numbers must lie between: "it must be between 1 and 64".
+    std::string boundsText() const;
+
+    // Whether any value of its type may be refused.
+    bool isChecked() const;
+
+    // Whether the value lies within the bounds and meets all checks; why not, in `reason`. With
+    // `isLasting`, only those whose answer is the same everywhere are asked.
+    bool holds(const Value& value, bool isLasting, std::string& reason) const;
+
     // A deprecated value as what it is read as.
     Value replaced(const Value& value) const;
 
-    Role role;
-    das_variant_type_t type;
-    std::string allNames;  // as they were given
-    std::vector<std::string> names;
-    std::vector<std::string> actions;
-    std::string description;
-    std::string shownName;
-    std::string environment;
-    char* (*readVariable)(const char*);
-    std::vector<AllowedValue> allowed;
-    variant_t defaultValue;
-    variant_t least;
-    variant_t greatest;
-    std::unique_ptr<Check> checks;
-    std::unique_ptr<Target> target;
-    char separator;
-    bool isRequired;
-    bool isAlone;
-    bool showsTarget;
-    bool isAnswered = false;  // without the tool, as help is
+    std::unique_ptr<Extras> ownExtras;         // null: nothing of them was said
+    Check* checks = nullptr;                   // owned, and those behind it
+    const OptionDescription* plain = nullptr;  // as it was declared
+    bool isAnswered = false;                   // without the tool, as help is
+    bool isPlain = false;                      // declared with the plain interface
 };
 
 // "-j", "--jobs"
 std::string typedName(std::string_view name);
 
+// Puts the check at the end of those.
+void append(Check*& checks, Check* check) noexcept;
+void release(Check* checks) noexcept;
+
 // Throw std::logic_error when the author has made a mistake in it, apart from the names of others.
 void requireNames(const ItemRecord& item);
-void requireDefault(const ItemRecord& item);
+void requireSettings(const ItemRecord& item);
 
-}  // namespace internal
-}  // namespace zarn_3_3
+// Why the item would refuse the setting, which has its type; empty when it would not.
+std::string whyRefused(const ItemRecord& item, const variant_t& setting);
+
+}  // namespace zarn_3_3::internal
 
 #endif  // ZARN_MODERN_ITEM_RECORD_H

@@ -107,9 +107,12 @@ constexpr const char* otherActions = "all positional items go with the same acti
 inline std::string nameTwice(std::string_view name) {
     return filled("the name '{}' is given twice", {name});
 }
-constexpr const char* defaultNotAllowed = "its default is not among its allowed values";
+constexpr const char* notAllowed = "it is not among its allowed values";
 inline std::string defaultRefused(std::string_view reason) {
     return filled("its default is refused: {}", {reason});
+}
+inline std::string impliedRefused(std::string_view reason) {
+    return filled("what it is without a value is refused: {}", {reason});
 }
 inline std::string noSuchAction(std::string_view action) {
     return filled("no action has the primary name '{}'", {action});

@@ -17,17 +17,20 @@ void StoredOutcome::end(int resultCode, std::string message) {
     text = message_.c_str();
 }
 
-Value StoredOutcome::Values::operator[](std::size_t index) const {
+int StoredOutcome::Values::positionOf(std::size_t index) const {
     const std::size_t at = begin + index;
+    return entry->values.empty() ? entry->positions[at] : entry->values[at].position;
+}
+
+Value StoredOutcome::Values::operator[](std::size_t index) const {
     if (entry->values.empty()) {
-        return {nullptr, variant_t(), entry->positions[at]};
+        return {nullptr, variant_t(), positionOf(index)};
     }
-    const StoredValue& value = entry->values[at];
+    const StoredValue& value = entry->values[begin + index];
     return {value.text, value.value, value.position};
 }
 
-StoredOutcome::Values StoredOutcome::under(const ParseResult& result, std::string_view name) {
-    const StoredOption* const entry = result.find(name);
+StoredOutcome::Values StoredOutcome::valuesOf(const StoredOption* entry) {
     if (entry == nullptr) {
         return {};
     }
@@ -37,7 +40,7 @@ StoredOutcome::Values StoredOutcome::under(const ParseResult& result, std::strin
 StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin) const {
     for (const Aside& each : asides_) {
         if (each.item == &item && each.origin == origin) {
-            return under(*each.result, item.primaryName());
+            return valuesOf(each.result->find(item.primaryName()));
         }
     }
     return {};
@@ -53,7 +56,7 @@ StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
     if (item.needsOwnParse()) {
         return aside(item, Origin::commandLine);
     }
-    Values values = under(result_, group.front()->primaryName());
+    Values values = valuesOf(result_.find(group.front()->primaryName()));
     const auto place = std::find(group.begin(), group.end(), &item) - group.begin();
     values.begin = std::min(static_cast<std::size_t>(place), values.end);
     if (&item != group.back()) {
@@ -62,92 +65,88 @@ StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
     return values;
 }
 
-// Whether the value counts more than the other: what an option file says counts less.
-bool StoredOutcome::counts(const Value& value, const Value& other) const {
-    const bool isFromFile = result_.isFromFile(value.position);
-    return isFromFile == result_.isFromFile(other.position) ? value.position > other.position
-                                                            : !isFromFile;
+// Whether the value at the position counts more than the other: what an option file says counts
+// less.
+bool StoredOutcome::counts(int position, int other) const {
+    const bool isFromFile = result_.isFromFile(position);
+    return isFromFile == result_.isFromFile(other) ? position > other : !isFromFile;
 }
 
-// Leaves in `last` the value of all these, and of those before, that counts.
-void StoredOutcome::keepLast(const Values& values, const ItemRecord* item, Value& last) const {
-    for (std::size_t i = values.end - values.begin; i > 0; --i) {
-        const Value value = values[i - 1];
-        if (last.status != statusFound || counts(value, last)) {
-            last = item != nullptr ? item->replaced(value) : value;
-        }
-        if (!result_.isFromFile(value.position)) {
-            return;  // those before count less
+// The index of the one that counts, of at least one.
+std::size_t StoredOutcome::countingOf(const Values& values) const {
+    std::size_t counting = values.size() - 1;
+    for (std::size_t i = counting; i > 0 && result_.isFromFile(values.positionOf(counting)); --i) {
+        if (counts(values.positionOf(i - 1), values.positionOf(counting))) {
+            counting = i - 1;
         }
     }
+    return counting;
 }
 
-Origin StoredOutcome::choose(const std::string& name,
-                             const ItemRecord* item,
-                             Value& last,
-                             std::vector<Value>* all) const {
-    last = Value();
-    Values own = under(result_, name);
-    Values share;
-    Origin origin = Origin::commandLine;
-    if (item != nullptr) {
-        share = shareOf(*item);
-        const bool isSharing = item == vocabulary_.firstOfGroup();
-        own = isSharing ? Values() : own;
-        if (own.empty() && share.empty()) {
-            own = aside(*item, Origin::environment);
-            origin = Origin::environment;
-        }
+Found StoredOutcome::choose(std::string_view name,
+                            const ItemRecord& item,
+                            std::vector<Value>* all) const {
+    const Values share = shareOf(item);
+    const StoredOption* const entry = result_.find(name);
+    Values own = &item == vocabulary_.firstOfGroup() ? Values() : valuesOf(entry);
+    const bool isFromOutside = own.size() + share.size() == 0;
+    if (isFromOutside) {
+        own = aside(item, Origin::environment);
     }
+    Found found;
     for (const Values& values : {share, own}) {
-        keepLast(values, item, last);
-        for (std::size_t i = 0; all != nullptr && i < values.end - values.begin; ++i) {
-            all->push_back(item != nullptr ? item->replaced(values[i]) : values[i]);
+        if (values.size() == 0) {
+            continue;
+        }
+        found.count += values.size();
+        const Value last = values[countingOf(values)];
+        if (found.last.status != statusFound || counts(last.position, found.last.position)) {
+            found.last = item.replaced(last);
+        }
+        for (std::size_t i = 0; all != nullptr && i < values.size(); ++i) {
+            all->push_back(item.replaced(values[i]));
         }
     }
-    if (last.status != statusFound) {
-        return chooseDefault(name, last, all);
+    if (found.count == 0) {
+        return chooseDefault(entry, all);
     }
-    if (all != nullptr && !share.empty() && !own.empty()) {
+    if (all != nullptr && share.size() != 0 && own.size() != 0) {
         std::sort(all->begin(), all->end(), [](const Value& a, const Value& b) {
             return a.position < b.position;
         });
     }
-    const bool isFile = origin == Origin::commandLine && result_.isFromFile(last.position);
-    return isFile ? Origin::optionFile : origin;
+    const bool isFile = !isFromOutside && result_.isFromFile(found.last.position);
+    found.origin = isFromOutside ? Origin::environment
+                   : isFile      ? Origin::optionFile
+                                 : Origin::commandLine;
+    return found;
 }
 
-Origin StoredOutcome::chooseDefault(const std::string& name,
-                                    Value& last,
-                                    std::vector<Value>* all) const {
-    const StoredOption* const entry = result_.find(name);
+Found StoredOutcome::chooseDefault(const StoredOption* entry, std::vector<Value>* all) {
     if (entry == nullptr || !entry->isDefaultOnly()) {
-        return Origin::absent;
+        return {};
     }
-    last = Value(entry->defaultText, entry->defaultVariant, entry->defaultPosition);
+    const Value last(entry->defaultText, entry->defaultVariant, entry->defaultPosition);
     if (all != nullptr) {
         all->push_back(last);
     }
-    return Origin::byDefault;
+    return {Origin::byDefault, last, 1};
 }
 
-Origin StoredOutcome::find(const char* name, Value& last, std::vector<Value>* all) const {
-    const std::string asked = name == nullptr ? "" : name;
-    return choose(asked, vocabulary_.require(asked), last, all);
+Found StoredOutcome::find(const char* name, std::vector<Value>* all) const {
+    const std::string_view asked = name == nullptr ? "" : name;
+    return choose(asked, vocabulary_.require(asked), all);
 }
 
-Origin StoredOutcome::find(const ItemRecord& item, Value& last, std::vector<Value>* all) const {
-    return choose(item.primaryName(), &item, last, all);
+Found StoredOutcome::find(const ItemRecord& item, std::vector<Value>* all) const {
+    return choose(item.primaryName(), item, all);
 }
 
-Origin StoredOutcome::origin(const ItemRecord& item) const {
-    Value ignored;
-    return find(item, ignored, nullptr);
-}
+Origin StoredOutcome::origin(const ItemRecord& item) const { return find(item, nullptr).origin; }
 
 // A value belongs to the last occurrence before it. What is there already stays.
 void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
-    vocabulary_.require(name);
+    static_cast<void>(vocabulary_.require(name));
     const StoredOption* const entry = result_.find(name);
     if (entry == nullptr) {
         return;

@@ -14,6 +14,13 @@
 
 namespace zarn_3_3::internal {
 
+// What counts of an item.
+struct Found {
+    Origin origin = Origin::absent;
+    Value last;             // the value that counts alone; not found when there is none
+    std::size_t count = 0;  // of the values that were given, or 1
+};
+
 class StoredOutcome final : public Outcome {
 public:
     explicit StoredOutcome(Vocabulary& vocabulary);
@@ -22,8 +29,8 @@ public:
     ~StoredOutcome() { vocabulary_.release(); }
 
     // See findValues.
-    Origin find(const char* name, Value& last, std::vector<Value>* all) const;
-    Origin find(const ItemRecord& item, Value& last, std::vector<Value>* all) const;
+    Found find(const char* name, std::vector<Value>* all) const;
+    Found find(const ItemRecord& item, std::vector<Value>* all) const;
 
     Origin origin(const ItemRecord& item) const;
 
@@ -34,6 +41,7 @@ public:
     void end(int resultCode, std::string message);
 
     Vocabulary& vocabulary() { return vocabulary_; }
+    const Vocabulary& vocabulary() const { return vocabulary_; }
     ParseResult& result() { return result_; }
     std::vector<Aside>& asides() { return asides_; }
 
@@ -44,21 +52,18 @@ private:
         std::size_t begin = 0;
         std::size_t end = 0;
 
-        bool empty() const { return begin == end; }
+        std::size_t size() const { return end - begin; }
+        int positionOf(std::size_t index) const;
         Value operator[](std::size_t index) const;
     };
 
-    static Values under(const ParseResult& result, std::string_view name);
+    static Values valuesOf(const StoredOption* entry);
     Values shareOf(const ItemRecord& item) const;
     Values aside(const ItemRecord& item, Origin origin) const;
-    bool counts(const Value& value, const Value& other) const;
-    void keepLast(const Values& values, const ItemRecord* item, Value& last) const;
-    Origin choose(const std::string& name,
-                  const ItemRecord* item,
-                  Value& last,
-                  std::vector<Value>* all) const;
-
-    Origin chooseDefault(const std::string& name, Value& last, std::vector<Value>* all) const;
+    bool counts(int position, int other) const;
+    std::size_t countingOf(const Values& values) const;
+    Found choose(std::string_view name, const ItemRecord& item, std::vector<Value>* all) const;
+    static Found chooseDefault(const StoredOption* entry, std::vector<Value>* all);
 
     Vocabulary& vocabulary_;
     ParseResult result_;

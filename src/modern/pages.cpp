@@ -89,11 +89,11 @@ void declareAnswers(Vocabulary& vocabulary) {
     if (!vocabulary.isName(helpName)) {
         const char* const names = vocabulary.isName("h") ? helpName : "help,h";
         auto item = option(names, "Show this text.").alone();
-        vocabulary.declare("", item.description).isAnswered = true;
+        vocabulary.declare("", item.take()).isAnswered = true;
     }
     if (!isEmpty(vocabulary.tool().version) && !vocabulary.isName(versionName)) {
         auto item = option(versionName, "Show the version.").alone();
-        vocabulary.declare("", item.description).isAnswered = true;
+        vocabulary.declare("", item.take()).isAnswered = true;
     }
 }
 

@@ -2,49 +2,31 @@
 
 #include <algorithm>
 #include <new>
+#include <set>
 #include <utility>
 
-#include "modern/failures.h"
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
-#include "parser/messages.h"
-#include "recognizers/messages.h"
 #include "text/filled.h"
+#include "text/split.h"
 #include "zarn/option.h"
-#include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
 namespace {
 
-// Hears what is parsed aside for one item.
-class Asking final : public EventHandler {
-public:
-    Asking(Vocabulary& vocabulary, const ItemRecord& item) : vocabulary_(vocabulary), item_(item) {}
+const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
-    bool onValueParse(const char* /*name*/, const Value& value) override {
-        return vocabulary_.accepts(item_, value);
+Role roleOf(const OptionDescription& plain) {
+    if (plain.kind == kindAction) {
+        return Role::action;
     }
-
-private:
-    Vocabulary& vocabulary_;
-    const ItemRecord& item_;
-};
-
-// Whether a text that is no number of its type looks like one, and so is beyond its bounds.
-bool looksLikeNumber(std::string_view text) {
-    text.remove_prefix(text.find_first_not_of("+-") == 1 ? 1 : 0);
-    return !text.empty() && text[0] >= '0' && text[0] <= '9' &&
-           text.find_first_not_of("0123456789.e+-") == std::string_view::npos;
-}
-
-bool isBounded(const ItemRecord& item) {
-    return item.least.type() != vtNull || item.greatest.type() != vtNull;
+    return plain.isPositional ? Role::positional : Role::option;
 }
 
 }  // namespace
 
 Vocabulary::Vocabulary(const Tool& tool, int flags)
-    : tool_(tool), flags_(flags), plain_(std::make_unique<BasicParser>(flags)) {}
+    : tool_(tool), flags_(flags), plain_(std::make_unique<BasicParser>(flags)), watch_(*this) {}
 
 void Vocabulary::release() noexcept {
     if (--owners_ == 0) {
@@ -52,45 +34,61 @@ void Vocabulary::release() noexcept {
     }
 }
 
-ItemRecord& Vocabulary::declare(const char* section, ItemDescription& description) {
-    items_.push_back(std::make_unique<ItemRecord>(description));
-    ItemRecord& item = *items_.back();
+ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
+    std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
+    for (const char** text : {&item->names, &item->actions, &item->description, &item->shownName}) {
+        *text = orEmpty(*text);
+    }
+    showVariable(*item);
+    requireNames(*item);
+    requireSettings(*item);
+    items_.push_back(std::move(item));
     try {
-        requireNames(item);
-        requireDefault(item);
-        requireOwnTarget(item);
-        requireSameActions(item);
-        declarePlainly(section, description, item);
+        requireSameActions(*items_.back());
+        declarePlainly(section, *items_.back());
     } catch (...) {
         items_.pop_back();
         throw;
     }
-    if (item.target != nullptr) {
-        targets_.insert(item.target->address());
-    }
-    asksValues_ = asksValues_ || item.checks != nullptr;
-    return item;
+    impliesValues_ =
+        impliesValues_ || (items_.back()->takesValue() && !items_.back()->needsValue());
+    return *items_.back();
 }
 
-void Vocabulary::declarePlainly(const char* section,
-                                const ItemDescription& given,
-                                const ItemRecord& item) {
+// As its default.
+void Vocabulary::showVariable(ItemRecord& item) const {
+    const bool isOffered = showsDefaults_ && !item.isRequired && !item.takesMany() &&
+                           item.extras().defaultValue.type() == vtNull;
+    if (item.target == nullptr || !(isOffered || item.showsTarget)) {
+        return;
+    }
+    const variant_t shown = item.target->current(item.variable);
+    if (item.showsTarget || (shown.type() != vtNull && whyRefused(item, shown).empty())) {
+        item.changeableExtras().defaultValue = shown;
+        item.showsTarget = true;
+    }
+}
+
+void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
     if (item.type == vtBool) {
         requireFreeNames(item);  // its "no-" forms are not compared when it is declared
     }
     const RegisteredOptionStorage& registry = plain_->vocabulary();
     const std::size_t index = registry.items().size();
     byIndex_.resize(index + 1);
-    positionals_.reserve(positionals_.size() + 1);
+    if (item.role == Role::positional) {
+        positionals_.reserve(positionals_.size() + 1);
+    }
     IOption& made =
         item.role == Role::action
-            ? plain_->action(given.names, given.description, item.type, section)
-            : plain_->modifier(given.names, given.actions, given.description, item.type, section);
+            ? plain_->action(item.names, item.description, item.type, section)
+            : plain_->modifier(item.names, item.actions, item.description, item.type, section);
     if (registry.items().size() == index) {
         requireFreeNames(item);
         throw std::bad_alloc();
     }
     item.configure(made);
+    keepTexts(item, index);
     describe(index, item);
     if (item.role == Role::positional) {
         addPositional(item);
@@ -102,11 +100,24 @@ void Vocabulary::declarePlainly(const char* section,
 void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
     RegisteredOptionStorage& registry = plain_->vocabulary();
     registry.expect(index, item.isRequired, !item.takesMany());
-    if (!item.shownName.empty()) {
+    if (*item.shownName != '\0') {
         registry.nameValue(index, item.shownName);
     }
-    if (!item.environment.empty()) {
-        registry.nameVariable(index, item.environment);
+    if (*item.extras().environment != '\0') {
+        registry.nameVariable(index, item.extras().environment);
+    }
+}
+
+// The author's texts live until the item is declared.
+void Vocabulary::keepTexts(ItemRecord& item, std::size_t index) {
+    item.plain = &plain_->vocabulary().items()[index];
+    item.names = "";
+    item.actions = "";
+    item.description = item.plain->description.data();
+    item.shownName = *item.shownName == '\0' ? "" : plain_->keep(item.shownName);
+    if (item.ownExtras != nullptr) {
+        const char*& environment = item.ownExtras->environment;
+        environment = plain_->keep(orEmpty(environment));
     }
 }
 
@@ -114,80 +125,122 @@ void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
 // each wants is seen to when an argument has found its item.
 void Vocabulary::addPositional(const ItemRecord& item) {
     if (positionals_.size() == 1) {
-        plain_->vocabulary().takeAnyText(indexOf(positionals_[0]->primaryName()));
+        RegisteredOptionStorage& registry = plain_->vocabulary();
+        const std::size_t first = indexOf(positionals_[0]->primaryName());
+        registry.takeAnyText(first);
+        byIndex_[first]->plain = &registry.asDeclared(first);
     }
     positionals_.push_back(&item);
 }
 
 void Vocabulary::requireFreeNames(const ItemRecord& item) const {
-    const auto requireFree = [&](const std::string& form) {
-        const std::size_t index = indexOf(form);
-        if (index != NameIndex::none) {
-            const ItemRecord* const owner = recordAt(index);
-            const RegisteredOptionStorage& registry = plain_->vocabulary();
-            mistake(item.allNames.c_str(),
-                    messages::nameTaken(form,
-                                        owner != nullptr ? owner->allNames
-                                                         : registry.items()[index].primaryName()));
-        }
-    };
-    for (const std::string& name : item.names) {
-        requireFree(name);
+    std::vector<std::string> names;
+    split(item.names, names);
+    for (const std::string& name : names) {
+        requireFree(item, name);
         if (item.type == vtBool) {
-            requireFree(filled("{}{}", {noPrefix, name}));
+            requireFree(item, filled("{}{}", {noPrefix, name}));
         }
     }
 }
 
-void Vocabulary::requireOwnTarget(const ItemRecord& item) const {
-    if (item.target == nullptr || targets_.count(item.target->address()) == 0) {
-        return;
+void Vocabulary::requireFree(const ItemRecord& item, std::string_view form) const {
+    const std::size_t index = indexOf(form);
+    if (index != NameIndex::none) {
+        const ItemRecord* const owner = recordAt(index);
+        mistake(item.names,
+                messages::nameTaken(form,
+                                    owner != nullptr
+                                        ? owner->allNames()
+                                        : plain_->vocabulary().items()[index].primaryName()));
     }
-    const auto owner = std::find_if(items_.begin(), items_.end(), [&](const auto& other) {
-        return other->target != nullptr && other->target->address() == item.target->address();
-    });
-    mistake(item.allNames.c_str(), messages::variableTaken((*owner)->allNames));
 }
 
 // All arguments are stored under the first positional item, whose actions are looked at.
 void Vocabulary::requireSameActions(const ItemRecord& item) const {
-    if (item.role == Role::positional && !positionals_.empty() &&
-        positionals_.front()->actions != item.actions) {
-        mistake(item.allNames.c_str(), messages::otherActions);
+    if (item.role != Role::positional || positionals_.empty()) {
+        return;
+    }
+    std::set<std::string> actions;
+    split(item.actions, actions);
+    if (actions != positionals_.front()->plain->tags) {
+        mistake(item.names, messages::otherActions);
     }
 }
 
 void Vocabulary::settle() {
+    takeInPlainItems();
+    if (settledItems_ < items_.size()) {
+        requireOwnTargets();
+    }
     for (; settledItems_ < items_.size(); ++settledItems_) {
         requireActions(*items_[settledItems_]);
     }
     for (; settledRules_ < rules_.size(); ++settledRules_) {
-        Rule& rule = rules_[settledRules_];
-        rule.items.clear();
-        for (const std::string& name : rule.names) {
-            const ItemRecord* const item = find(name);
-            if (item == nullptr) {
-                mistake(name.c_str(), messages::noSuchOption);
-            }
-            rule.items.push_back(item);
-        }
+        settle(rules_[settledRules_]);
     }
-    if (!isListening_ && (asksValues_ || routesPositionals())) {
-        isListening_ = plain_->addHandler(this);
+    if (!isListening_ && watch_.isNeeded()) {
+        isListening_ = plain_->addHandler(&watch_);
         if (!isListening_) {
             throw std::bad_alloc();
         }
     }
 }
 
-void Vocabulary::requireActions(const ItemRecord& item) const {
-    for (const std::string& name : item.actions) {
-        const std::size_t index = indexOf(name);
-        const OptionList& items = plain_->vocabulary().items();
-        if (index == NameIndex::none || items[index].kind != kindAction ||
-            items[index].primaryName() != name) {
-            mistake(item.allNames.c_str(), messages::noSuchAction(name));
+// What the face itself declares has its record already.
+void Vocabulary::takeInPlainItems() {
+    const OptionList& plainItems = plain_->vocabulary().items();
+    byIndex_.resize(plainItems.size());
+    for (std::size_t i = 0; i < plainItems.size(); ++i) {
+        if (byIndex_[i] == nullptr) {
+            auto item = std::make_unique<ItemRecord>();
+            item->role = roleOf(plainItems[i]);
+            item->type = plainItems[i].type;
+            item->separator = plainItems[i].tokenizer;
+            item->plain = &plainItems[i];
+            item->isPlain = true;
+            items_.push_back(std::move(item));
+            byIndex_[i] = items_.back().get();
         }
+    }
+}
+
+void Vocabulary::requireActions(const ItemRecord& item) const {
+    if (item.role == Role::action) {
+        return;
+    }
+    for (const std::string& name : item.plain->tags) {
+        const ItemRecord* const action = recordAt(indexOf(name));
+        if (action == nullptr || action->role != Role::action || action->primaryName() != name) {
+            mistake(item.allNames().c_str(), messages::noSuchAction(name));
+        }
+    }
+}
+
+// The values of two items for one variable would overwrite each other.
+void Vocabulary::requireOwnTargets() const {
+    std::vector<std::pair<const void*, std::size_t>> owners;
+    owners.reserve(items_.size());
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        if (items_[i]->target != nullptr && items_[i]->extras().constant.value == nullptr) {
+            owners.emplace_back(items_[i]->variable, i);
+        }
+    }
+    std::sort(owners.begin(), owners.end());
+    const auto shared =
+        std::adjacent_find(owners.begin(), owners.end(), [](const auto& a, const auto& b) {
+            return a.first == b.first;
+        });
+    if (shared != owners.end()) {
+        mistake(items_[(shared + 1)->second]->allNames().c_str(),
+                messages::variableTaken(items_[shared->second]->allNames()));
+    }
+}
+
+void Vocabulary::settle(Rule& rule) const {
+    rule.items.clear();
+    for (const std::string& name : rule.names) {
+        rule.items.push_back(&require(name));
     }
 }
 
@@ -195,28 +248,25 @@ std::size_t Vocabulary::indexOf(std::string_view form) const {
     return plain_->vocabulary().names().first(form);
 }
 
-const ItemRecord* Vocabulary::recordAt(std::size_t index) const {
+ItemRecord* Vocabulary::recordAt(std::size_t index) const {
     return index < byIndex_.size() ? byIndex_[index] : nullptr;
 }
 
 const ItemRecord* Vocabulary::find(std::string_view name) const {
     const ItemRecord* const item = recordAt(indexOf(name));
-    const bool isNamed =
-        item != nullptr &&
-        std::find(item->names.begin(), item->names.end(), name) != item->names.end();
-    return isNamed ? item : nullptr;
+    return item != nullptr && isName(name) ? item : nullptr;
 }
 
 bool Vocabulary::isName(std::string_view name) const {
     return plain_->vocabulary().names().isAnyNamed(name, [](std::size_t) { return true; });
 }
 
-const ItemRecord* Vocabulary::require(std::string_view name) const {
+const ItemRecord& Vocabulary::require(std::string_view name) const {
     const ItemRecord* const item = find(name);
-    if (item == nullptr && !isName(name)) {
+    if (item == nullptr) {
         mistake(std::string(name).c_str(), messages::noSuchOption);
     }
-    return item;
+    return *item;
 }
 
 const ItemRecord* Vocabulary::resolve(std::string_view text) const {
@@ -234,151 +284,6 @@ const ItemRecord* Vocabulary::resolve(std::string_view text) const {
 bool Vocabulary::isBeginning(std::string_view text) const {
     return indexOf(text) != NameIndex::none ||
            plain_->vocabulary().findBeginning(text).first != KeptTexts::none;
-}
-
-bool Vocabulary::accepts(const ItemRecord& item, const Value& value) {
-    reason_.clear();
-    if ((habits_ & loneDash) != 0 && item.type == vtString && std::string_view(value.text) == "-") {
-        return true;  // the standard input
-    }
-    const Value read = item.replaced(value);
-    for (const Check* check = item.checks.get(); check != nullptr; check = check->next.get()) {
-        if (!check->holds(read, reason_)) {
-            const bool isUntold = reason_.empty() && isBounded(item);
-            reason_ = isUntold ? boundsText(item.least, item.greatest) : reason_;
-            told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
-            return false;
-        }
-    }
-    return true;
-}
-
-int Vocabulary::parseAside(const ItemRecord& item,
-                           const std::string& argument,
-                           const std::string& typed,
-                           ParseResult& result,
-                           std::string& error) {
-    BasicParser parser(flags_ | flagUnknownIsError);
-    item.configure(parser.option(item.allNames.c_str(), "", item.type, ""));
-    Asking asking(*this, item);
-    if (!parser.addHandler(&asking)) {
-        throw std::bad_alloc();
-    }
-    const char* const arguments[] = {"", argument.c_str()};
-    const int code = parser.parseArgsVector(2, arguments, &result);
-    refine(parser.failure(), told_.get());
-    told_ = std::move(parser.failure());
-    if (Failure* const failure = told_.get()) {
-        failure->index = 0;
-        retype(*failure, typed);
-    }
-    error = code == resultOk ? "" : explained(parser.getErrorDesc());
-    const std::size_t quoted = error.find(argument);
-    if (quoted != std::string::npos) {
-        error.replace(quoted, argument.size(), typed);
-    }
-    return code;
-}
-
-void Vocabulary::beginParse(const ParseResult& result, std::vector<Aside> asides) {
-    reason_.clear();
-    instead_.clear();
-    told_.clear();
-    asides_ = std::move(asides);
-    const StoredOption* const given =
-        positionals_.empty() ? nullptr : result.find(positionals_[0]->primaryName());
-    positionalCount_ = given == nullptr ? 0 : given->values.size();
-}
-
-std::string Vocabulary::explained(std::string message) const {
-    if (!instead_.empty()) {
-        return instead_;
-    }
-    if (!reason_.empty()) {
-        return messages::withReason(message, reason_);
-    }
-    if (const ItemRecord* const action = actionWithoutPlace(message)) {
-        return messages::takesNo(*action, *positionals_.front());
-    }
-    // A number that does not fit: "...: Option 'jobs' can not parse '99999999999' value, ..."
-    constexpr std::string_view beforeName = "': Option '";
-    constexpr std::string_view beforeValue = "' can not parse '";
-    const std::size_t name = message.find(beforeName);
-    const std::size_t end = message.find(beforeValue);
-    if (end == std::string::npos || name >= end) {
-        return message;
-    }
-    const std::size_t first = name + beforeName.size();
-    const ItemRecord* const item = find(std::string_view(message).substr(first, end - first));
-    const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
-    if (item != nullptr && isBounded(*item) && looksLikeNumber(value.substr(0, value.find('\'')))) {
-        message.pop_back();  // its full stop
-        return messages::withReason(message, boundsText(item->least, item->greatest));
-    }
-    return message;
-}
-
-// Nobody has typed the name of a positional item: it is told otherwise that an action takes none.
-const ItemRecord* Vocabulary::actionWithoutPlace(const std::string& message) const {
-    const auto refuses = [&](const auto& item) {
-        return item->role == Role::action &&
-               message == messages::actionRefusesOption(item->primaryName(),
-                                                        positionals_.front()->primaryName());
-    };
-    const auto action = positionals_.empty() || positionals_.front()->actions.empty()
-                            ? items_.end()
-                            : std::find_if(items_.begin(), items_.end(), refuses);
-    return action != items_.end() ? action->get() : nullptr;
-}
-
-bool Vocabulary::routesPositionals() const {
-    return positionals_.size() > 1 ||
-           (positionals_.size() == 1 && !positionals_.front()->takesMany());
-}
-
-bool Vocabulary::onValueParse(const char* name, const Value& value) {
-    const ItemRecord* const item = find(name);
-    if (item == nullptr) {
-        return true;
-    }
-    const bool isRouted = routesPositionals() && item == positionals_.front();
-    return isRouted ? takePositional(value) : accepts(*item, value);
-}
-
-bool Vocabulary::takePositional(const Value& value) {
-    const std::size_t last = positionals_.size() - 1;
-    const std::size_t number = positionalCount_++;
-    const ItemRecord& item = *positionals_[std::min(number, last)];
-    if (number > last && !item.takesMany()) {
-        instead_ = messages::unexpectedArgument(value.text);
-        told_.make(unexpectedArgument, {}, value.text, "", value.text);
-        return false;
-    }
-    if (last == 0 || !item.needsOwnParse()) {
-        return accepts(item, value) || refusePositional(item, value);
-    }
-    const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
-    std::string error;
-    const int code = parseAside(item, argument, value.text, positionalAside(item), error);
-    instead_ = error;
-    return code == resultOk;
-}
-
-// The plain message would name the item under which the arguments are stored.
-bool Vocabulary::refusePositional(const ItemRecord& item, const Value& value) {
-    instead_ = messages::withReason(
-        messages::vetoedValue(value.text, item.primaryName(), value.text), reason_);
-    return false;
-}
-
-ParseResult& Vocabulary::positionalAside(const ItemRecord& item) {
-    for (const Aside& each : asides_) {
-        if (each.item == &item && each.origin == Origin::commandLine) {
-            return *each.result;
-        }
-    }
-    asides_.push_back({&item, Origin::commandLine, std::make_unique<ParseResult>()});
-    return *asides_.back().result;
 }
 
 }  // namespace zarn_3_3::internal

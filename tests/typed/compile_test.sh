@@ -48,6 +48,9 @@ no values have this type|zarn::option<char>("x", "");
 bounds are for numbers|zarn::option<std::string>("x", "").between("a", "b");
 only texts and paths name files|zarn::option<int>("x", "").existingFile();
 taken from the environment: use option<bool>|zarn::option("x", "").fromEnvironment("X");
+a boolean takes no value|zarn::option<bool>("x", "").withoutValue(true);
+stores() is for switches|int i; zarn::option<int>("x", "").stores(i, 1);
+a check of the command line is called without|zarn::Parser().check([](int) { return true; }, "");
 a positional item takes values|zarn::positional<bool>("x", "");
 a check is called with a value|zarn::option<int>("x", "").check([](std::string) { return true; }, "");
 nodiscard|zarn::Parser().parse(0, nullptr);'

@@ -65,11 +65,11 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
          "point=3:4 number=1 number=2 number=3 file=a,b file=c "                                                                          },
         {{"--former=slow"},                                                    "former=thorough "                                         },
         {{"--level=-4"},
-         "Value '-4' is not valid for option 'level' in argument '--level=-4': it must be at least "
-         "-3|"                                                                                                                            },
+         "Value '-4' is not valid for option 'level' in argument '--level=-4': it must be between "
+         "-3 and 32767|"                                                                                                                  },
         {{"--level=32768"},
-         "Value '32768' is not valid for option 'level' in argument '--level=32768': it must be at "
-         "least -3|"                                                                                                                      },
+         "Value '32768' is not valid for option 'level' in argument '--level=32768': it must be "
+         "between -3 and 32767|"                                                                                                          },
         {{"--size=1025K"},
          "Value '1025K' is not valid for option 'size' in argument '--size=1025K': it must be at "
          "most 1M|"                                                                                                                       },
@@ -175,8 +175,8 @@ TEST(Habits, AreTakenWhereNoNameSaysOtherwise) {
              "and "
              "64|"                                                                                },
             {{"--level", "-4"},
-             "Value '-4' is not valid for option 'level' in argument '--level -4': it must be at "
-             "least -3|"                                                                          },
+             "Value '-4' is not valid for option 'level' in argument '--level -4': it must be "
+             "between -3 and 32767|"                                                              },
             {{"--", "-qv", "-"},                      "file=-qv file=- "                          },
     },
         unixHabits);

@@ -46,7 +46,7 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
          "'level,l,lvl': the third name, 'lvl', is longer than two bytes"                                                                                   },
         {[](Parser& p) {
              p.declare({option<int>("a", "").allow({1, 2}).byDefault(3)});
-         },                                                                       "'a': its default is not among its allowed values"               },
+         },                                                                       "'a': its default is refused: it is not among its allowed values"},
         {[](Parser& p) { p.declare({option<int>("a", "").between(1, 2).byDefault(3)}); },
          "'a': its default is refused: it must be between 1 and 2"                                                                                          },
         {[](Parser& p) { p.declare({option<int>("a", "").between(2, 1)}); },
@@ -55,6 +55,8 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
          "'a': a number of its declaration does not fit: it must be between -32768 and 32767"                                                               },
         {[](Parser& p) { p.declare({option<int>("a", "").byDefault()}); },
          "'a': byDefault() shows a variable for one value, and into() names none"                                                                           },
+        {[](Parser& p) { p.declare({option<int>("a", "").atMost(2).withoutValue(3)}); },
+         "'a': what it is without a value is refused: it must be at most 2"                                                                                 },
         {[](Parser& p) { p.declare({option("a,b,a", "")}); },
          "'a,b,a': the name 'a' is given twice"                                                                                                             },
         {[](Parser& p) {
@@ -91,11 +93,17 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
 TEST(Mistakes, AreNoneWhereItemsAreDeclaredPlainly) {
     Parser parser;
     parser->option("plain", "", vtS32, "");
+    parser->option("other", "", vtNull, "");
+    parser.readOptionFiles("");
+    parser.atMostOne({"plain", "other", "option-file"});
     const Line line{"--plain=3"};
     const Result result = parser.parse(line.argc(), line.argv());
     EXPECT_EQ(result.get<int>("plain"), 3);
     EXPECT_EQ(result.occurrences({"plain"}).size(), 1u);
     EXPECT_FALSE(parser.parse(0, nullptr).isGiven("plain"));
+    const Line both{"--other", "--plain=3"};
+    EXPECT_STREQ(parser.parse(both.argc(), both.argv()).text(),
+                 "Option '--plain' does not go with option '--other'");
 }
 
 TEST(Mistakes, LeaveTheVocabularyAsItWas) {

@@ -15,16 +15,12 @@
 
 namespace zarn_3_3::internal {
 
-// That the value can be read as a T, which the plain interface does not see to. What numbers must
-// be is told by the engine.
+// That the text can be read as a T.
 template <typename T>
 class Readable final : public Check {
 public:
     bool holds(const Value& value, std::string& reason) const override {
-        // Streams read "-1" as the greatest of an unsigned type.
-        const bool isNegated =
-            isNumber<T> && std::is_unsigned_v<T> && value.text != nullptr && *value.text == '-';
-        return !isNegated && read<T>(value, &reason).has_value();
+        return read<T>(value, &reason).has_value();
     }
 };
 
@@ -42,6 +38,26 @@ public:
             return false;
         }
         return asked.has_value();
+    }
+
+private:
+    Predicate predicate_;
+    std::string reason_;
+};
+
+// That predicate() is true.
+template <typename Predicate>
+class HoldsForLine final : public Check {
+public:
+    HoldsForLine(Predicate predicate, std::string reason)
+        : predicate_(std::move(predicate)), reason_(std::move(reason)) {}
+
+    bool holds(const Value& /*value*/, std::string& reason) const override {
+        if (predicate_()) {
+            return true;
+        }
+        reason = reason_;
+        return false;
     }
 
 private:

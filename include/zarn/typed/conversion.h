@@ -44,6 +44,10 @@ struct Name {
 //         };
 //     };
 //
+// Where the values are 0, 1, 2 and so on, their names will do:
+//
+//     static constexpr const char* table[] = {"fast", "thorough"};
+//
 // The table is not empty. Of two names of one value, help shows the first.
 template <typename E>
 struct Names;
@@ -65,6 +69,16 @@ inline constexpr bool isNamed = false;
 template <typename T>
 inline constexpr bool isNamed<T, std::void_t<decltype(Names<T>::table)>> = true;
 
+// An entry of its table.
+template <typename E>
+constexpr Name<E> nameIn(const Name<E>& entry) {
+    return entry;
+}
+template <typename E>
+constexpr Name<E> nameIn(const char* const& entry) {
+    return {entry, static_cast<E>(&entry - Names<E>::table)};
+}
+
 template <typename T, typename = void>
 inline constexpr bool isPath = false;
 template <typename T>
@@ -83,18 +97,18 @@ struct Conversion<T, std::enable_if_t<internal::isPath<T>>> {
 template <typename E>
 struct Conversion<E, std::enable_if_t<internal::isNamed<E>>> {
     static std::optional<E> read(const char* text, std::string& reason) {
-        for (const Name<E>& each : Names<E>::table) {
-            if (std::strcmp(each.name, text) == 0) {
-                return each.value;
+        for (const auto& each : Names<E>::table) {
+            if (std::strcmp(internal::nameIn<E>(each).name, text) == 0) {
+                return internal::nameIn<E>(each).value;
             }
         }
         reason = "it is no name of a value";
         return std::nullopt;
     }
     static std::string write(E value) {
-        for (const Name<E>& each : Names<E>::table) {
-            if (each.value == value) {
-                return each.name;
+        for (const auto& each : Names<E>::table) {
+            if (internal::nameIn<E>(each).value == value) {
+                return internal::nameIn<E>(each).name;
             }
         }
         return "";

@@ -13,7 +13,6 @@
 #include <cstdlib>
 #include <initializer_list>
 #include <limits>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -31,12 +30,27 @@ namespace zarn_3_3 {
 // option, action, modifier and positional.
 class Item {
 public:
-    // For the parser, which takes out what it keeps.
-    internal::ItemDescription description;
+    // For the parser, which takes it.
+    internal::ItemDescription* take() noexcept { return description_.take(); }
 
 protected:
-    explicit Item(internal::ItemDescription&& begun) noexcept : description(std::move(begun)) {}
+    explicit Item(internal::ItemDescription* begun) noexcept : description_(begun) {}
+
+    internal::Owner<internal::ItemDescription, &internal::releaseItem> description_;
 };
+
+namespace internal {
+
+inline constexpr const char* noValueBetween = "no value lies between its bounds";
+
+// Throws std::logic_error: a number does not fit the item.
+[[noreturn]] inline void refuseNumber(const char* names,
+                                      const variant_t& least,
+                                      const variant_t& greatest) {
+    mistake(names, "a number of its declaration does not fit: " + boundsText(least, greatest));
+}
+
+}  // namespace internal
 
 // An item with values of type T, on which its settings are chained, in any order.
 //
@@ -50,17 +64,17 @@ class [[nodiscard]] Declaration final : public Item {
 public:
     // For option, action, modifier and positional below, which say what is what.
     Declaration(internal::Role role, const char* names, const char* actions, const char* helpText)
-        : Item({role, internal::typeCode<T>(), names, actions, helpText}) {
-        if constexpr (internal::isNumber<T>) {
-            description.least = internal::plainNumber(std::numeric_limits<T>::lowest());
-            description.greatest = internal::plainNumber(std::numeric_limits<T>::max());
+        : Item(internal::beginItem(role, internal::typeCode<T>(), names, actions, helpText)) {
+        if constexpr (internal::isNumber<T> && (sizeof(T) < sizeof(internal::Plain<T>))) {
+            extras().least = internal::plainNumber(std::numeric_limits<T>::lowest());
+            extras().greatest = internal::plainNumber(std::numeric_limits<T>::max());
         }
         if constexpr (internal::isNamed<T>) {
-            for (const Name<T>& each : Names<T>::table) {
-                description.allowed.push_back({each.name, {}});
+            for (const auto& each : Names<T>::table) {
+                internal::allowValue(description_.get(), internal::nameIn<T>(each).name, {});
             }
-        } else if constexpr (needsReading) {
-            add(std::make_unique<internal::Readable<T>>());
+        } else if constexpr (internal::isConverted<T> && !internal::isPath<T>) {
+            internal::addCheck(description_.get(), new internal::Readable<T>());
         }
     }
 
@@ -74,7 +88,33 @@ public:
     // Without any of these the variable stays as it is.
     template <typename V>
     Declaration&& into(V& variable) && {
-        description.target = std::make_unique<internal::TargetOf<T, V>>(variable);
+        description_->target = &internal::TargetOf<T, V>::kind;
+        description_->variable = &variable;
+        return std::move(*this);
+    }
+
+    // Has a switch store `value` in the variable, in place of into. Several may share one variable,
+    // with each other and with one option that goes into it: what was given last counts.
+    //
+    //     zarn::option("numeric,n", "Compare numbers.").stores(order, Order::numeric),
+    //     zarn::option("random,R", "Shuffle.").stores(order, Order::random),
+    template <typename V, typename U>
+    Declaration&& stores(V& variable, U&& value) && {
+        static_assert(std::is_same_v<T, Switch>, "stores() is for switches, which take no value");
+        using Kind = internal::ConstantOf<V>;
+        extras().constant.hold(new V(std::forward<U>(value)), &Kind::release);
+        description_->target = &Kind::kind;
+        description_->variable = &variable;
+        return std::move(*this);
+    }
+
+    // Makes the value optional: without one, the option counts as given with `value`. One that is
+    // given is attached, as in "--color=never"; the next argument never is. Option files and texts
+    // give the value always.
+    template <typename U>
+    Declaration&& withoutValue(const U& value) && {
+        static_assert(!std::is_same_v<T, bool>, "a boolean takes no value");
+        extras().impliedValue = setting(value);
         return std::move(*this);
     }
 
@@ -82,7 +122,7 @@ public:
     // refuse is a std::logic_error when the item is declared.
     template <typename U>
     Declaration&& byDefault(const U& value) && {
-        description.defaultValue = setting(value);
+        extras().defaultValue = setting(value);
         return std::move(*this);
     }
 
@@ -90,7 +130,7 @@ public:
     Declaration&& byDefault() && {
         static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
         static_assert(internal::isWritten<T>, "a default is shown by the write of its Conversion");
-        description.showsTarget = true;
+        description_->showsTarget = true;
         return std::move(*this);
     }
 
@@ -100,7 +140,7 @@ public:
     Declaration&& allow(std::initializer_list<U> values) && {
         static_assert(!internal::isNamed<T>, "an enumeration allows the names of its table");
         for (const U& value : values) {
-            description.allowed.push_back({setting(value), {}});
+            internal::allowValue(description_.get(), setting(value), {});
         }
         return std::move(*this);
     }
@@ -111,9 +151,9 @@ public:
     template <typename U, typename R>
     Declaration&& deprecate(const U& former, const R& replacement) && {
         if constexpr (internal::isConverted<T>) {
-            description.allowed.push_back({variant_t(former), setting(replacement)});
+            internal::allowValue(description_.get(), former, setting(replacement));
         } else {
-            description.allowed.push_back({setting(former), setting(replacement)});
+            internal::allowValue(description_.get(), setting(former), setting(replacement));
         }
         return std::move(*this);
     }
@@ -121,49 +161,63 @@ public:
     // Cuts one argument into several values at `mark`. Without this it is one value, commas and
     // all.
     Declaration&& cutAt(char mark) && noexcept {
-        description.separator = mark;
+        description_->separator = mark;
         return std::move(*this);
     }
 
     // Refuses values below the first and above the second bound, which are allowed themselves.
     template <typename Low, typename High>
     Declaration&& between(const Low& least, const High& greatest) && {
-        const T low = bound(least);
-        const T high = bound(greatest);
-        if (high < low) {
-            internal::mistake(description.names, "no value lies between its bounds");
+        if constexpr (internal::isNumber<T>) {
+            return std::move(*this).atLeast(least).atMost(greatest);
+        } else {
+            const T low = bound(least);
+            const T high = bound(greatest);
+            if (high < low) {
+                internal::mistake(description_->names, internal::noValueBetween);
+            }
+            return std::move(*this).check(
+                [low, high](const T& value) { return !(value < low) && !(high < value); },
+                internal::boundsText(internal::plainValue(low), internal::plainValue(high)));
         }
-        return std::move(*this).within(
-            [low, high](const T& value) { return !(value < low) && !(high < value); },
-            internal::plainValue(low),
-            internal::plainValue(high));
     }
 
     // Refuses values below the bound.
     template <typename U>
     Declaration&& atLeast(const U& least) && {
         const T low = bound(least);
-        return std::move(*this).within(
-            [low](const T& value) { return !(value < low); }, internal::plainValue(low), {});
+        if constexpr (internal::isNumber<T>) {
+            extras().least = internal::plainNumber(low);
+            return std::move(*this);
+        } else {
+            return std::move(*this).check([low](const T& value) { return !(value < low); },
+                                          internal::boundsText(internal::plainValue(low), {}));
+        }
     }
 
     // Refuses values above the bound.
     template <typename U>
     Declaration&& atMost(const U& greatest) && {
         const T high = bound(greatest);
-        return std::move(*this).within(
-            [high](const T& value) { return !(high < value); }, {}, internal::plainValue(high));
+        if constexpr (internal::isNumber<T>) {
+            extras().greatest = internal::plainNumber(high);
+            return std::move(*this);
+        } else {
+            return std::move(*this).check([high](const T& value) { return !(high < value); },
+                                          internal::boundsText({}, internal::plainValue(high)));
+        }
     }
 
     // Refuses values for which predicate(value), called with a T, is not true. `reason` is put
     // behind the message: "it must be even". Checks are asked in the order of the command line and,
-    // for one value, in the order in which they were chained.
+    // for one value, behind the bounds of a number, in the order in which they were chained.
     template <typename Predicate>
     Declaration&& check(Predicate predicate, std::string reason) && {
         static_assert(std::is_invocable_r_v<bool, const Predicate&, const T&>,
                       "a check is called with a value of the option and answers true or false");
-        add(std::make_unique<internal::Holds<T, Predicate>>(std::move(predicate),
-                                                            std::move(reason)));
+        internal::addCheck(
+            description_.get(),
+            new internal::Holds<T, Predicate>(std::move(predicate), std::move(reason)));
         return std::move(*this);
     }
 
@@ -182,37 +236,33 @@ public:
     Declaration&& fromEnvironment(const char* variable) && {
         static_assert(!std::is_same_v<T, Switch>,
                       "a switch has no value to be taken from the environment: use option<bool>");
-        description.environment = variable;
-        description.readVariable = &std::getenv;
+        extras().environment = variable;
+        extras().readVariable = &std::getenv;
         return std::move(*this);
     }
 
     // Refuses a command line without the item; for a modifier, one with an action of its own.
     Declaration&& required() && noexcept {
-        description.isRequired = true;
+        description_->isRequired = true;
         return std::move(*this);
     }
 
     // For an option that is used by itself, such as one that shows a help text: where it is given,
     // nothing is required, and no rule asked.
     Declaration&& alone() && noexcept {
-        description.isAlone = true;
+        description_->isAlone = true;
         return std::move(*this);
     }
 
     // How help calls the value, as in "--output FILE"; of a positional item the item itself, in
     // messages too.
     Declaration&& named(const char* name) && noexcept {
-        description.shownName = name;
+        description_->shownName = name;
         return std::move(*this);
     }
 
 private:
-    // Types that hold less than the plain interface does, or that it does not know.
-    static constexpr bool needsReading =
-        (internal::isConverted<T> && !internal::isPath<T>) ||
-        (internal::isNumber<T> &&
-         (sizeof(T) < sizeof(int) || std::is_unsigned_v<T> || std::is_same_v<T, float>));
+    internal::Extras& extras() { return internal::extrasOf(description_.get()); }
 
     template <typename U>
     static constexpr bool isSetting() {
@@ -238,14 +288,13 @@ private:
     auto fitted(const U& value) const {
         static_assert(isSetting<U>());
         if constexpr (internal::isNumber<T>) {
-            const std::optional<T> number = internal::numberAs<T>(value);
-            if (!number) {
-                internal::mistake(
-                    description.names,
-                    "a number of its declaration does not fit: " +
-                        internal::boundsText(description.least, description.greatest));
+            if (!internal::isKept<T>(value)) {
+                using limits = std::numeric_limits<T>;
+                internal::refuseNumber(description_->names,
+                                       internal::plainNumber(limits::lowest()),
+                                       internal::plainNumber(limits::max()));
             }
-            return *number;
+            return static_cast<T>(value);
         } else if constexpr (internal::isText<T>) {
             return std::string(value);
         } else {
@@ -267,30 +316,11 @@ private:
         return fitted(value);
     }
 
-    template <typename Predicate>
-    Declaration&& within(Predicate predicate,
-                         const variant_t& least,
-                         const variant_t& greatest) && {
-        if constexpr (internal::isNumber<T>) {  // what does not even fit is told the same
-            description.least = least;
-            description.greatest = greatest;
-        }
-        return std::move(*this).check(predicate, internal::boundsText(least, greatest));
-    }
-
     Declaration&& exists(internal::Exists::Kind kind) && {
         static_assert(internal::isText<T> || internal::isPath<T>,
                       "only texts and paths name files");
-        add(std::make_unique<internal::Exists>(kind));
+        internal::addCheck(description_.get(), new internal::Exists(kind));
         return std::move(*this);
-    }
-
-    void add(std::unique_ptr<internal::Check> check) {
-        std::unique_ptr<internal::Check>* end = &description.checks;
-        while (*end != nullptr) {
-            end = &(*end)->next;
-        }
-        *end = std::move(check);
     }
 };
 
@@ -322,22 +352,25 @@ Declaration<T> modifier(const char* names, const char* actionNames, const char* 
 
 // Takes the arguments that are no options. Several are filled in the order in which they are
 // declared, one argument each; the last takes the rest, unless its variable has a place for one
-// value only. A single one may be given by its name, too, several by their places alone. Names and
-// description as for option.
-template <typename T = std::string>
-Declaration<T> positional(const char* names, const char* description) {
-    static_assert(!std::is_same_v<T, Switch> && !std::is_same_v<T, bool>,
-                  "a positional item takes values");
-    return {internal::Role::positional, names, "", description};
-}
-
-// The same for arguments that belong to the actions with these primary names, separated by ',', and
-// are refused with any other. All positional items of a vocabulary belong to the same actions.
+// value only. A single one may be given by its name, too, several by their places alone.
+//
+// names        as for option
+// actionNames  the primary names of the actions that the arguments belong to, separated by ',';
+//              they are refused with any other. The same for all positional items of a vocabulary
+// description  its help text
+//
+// Throws std::bad_alloc when memory runs out.
 template <typename T = std::string>
 Declaration<T> positional(const char* names, const char* actionNames, const char* description) {
-    Declaration<T> made = positional<T>(names, description);
-    made.description.actions = actionNames;
-    return made;
+    static_assert(!std::is_same_v<T, Switch> && !std::is_same_v<T, bool>,
+                  "a positional item takes values");
+    return {internal::Role::positional, names, actionNames, description};
+}
+
+// The same for arguments that belong to no action.
+template <typename T = std::string>
+Declaration<T> positional(const char* names, const char* description) {
+    return positional<T>(names, "", description);
 }
 
 }  // namespace zarn_3_3

@@ -8,10 +8,10 @@
 
 #include <cstddef>
 #include <cstdint>
-#include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "zarn/export.h"
@@ -47,8 +47,31 @@ struct Occurrence {
 
 namespace internal {
 
-// One condition that values must meet, and those asked behind it. Owned, and freed, by the engine
-// when its item is declared.
+// What the engine made for the modern face, and frees.
+template <typename T, void (*release)(T*) noexcept>
+class Owner final {
+public:
+    explicit Owner(T* owned) noexcept : owned_(owned) {}
+    Owner(Owner&& other) noexcept : owned_(other.take()) {}
+    Owner& operator=(Owner&& other) noexcept {
+        std::swap(owned_, other.owned_);
+        return *this;
+    }
+    ~Owner() {
+        if (owned_ != nullptr) {
+            release(owned_);
+        }
+    }
+
+    T* get() const noexcept { return owned_; }
+    T* operator->() const noexcept { return owned_; }
+    T* take() noexcept { return std::exchange(owned_, nullptr); }
+
+private:
+    T* owned_;
+};
+
+// One condition that values must meet, and those asked behind it. Freed by the engine.
 class Check {
 public:
     Check() = default;
@@ -62,34 +85,33 @@ public:
     // Whether the answer is the same wherever and whenever the tool runs.
     virtual bool isLasting() const { return true; }
 
-    std::unique_ptr<Check> next;
+    Check* next = nullptr;
 };
 
-// A variable that is written in two steps, so that those of a vocabulary are written together.
-class Target {
-public:
-    Target() = default;
-    Target(const Target&) = delete;
-    Target& operator=(const Target&) = delete;
-    virtual ~Target() = default;
+// What a variable is made of.
+struct Given {
+    const Value* values;   // those that were given, or the one that counts; null unless takesMany
+    std::size_t count;     // of them; at least 1
+    const Value& last;     // the one that counts alone
+    const void* constant;  // what is stored in place of a value, or null
+};
 
-    // Makes ready what is to be written. `values` are the ones that were given, or the one that
-    // counts when none was; `count` is at least 1. `last` is the one that counts alone.
-    virtual void take(const Value* values, std::size_t count, const Value& last) = 0;
+// How variables of one type are written: in two steps, so that those of a vocabulary are written
+// together.
+struct TargetKind {
+    // A new value for the variable.
+    void* (*make)(const Given& given);
 
-    // Writes what was made ready, if anything was.
-    virtual void write() noexcept = 0;
+    // Exchanges it with what the variable holds.
+    void (*exchange)(void* variable, void* made) noexcept;
 
-    // Drops what was made ready.
-    virtual void drop() noexcept = 0;
+    void (*release)(void* made) noexcept;
 
-    // What the variable holds, as a default.
-    virtual variant_t current() const = 0;
-
-    virtual const void* address() const noexcept = 0;
+    // What the variable holds, as a default; empty where that cannot be shown.
+    variant_t (*current)(const void* variable);
 
     // Whether it has a place for more than one value.
-    virtual bool takesMany() const noexcept = 0;
+    bool takesMany;
 };
 
 enum class Role : std::int32_t { option, action, positional };
@@ -99,22 +121,47 @@ struct AllowedValue {
     variant_t replacement;  // empty, unless the value is deprecated
 };
 
-// An item to be declared. Its texts are read during the call.
-struct ItemDescription {
-    Role role;
-    das_variant_type_t type;
-    const char* names;
-    const char* actions;
-    const char* description;
-    const char* shownName = "";    // empty: the primary name
-    const char* environment = "";  // the name of a variable, or empty
-    char* (*readVariable)(const char*) = nullptr;
+// A value of whatever type, owned.
+struct Constant {
+    Constant() = default;
+    Constant(const Constant&) = delete;
+    Constant& operator=(const Constant&) = delete;
+    ~Constant() { hold(nullptr, release); }
+
+    void hold(void* newValue, void (*newRelease)(void*) noexcept) noexcept {
+        if (value != nullptr) {
+            release(value);
+        }
+        value = newValue;
+        release = newRelease;
+    }
+
+    void* value = nullptr;
+    void (*release)(void*) noexcept = nullptr;
+};
+
+// What most items do without.
+struct Extras {
     std::vector<AllowedValue> allowed = {};
     variant_t defaultValue = {};  // empty: none
-    variant_t least = {};         // of numbers; empty: no bound
+    variant_t least = {};         // of numbers; empty: what the type holds
     variant_t greatest = {};
-    std::unique_ptr<Check> checks = {};
-    std::unique_ptr<Target> target = {};
+    variant_t impliedValue = {};   // of the option without a value; empty: it needs one
+    Constant constant = {};        // what goes into the variable of a switch
+    const char* environment = "";  // the name of a variable, or empty
+    char* (*readVariable)(const char*) = nullptr;
+};
+
+// An item to be declared, made by beginItem. Its texts are read when it is.
+struct ItemDescription {
+    Role role = Role::option;
+    das_variant_type_t type = vtNull;
+    const char* names = "";
+    const char* actions = "";
+    const char* description = "";
+    const char* shownName = "";  // empty: the primary name
+    const TargetKind* target = nullptr;
+    void* variable = nullptr;
     char separator = '\0';
     bool isRequired = false;
     bool isAlone = false;
@@ -159,7 +206,36 @@ ZARN_EXPORT std::string boundsText(const variant_t& least, const variant_t& grea
 ZARN_EXPORT Vocabulary* createVocabulary(const Tool& tool, int flags);
 ZARN_EXPORT void releaseVocabulary(Vocabulary* vocabulary) noexcept;
 ZARN_EXPORT IParser* plainParser(Vocabulary* vocabulary) noexcept;
-ZARN_EXPORT void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription& item);
+
+// The texts are not copied.
+ZARN_EXPORT ItemDescription* beginItem(Role role,
+                                       das_variant_type_t type,
+                                       const char* names,
+                                       const char* actions,
+                                       const char* description);
+ZARN_EXPORT void releaseItem(ItemDescription* item) noexcept;
+
+// What the item has of them, to be changed.
+ZARN_EXPORT Extras& extrasOf(ItemDescription* item);
+
+// Adds to the values that the item accepts; `replacement` is empty unless this one is deprecated.
+ZARN_EXPORT void allowValue(ItemDescription* item,
+                            const variant_t& value,
+                            const variant_t& replacement);
+
+// Puts the check, which it owns from then on, behind those of the item.
+ZARN_EXPORT void addCheck(ItemDescription* item, Check* check) noexcept;
+
+// Takes the item, whether it is declared or throws.
+ZARN_EXPORT void declareItem(Vocabulary* vocabulary, const char* section, ItemDescription* item);
+
+// Has items that are declared from now on show their variables as defaults.
+ZARN_EXPORT void showDefaults(Vocabulary* vocabulary) noexcept;
+
+// Puts the check, which it owns from then on, behind the others of a whole command line. It is
+// asked without a value, when the variables are written.
+ZARN_EXPORT void addLineCheck(Vocabulary* vocabulary, Check* check) noexcept;
+
 ZARN_EXPORT void acceptHabits(Vocabulary* vocabulary, unsigned habits) noexcept;
 ZARN_EXPORT void addRule(Vocabulary* vocabulary,
                          RuleKind kind,

@@ -18,6 +18,15 @@ inline constexpr bool isNumber =
     !std::is_same_v<T, wchar_t> && !std::is_same_v<T, char16_t> && !std::is_same_v<T, char32_t> &&
     !std::is_same_v<T, long double>;
 
+// The type of its values in the plain interface.
+template <typename T>
+using Plain = std::conditional_t<
+    std::is_floating_point_v<T>,
+    double,
+    std::conditional_t<sizeof(T) <= sizeof(int),
+                       std::conditional_t<std::is_signed_v<T>, int, unsigned>,
+                       std::conditional_t<std::is_signed_v<T>, long long, unsigned long long>>>;
+
 template <typename T>
 constexpr bool isNegative(T number) {
     if constexpr (std::is_signed_v<T>) {
@@ -59,11 +68,7 @@ std::optional<To> numberAs(From number) {
 
 template <typename T>
 variant_t plainNumber(T number) {
-    if constexpr (std::is_floating_point_v<T>) {
-        return variant_t(static_cast<double>(number));
-    } else {
-        return variant_t(number);
-    }
+    return variant_t(static_cast<Plain<T>>(number));
 }
 
 }  // namespace zarn_3_3::internal

@@ -6,7 +6,6 @@
 #include <cstddef>
 #include <cstdio>
 #include <initializer_list>
-#include <memory>
 #include <new>
 #include <optional>
 #include <string>
@@ -35,6 +34,7 @@ enum Habit : unsigned {
     negativeNumbers = 0x4,  // "-5" behind an option of a number with sign, or for a positional item
                             // of one, is its value
     loneDash = 0x8,         // "-" is a value, or a positional argument: the standard input
+    shortNames = 0x10,      // behind one dash stand letters alone: "-jobs" is none of "--jobs"
 };
 constexpr unsigned unixHabits = bundles | gluedValues | negativeNumbers | loneDash;
 
@@ -78,11 +78,12 @@ public:
     //
     // A mistake is: a name that is taken, is empty, has a dash in front, a blank or a "=" in it;
     // more than three names, or a third of more than two bytes; a default that the item would
-    // refuse; a variable that another item has. At the first parse: an action that is not declared.
+    // refuse. At the first parse: a variable that another item goes into; an action that is not
+    // declared.
     template <std::size_t count>
     void declare(const char* section, Item (&&items)[count]) {
         for (Item& item : items) {
-            internal::declareItem(vocabulary_.get(), section, item.description);
+            internal::declareItem(vocabulary_.get(), section, item.take());
         }
     }
     template <std::size_t count>
@@ -103,6 +104,25 @@ public:
     // Takes arguments in the habits of Unix, too: any combination of Habit values, as unixHabits.
     // Only command lines are taken so, no texts and option files.
     void accept(unsigned habits) noexcept { internal::acceptHabits(vocabulary_.get(), habits); }
+
+    // Has every item that is declared from now on, and goes into a variable for one value, show as
+    // its default what the variable holds then, as byDefault() does. Switches and items that are
+    // required show none, nor does one that would refuse what the variable holds.
+    void showDefaults() noexcept { internal::showDefaults(vocabulary_.get()); }
+
+    // Refuses a command line for which predicate() is not true. It is asked when everything else is
+    // right and the variables are written; they are then set back. `reason` is the message. Where
+    // an option that is alone() is given, nothing is asked.
+    //
+    //     parser.check([&] { return !isChecking || files.size() < 2; }, "--check takes one file");
+    template <typename Predicate>
+    void check(Predicate predicate, std::string reason) {
+        static_assert(std::is_invocable_r_v<bool, const Predicate&>,
+                      "a check of the command line is called without arguments");
+        internal::addLineCheck(
+            vocabulary_.get(),
+            new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
+    }
 
     // One of these options must be given, and no other of them.
     void exactlyOne(std::initializer_list<const char*> names) {
@@ -199,12 +219,6 @@ public:
     }
 
 private:
-    struct Release {
-        void operator()(internal::Vocabulary* vocabulary) const noexcept {
-            releaseVocabulary(vocabulary);
-        }
-    };
-
     static bool print(std::FILE* stream, const std::string& text) {
         return text.empty() || (std::fwrite(text.data(), 1, text.size(), stream) == text.size() &&
                                 std::fflush(stream) == 0);
@@ -214,7 +228,7 @@ private:
         internal::addRule(vocabulary_.get(), kind, names, count);
     }
 
-    std::unique_ptr<internal::Vocabulary, Release> vocabulary_;
+    internal::Owner<internal::Vocabulary, &internal::releaseVocabulary> vocabulary_;
     std::optional<Result> result_;
     const char* name_;
 };

@@ -4,7 +4,6 @@
 #define ZARN_TYPED_RESULT_H
 
 #include <initializer_list>
-#include <memory>
 #include <new>
 #include <optional>
 #include <string>
@@ -126,13 +125,10 @@ public:
     }
 
     // The outcome, for the parser, which goes on with it.
-    [[nodiscard]] internal::Outcome* release() noexcept { return outcome_.release(); }
+    [[nodiscard]] internal::Outcome* release() noexcept { return outcome_.take(); }
 
 private:
-    struct Release {
-        void operator()(internal::Outcome* outcome) const noexcept { releaseOutcome(outcome); }
-    };
-    std::unique_ptr<internal::Outcome, Release> outcome_;
+    internal::Owner<internal::Outcome, &internal::releaseOutcome> outcome_;
 };
 
 }  // namespace zarn_3_3

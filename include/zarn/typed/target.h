@@ -5,7 +5,6 @@
 
 #include <cstddef>
 #include <optional>
-#include <stdexcept>
 #include <string>
 #include <type_traits>
 #include <utility>
@@ -41,68 +40,87 @@ constexpr bool goesInto() {
     }
 }
 
-template <typename E>
-E readAgain(const Value& value) {
-    std::optional<E> found = read<E>(value, nullptr);
-    if (!found) {
-        throw std::logic_error("zarn: a Conversion that has read a text does not read it again");
+// The value of an option of type T, which was found to be one, as an Element.
+template <typename T, typename Element>
+Element elementOf(const Value& value) {
+    if constexpr (isText<T>) {
+        return Element(value.text);
+    } else if constexpr (std::is_same_v<T, Switch>) {
+        return true;
+    } else if constexpr (std::is_same_v<T, bool>) {
+        return value.text == nullptr || value.value.get<bool>();
+    } else if constexpr (isNumber<T>) {
+        return static_cast<Element>(value.value.get<Plain<T>>());
+    } else {
+        std::string reason;
+        std::optional<T> found = Conversion<T>::read(value.text, reason);
+        if (!found) {
+            mistake(value.text, "a Conversion that has read this text does not read it again");
+        }
+        return *std::move(found);
     }
-    return *std::move(found);
 }
+
+// A variable of type V.
+template <typename V>
+struct TargetBase {
+    static_assert(std::is_nothrow_swappable_v<V>,
+                  "variables are written all or none: their exchange must not throw");
+
+    static void exchange(void* variable, void* made) noexcept {
+        using std::swap;
+        swap(*static_cast<V*>(variable), *static_cast<V*>(made));
+    }
+
+    static void release(void* made) noexcept { delete static_cast<V*>(made); }
+};
+
+// A variable of type V for a switch that stores a constant in it.
+template <typename V>
+struct ConstantOf : TargetBase<V> {
+    static void* make(const Given& given) { return new V(*static_cast<const V*>(given.constant)); }
+    static variant_t current(const void* /*variable*/) { return {}; }
+
+    static constexpr TargetKind kind{
+        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, false};
+};
 
 // A variable of type V for an option with values of type T.
 template <typename T, typename V>
-class TargetOf final : public Target {
+struct TargetOf : TargetBase<V> {
     using Element = typename VariableOf<V>::Element;
     static constexpr bool isVector = VariableOf<V>::isVector;
 
     static_assert(goesInto<T, Element>(),
                   "into() wants a variable of the type of the option, an optional or a vector of "
                   "it; for a switch a bool or an integer, for a text a std::string or a path");
-    static_assert(!goesInto<T, Element>() || std::is_nothrow_move_assignable_v<V>,
-                  "variables are written all or none: their assignment must not throw");
 
-public:
-    explicit TargetOf(V& variable) : variable_(variable) {}
-
-    void take(const Value* values, std::size_t count, const Value& last) override {
+    static void* make(const Given& given) {
         if constexpr (isVector) {
             V all;
-            all.reserve(count);
-            for (std::size_t i = 0; i < count; ++i) {
-                all.push_back(element(values[i]));
+            all.reserve(given.count);
+            for (std::size_t i = 0; i < given.count; ++i) {
+                all.push_back(elementOf<T, Element>(given.values[i]));
             }
-            ready_ = std::move(all);
+            return new V(std::move(all));
         } else if constexpr (std::is_same_v<T, Switch> && !std::is_same_v<Element, bool>) {
-            ready_ = static_cast<Element>(count);
+            return new V(static_cast<Element>(given.count));
         } else {
-            ready_ = element(last);
+            return new V(elementOf<T, Element>(given.last));
         }
     }
 
-    void write() noexcept override {
-        if (ready_) {
-            variable_ = *std::move(ready_);
-            ready_.reset();
-        }
-    }
-
-    void drop() noexcept override { ready_.reset(); }
-
-    variant_t current() const override {
+    static variant_t current(const void* variable) {
+        const V& held = *static_cast<const V*>(variable);
         if constexpr (isVector || std::is_same_v<T, Switch> || !isWritten<T>) {
             return {};
         } else if constexpr (std::is_same_v<V, Element>) {
-            return shown(variable_);
+            return shown(held);
         } else {
-            return variable_ ? shown(*variable_) : variant_t();
+            return held ? shown(*held) : variant_t();
         }
     }
 
-    const void* address() const noexcept override { return &variable_; }
-    bool takesMany() const noexcept override { return isVector; }
-
-private:
     static variant_t shown(const Element& value) {
         if constexpr (isText<T>) {
             return plainValue(value);
@@ -111,16 +129,8 @@ private:
         }
     }
 
-    static Element element(const Value& value) {
-        if constexpr (isText<T> || std::is_same_v<T, Switch>) {
-            return readAgain<Element>(value);
-        } else {
-            return readAgain<T>(value);
-        }
-    }
-
-    V& variable_;
-    std::optional<V> ready_;
+    static constexpr TargetKind kind{
+        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, isVector};
 };
 
 }  // namespace zarn_3_3::internal

@@ -42,11 +42,13 @@ constexpr das_variant_type_t typeCode() {
         return vtNull;
     } else if constexpr (std::is_same_v<T, bool>) {
         return vtBool;
-    } else if constexpr (std::is_floating_point_v<T>) {
-        return vtDouble;
     } else if constexpr (isNumber<T>) {
-        constexpr bool isWide = sizeof(T) > sizeof(int);
-        return std::is_signed_v<T> ? (isWide ? vtS64 : vtS32) : (isWide ? vtU64 : vtU32);
+        using P = Plain<T>;
+        return std::is_same_v<P, double>      ? vtDouble
+               : std::is_same_v<P, int>       ? vtS32
+               : std::is_same_v<P, unsigned>  ? vtU32
+               : std::is_same_v<P, long long> ? vtS64
+                                              : vtU64;
     } else {
         return vtString;
     }

@@ -1,0 +1,195 @@
+#include "modern/parse_watch.h"
+
+#include <algorithm>
+#include <new>
+#include <utility>
+
+#include "modern/failures.h"
+#include "modern/messages.h"
+#include "modern/vocabulary.h"
+#include "parser/messages.h"
+#include "recognizers/messages.h"
+#include "text/filled.h"
+#include "zarn/option.h"
+#include "zarn/typed/parser.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+// Hears what is parsed aside for one item.
+class Asking final : public EventHandler {
+public:
+    Asking(ParseWatch& watch, const ItemRecord& item) : watch_(watch), item_(item) {}
+
+    bool onValueParse(const char* /*name*/, const Value& value) override {
+        return watch_.accepts(item_, value);
+    }
+
+private:
+    ParseWatch& watch_;
+    const ItemRecord& item_;
+};
+
+// Whether a text that is no number of its type looks like one, and so is beyond its bounds.
+bool looksLikeNumber(std::string_view text) {
+    text.remove_prefix(text.find_first_not_of("+-") == 1 ? 1 : 0);
+    return !text.empty() && text[0] >= '0' && text[0] <= '9' &&
+           text.find_first_not_of("0123456789.e+-") == std::string_view::npos;
+}
+
+}  // namespace
+
+bool ParseWatch::isNeeded() const {
+    const auto& items = vocabulary_.items();
+    return routesPositionals() || std::any_of(items.begin(), items.end(), [](const auto& item) {
+               return item->isChecked();
+           });
+}
+
+bool ParseWatch::accepts(const ItemRecord& item, const Value& value) {
+    reason_.clear();
+    if ((vocabulary_.habits() & loneDash) != 0 && item.type == vtString &&
+        std::string_view(value.text) == "-") {
+        return true;  // the standard input
+    }
+    if (!item.holds(item.replaced(value), false, reason_)) {
+        told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
+        return false;
+    }
+    return true;
+}
+
+int ParseWatch::parseAside(const ItemRecord& item,
+                           const std::string& argument,
+                           const std::string& typed,
+                           ParseResult& result,
+                           std::string& error) {
+    BasicParser parser(vocabulary_.flags() | flagUnknownIsError);
+    item.configure(parser.option(item.allNames().c_str(), "", item.type, ""));
+    Asking asking(*this, item);
+    if (!parser.addHandler(&asking)) {
+        throw std::bad_alloc();
+    }
+    const char* const arguments[] = {"", argument.c_str()};
+    const int code = parser.parseArgsVector(2, arguments, &result);
+    refine(parser.failure(), told_.get());
+    told_ = std::move(parser.failure());
+    if (Failure* const failure = told_.get()) {
+        failure->index = 0;
+        retype(*failure, typed);
+    }
+    error = code == resultOk ? "" : explained(parser.getErrorDesc());
+    const std::size_t quoted = error.find(argument);
+    if (quoted != std::string::npos) {
+        error.replace(quoted, argument.size(), typed);
+    }
+    return code;
+}
+
+void ParseWatch::begin(const ParseResult& result, std::vector<Aside> asides) {
+    reason_.clear();
+    instead_.clear();
+    told_.clear();
+    asides_ = std::move(asides);
+    const auto& positionals = vocabulary_.positionals();
+    const StoredOption* const given =
+        positionals.empty() ? nullptr : result.find(positionals[0]->primaryName());
+    positionalCount_ = given == nullptr ? 0 : given->values.size();
+}
+
+std::string ParseWatch::explained(std::string message) const {
+    if (!instead_.empty()) {
+        return instead_;
+    }
+    if (!reason_.empty()) {
+        return messages::withReason(message, reason_);
+    }
+    if (const ItemRecord* const action = actionWithoutPlace(message)) {
+        return messages::takesNo(*action, *vocabulary_.positionals().front());
+    }
+    // A number that does not fit: "...: Option 'jobs' can not parse '99999999999' value, ..."
+    constexpr std::string_view beforeName = "': Option '";
+    constexpr std::string_view beforeValue = "' can not parse '";
+    const std::size_t name = message.find(beforeName);
+    const std::size_t end = message.find(beforeValue);
+    if (end == std::string::npos || name >= end) {
+        return message;
+    }
+    const std::size_t first = name + beforeName.size();
+    const ItemRecord* const item =
+        vocabulary_.find(std::string_view(message).substr(first, end - first));
+    const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
+    if (item != nullptr && item->isBounded() &&
+        looksLikeNumber(value.substr(0, value.find('\'')))) {
+        message.pop_back();  // its full stop
+        return messages::withReason(message, item->boundsText());
+    }
+    return message;
+}
+
+// Nobody has typed the name of a positional item: it is told otherwise that an action takes none.
+const ItemRecord* ParseWatch::actionWithoutPlace(const std::string& message) const {
+    const auto& positionals = vocabulary_.positionals();
+    if (positionals.empty() || !positionals.front()->isModifier()) {
+        return nullptr;
+    }
+    const auto& items = vocabulary_.items();
+    const auto action = std::find_if(items.begin(), items.end(), [&](const auto& item) {
+        return item->role == Role::action &&
+               message == messages::actionRefusesOption(item->primaryName(),
+                                                        positionals.front()->primaryName());
+    });
+    return action != items.end() ? action->get() : nullptr;
+}
+
+bool ParseWatch::routesPositionals() const {
+    const auto& positionals = vocabulary_.positionals();
+    return positionals.size() > 1 || (positionals.size() == 1 && !positionals.front()->takesMany());
+}
+
+bool ParseWatch::onValueParse(const char* name, const Value& value) {
+    const ItemRecord* const item = vocabulary_.find(name);
+    if (item == nullptr) {
+        return true;
+    }
+    const bool isRouted = routesPositionals() && item == vocabulary_.positionals().front();
+    return isRouted ? takePositional(value) : accepts(*item, value);
+}
+
+bool ParseWatch::takePositional(const Value& value) {
+    const std::size_t last = vocabulary_.positionals().size() - 1;
+    const std::size_t number = positionalCount_++;
+    const ItemRecord& item = *vocabulary_.positionals()[std::min(number, last)];
+    if (number > last && !item.takesMany()) {
+        instead_ = messages::unexpectedArgument(value.text);
+        told_.make(unexpectedArgument, {}, value.text, "", value.text);
+        return false;
+    }
+    if (last == 0 || !item.needsOwnParse()) {
+        return accepts(item, value) || refusePositional(item, value);
+    }
+    const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
+    std::string error;
+    const int code = parseAside(item, argument, value.text, positionalAside(item), error);
+    instead_ = error;
+    return code == resultOk;
+}
+
+// The plain message would name the item under which the arguments are stored.
+bool ParseWatch::refusePositional(const ItemRecord& item, const Value& value) {
+    instead_ = messages::withReason(
+        messages::vetoedValue(value.text, item.primaryName(), value.text), reason_);
+    return false;
+}
+
+ParseResult& ParseWatch::positionalAside(const ItemRecord& item) {
+    for (const Aside& each : asides_) {
+        if (each.item == &item && each.origin == Origin::commandLine) {
+            return *each.result;
+        }
+    }
+    asides_.push_back({&item, Origin::commandLine, std::make_unique<ParseResult>()});
+    return *asides_.back().result;
+}
+
+}  // namespace zarn_3_3::internal

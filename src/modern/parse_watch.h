@@ -1,0 +1,77 @@
+// What the modern face does while the plain parser is at work.
+
+#ifndef ZARN_MODERN_PARSE_WATCH_H
+#define ZARN_MODERN_PARSE_WATCH_H
+
+#include <cstddef>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "modern/item_record.h"
+#include "recognizers/failure.h"
+#include "result/parse_result.h"
+#include "zarn/event_handler.h"
+#include "zarn/typed/engine.h"
+
+namespace zarn_3_3::internal {
+
+class Vocabulary;
+
+// Values of an item that were parsed apart from the command line: from the environment, or for one
+// of several positional items.
+struct Aside {
+    const ItemRecord* item;
+    Origin origin;
+    std::unique_ptr<ParseResult> result;
+};
+
+// Asks the checks, and gives the arguments of several positional items to each.
+class ParseWatch final : public EventHandler {
+public:
+    explicit ParseWatch(const Vocabulary& vocabulary) : vocabulary_(vocabulary) {}
+
+    // Whether there is anything to listen for.
+    bool isNeeded() const;
+
+    // `asides`: what was parsed aside for what the result holds already.
+    void begin(const ParseResult& result, std::vector<Aside> asides);
+    std::vector<Aside> end() { return std::move(asides_); }
+
+    // What is known of a value that was refused in this parse.
+    FailureNote& told() { return told_; }
+
+    // The message of a failed parse, and what is known beyond it.
+    std::string explained(std::string message) const;
+
+    bool accepts(const ItemRecord& item, const Value& value);
+
+    // Parses the argument, "--name=text", with a parser that knows this item alone, so that the
+    // text is taken as a typed one is. A code of a failure leaves its text in `error`, which quotes
+    // `typed` in place of the argument.
+    int parseAside(const ItemRecord& item,
+                   const std::string& argument,
+                   const std::string& typed,
+                   ParseResult& result,
+                   std::string& error);
+
+    bool onValueParse(const char* name, const Value& value) override;
+
+private:
+    const ItemRecord* actionWithoutPlace(const std::string& message) const;
+    bool routesPositionals() const;
+    bool takePositional(const Value& value);
+    bool refusePositional(const ItemRecord& item, const Value& value);
+    ParseResult& positionalAside(const ItemRecord& item);
+
+    const Vocabulary& vocabulary_;
+    std::string reason_;   // why a value was refused, to be put behind the message
+    std::string instead_;  // a message in place of the plain one
+    FailureNote told_;     // beyond what the plain parser notes
+    std::size_t positionalCount_ = 0;
+    std::vector<Aside> asides_;
+};
+
+}  // namespace zarn_3_3::internal
+
+#endif  // ZARN_MODERN_PARSE_WATCH_H

@@ -1,0 +1,106 @@
+#include "modern/writing.h"
+
+#include <algorithm>
+#include <string>
+#include <utility>
+#include <vector>
+
+#include "modern/behind_parse.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+// Values that are made, each for the variable of an item.
+class Writing {
+public:
+    Writing() = default;
+    Writing(const Writing&) = delete;
+    Writing& operator=(const Writing&) = delete;
+    ~Writing() {
+        // Backwards, since some may have gone into the same variable.
+        for (auto each = made_.rbegin(); each != made_.rend(); ++each) {
+            if (isUndone_) {
+                exchange(*each);
+            }
+            each->item->target->release(each->value);
+        }
+    }
+
+    void make(const ItemRecord& item, const StoredOutcome& outcome) {
+        all_.clear();
+        const Found found = outcome.find(item, item.takesMany() ? &all_ : nullptr);
+        if (found.count == 0 || (found.origin == Origin::byDefault && item.showsTarget)) {
+            return;
+        }
+        const void* const constant = item.extras().constant.value;
+        mayShare_ = mayShare_ || constant != nullptr;
+        made_.push_back({
+            &item, nullptr, {found.origin, found.last.position}
+        });
+        made_.back().value = item.target->make({all_.data(), found.count, found.last, constant});
+    }
+
+    // Undone at the end, unless it is kept.
+    void write() {
+        if (mayShare_) {  // what counts most goes last
+            std::sort(made_.begin(), made_.end(), [](const Made& a, const Made& b) {
+                return a.rank < b.rank;
+            });
+        }
+        isUndone_ = true;
+        std::for_each(made_.begin(), made_.end(), &exchange);
+    }
+
+    void keep() { isUndone_ = false; }
+
+private:
+    struct Made {
+        const ItemRecord* item;
+        void* value;
+        std::pair<Origin, int> rank;
+    };
+
+    static void exchange(const Made& made) noexcept {
+        made.item->target->exchange(made.item->variable, made.value);
+    }
+
+    std::vector<Made> made_;
+    std::vector<Value> all_;
+    bool mayShare_ = false;
+    bool isUndone_ = false;
+};
+
+// Why the line is refused; empty when it is not.
+std::string refusedLine(const StoredOutcome& outcome) {
+    std::string reason;
+    const Check* check = isAloneGiven(outcome) ? nullptr : outcome.vocabulary().lineChecks();
+    while (check != nullptr && check->holds(Value(), reason)) {
+        check = check->next;
+    }
+    return reason;
+}
+
+}  // namespace
+
+void writeVariables(StoredOutcome& outcome) {
+    if (outcome.code != resultOk) {
+        return;
+    }
+    Writing writing;
+    for (const auto& item : outcome.vocabulary().items()) {
+        if (item->target != nullptr) {
+            writing.make(*item, outcome);
+        }
+    }
+    writing.write();
+    std::string refused = refusedLine(outcome);
+    if (refused.empty()) {
+        writing.keep();
+    } else {
+        BasicParser& plain = outcome.vocabulary().plain();
+        plain.failure().make(lineRefused, {}, "", "", "");
+        outcome.end(plain.ended(resultRuleBroken), std::move(refused));
+    }
+}
+
+}  // namespace zarn_3_3::internal

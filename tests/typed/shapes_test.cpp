@@ -1,0 +1,116 @@
+// Constants, optional values, checks of a whole line and defaults that are shown.
+
+#include <gmock/gmock.h>
+
+#include <string>
+
+#include "typed/tool_under_test.h"
+
+enum class Order { plain, numeric, random };
+
+template <>
+struct zarn::Names<Order> {
+    static constexpr const char* table[] = {"plain", "numeric", "random"};
+};
+
+namespace zarn_3_3 {
+namespace {
+
+struct Sorting {
+    Order order = Order::plain;
+    std::string color = "never";
+    int depth = 3;
+    int jobs = 0;
+    std::string list() const {
+        return Names<Order>::table[static_cast<int>(order)] + (" " + color) + " " +
+               std::to_string(depth);
+    }
+};
+
+void declareSorting(Parser& parser, Sorting& sorting) {
+    parser.declare({
+        option<Order>("sort", "By what.").into(sorting.order),
+        option("numeric-sort,n", "Numbers.").stores(sorting.order, Order::numeric),
+        option("random-sort,R", "Shuffle.").stores(sorting.order, Order::random),
+        option("unique,u", "Drop equal lines."),
+        option<std::string>("color,c", "Colours.")
+            .allow({"always", "never", "auto"})
+            .withoutValue("always")
+            .into(sorting.color),
+        option<int>("depth,d", "How deep.").withoutValue(9).into(sorting.depth),
+        option<int>("jobs", "How many.").atLeast(1).into(sorting.jobs),
+        option("about", "What it is.").alone(),
+        positional("FILE", "What to sort."),
+    });
+    parser.check([&sorting] { return sorting.order != Order::random || sorting.depth < 9; },
+                 "what is shuffled is not that deep");
+}
+
+struct SortingRow {
+    Line line;
+    unsigned habits;
+    std::string expected;  // the variables, and behind them the message
+};
+
+TEST(Shapes, OfOptionsBeyondOneValueEach) {
+    const SortingRow rows[] = {
+        {{"-n"},                       0,                       "numeric never 3"                                },
+        {{"-n", "-R"},                 0,                       "random never 3"                                 },
+        {{"-R", "--sort=plain"},       0,                       "plain never 3"                                  },
+        {{"--sort=plain", "-R", "-n"}, 0,                       "numeric never 3"                                },
+        {{"--color", "never"},         0,                       "plain always 3"                                 },
+        {{"--col", "--color=auto"},    0,                       "plain auto 3"                                   },
+        {{"--color=x"},
+         0,                                                     "plain never 3 Value validation problem in argument '--color=x': Option 'color' does not "
+         "allow value 'x'. Possible values follows: 'always', 'never', 'auto'"                        },
+        {{"-nd", "4"},                 bundles,                 "numeric never 9"                                },
+        {{"-d4n"},
+         unixHabits,                                            "plain never 3 Value validation problem in argument '-d4n': Option "
+         "'depth' can not parse '4n' value, requires a type 'integer' here."                 },
+        {{"-d4", "-c"},                unixHabits,              "plain always 4"                                 },
+        {{"-R", "-d"},                 0,                       "plain never 3 what is shuffled is not that deep"},
+        {{"-R", "-d", "--about"},      0,                       "random never 9"                                 },
+        {{"-nu"},                      unixHabits,              "numeric never 3"                                },
+        {{"-nu"},                      unixHabits | shortNames, "numeric never 3"                                },
+        {{"-un"},                      unixHabits | shortNames, "numeric never 3"                                },
+        {{"-ra"},                      unixHabits,              "random never 3"                                 },
+        {{"-ra"},                      unixHabits | shortNames, "plain never 3 Unknown option: -ra"              },
+        {{"-sort=random"},             shortNames,              "plain never 3 Unknown option: -sort=random"     },
+        {{"--sort=random"},            shortNames,              "random never 3"                                 },
+    };
+    for (const SortingRow& row : rows) {
+        Sorting sorting;
+        Parser parser;
+        declareSorting(parser, sorting);
+        parser.accept(row.habits);
+        const Result result = parser.parse(row.line.argc(), row.line.argv());
+        EXPECT_EQ(sorting.list() + (result ? "" : " ") + result.text(), row.expected);
+    }
+}
+
+TEST(Shapes, ShowDefaultsThatTheyWouldTake) {
+    Sorting sorting;
+    Parser parser;
+    parser.showDefaults();
+    declareSorting(parser, sorting);
+    const std::string help = parser.help();
+    for (const char* shown : {"(plain)", "(never)", "(3)"}) {
+        EXPECT_THAT(help, testing::HasSubstr(shown));
+    }
+    EXPECT_THAT(help, testing::Not(testing::HasSubstr("(0)")));
+    EXPECT_TRUE(parser.parse(0, nullptr));
+    EXPECT_EQ(sorting.list(), "plain never 3");
+}
+
+TEST(Shapes, SetVariablesBackWhenACheckOfTheLineThrows) {
+    Sorting sorting;
+    Parser parser;
+    declareSorting(parser, sorting);
+    parser.check([]() -> bool { throw std::runtime_error("no"); }, "");
+    const Line line{"-n", "-R"};
+    EXPECT_THROW(static_cast<void>(parser.parse(line.argc(), line.argv())), std::runtime_error);
+    EXPECT_EQ(sorting.list(), "plain never 3");
+}
+
+}  // namespace
+}  // namespace zarn_3_3

@@ -94,7 +94,7 @@ TEST(Shapes, ShowDefaultsThatTheyWouldTake) {
     parser.showDefaults();
     declareSorting(parser, sorting);
     const std::string help = parser.help();
-    for (const char* shown : {"(plain)", "(never)", "(3)"}) {
+    for (const char* shown : {"(default plain)", "(default never)", "(default 3)"}) {
         EXPECT_THAT(help, testing::HasSubstr(shown));
     }
     EXPECT_THAT(help, testing::Not(testing::HasSubstr("(0)")));

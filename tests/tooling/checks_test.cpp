@@ -174,6 +174,26 @@ TEST(Checks, AreSilentAboutWhatIsIgnored) {
     EXPECT_STREQ(findings, "");
 }
 
+TEST(Checks, AnswerTheQuestion) {
+    PlainTool tool;
+    addOption(tool, "a,b,c,d"), addOption(tool, "");
+    const ToolInfo info{sizeof info, nullptr, nullptr, nullptr};
+    const char* answer = nullptr;
+    const auto ask = [&](const char* question) {
+        const char* const line[] = {"tool", "--zarn-answer", question};
+        EXPECT_EQ(answerQuestion(tool.parser, &info, 3, line, &answer), questionAnswered);
+        return std::string(answer);
+    };
+    const char* all = nullptr;
+    checkVocabulary(tool.parser, nullptr, &all);
+    EXPECT_EQ(ask("check"), all);
+    EXPECT_EQ(ask("check:refused,nameless"), "");
+    EXPECT_EQ(answerQuestion(tool.parser, nullptr, 0, nullptr, &answer), toolingFailed);
+    EXPECT_EQ(answerQuestion(tool.parser, &info, 1, nullptr, &answer), toolingFailed);
+    EXPECT_EQ(nameValue(tool.parser, nullptr, "X"), toolingFailed);
+    EXPECT_EQ(nameValue(tool.parser, "nowhere", "X"), toolingFailed);
+}
+
 TEST(Checks, NeedTheirMemoryAndNothingElse) {
     EXPECT_EQ(checkVocabulary(nullptr, "", nullptr), toolingFailed);
     PlainTool tool;

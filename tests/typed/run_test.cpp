@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <fstream>
 #include <utility>
 
 #include "support/failing_new.h"
@@ -136,6 +137,34 @@ TEST_F(Run, TellsWhyItEnds) {
                   "topics:\n    list   Look.\n    pack   Make an archive.\n");
     const OnValue failing(parser, [](const char*, const Value&) { throw std::bad_alloc(); });
     expectFailure({"--jobs=3"}, exitInternal, "sonde: std::bad_alloc\n");
+}
+
+TEST(RunOf, AToolTellsWhatWasProbablyMeant) {
+    Parser parser({"tool"});
+    parser->action("list", "", vtNull, "");  // plainly
+    parser.declare({action("pack", ""),
+                    option<int>("level", ""),
+                    option("lever", ""),
+                    option("levee", ""),
+                    positional("file", "pack", "").named("FILE")});
+    parser.readOptionFiles("");
+    const std::string path = testing::TempDir() + "typed_run.options";
+    std::ofstream(path) << "--pack\n--leve3=2\n";
+    const std::string named = "--option-file=" + path;
+    const struct {
+        Line line;
+        std::string error;
+    } rows[] = {
+        {{"--lisd"},             "Unknown option: --lisd. Did you mean '--list'?"                },
+        {{named.c_str()},
+         path + ":2: Unknown option: --leve3=2. Did you mean '--level=2', '--lever=2' or "
+                "'--levee=2'?"                                                                   },
+        {{"--list", "--leveer"}, "Unknown option: --leveer. Did you mean '--lever' or '--levee'?"},
+        {{"--list", "a.txt"},    "Action '--list' takes no argument 'FILE'"                      },
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(run(parser, row.line).error, "tool: " + row.error + "\n");
+    }
 }
 
 TEST(RunOf, AToolLeavesToItWhatItHasItself) {

@@ -21,6 +21,7 @@
 #include "modern/writing.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
+#include "text/visible.h"
 #include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {

@@ -50,7 +50,7 @@ private:
         if (item.kind == kindAction) {
             place_.given.insert(item.primaryName());
         }
-        if (needsValue(item) && cut.value.empty()) {
+        if (waitsForValue(item) && cut.value.empty()) {
             place_.waiting = match.item;
         }
         return true;
@@ -74,6 +74,8 @@ NamedItem::NamedItem(std::string_view name, const RegisteredOptionStorage& regis
     std::string_view form;
     isAmbiguous = resolveName(name, registry, item, form) == Matches::several;
 }
+
+bool waitsForValue(const OptionDescription& item) { return needsValue(item) && !item.mayLackValue; }
 
 WordPlace placeBehind(const std::vector<std::string>& words, const BasicParser& parser) {
     LineWalk walk(parser);

@@ -14,6 +14,7 @@
 namespace zarn_3_3 {
 
 class BasicParser;
+class OptionDescription;
 class RegisteredOptionStorage;
 
 namespace internal {
@@ -37,6 +38,9 @@ struct NamedItem {
     std::size_t item = NameIndex::none;
     bool isAmbiguous = false;
 };
+
+// Whether the value is the next word where none is attached.
+bool waitsForValue(const OptionDescription& item);
 
 // The place behind these words, which are read as a parse reads them. Words that it would refuse
 // are passed over: their user may come back to them. Throws std::bad_alloc.

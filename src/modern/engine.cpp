@@ -21,6 +21,8 @@
 #include "modern/writing.h"
 #include "parser/messages.h"
 #include "text/number_text.h"
+#include "text/visible.h"
+#include "vocabulary/checks.h"
 #include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
@@ -192,6 +194,13 @@ void addRule(Vocabulary* vocabulary, RuleKind kind, const char* const* names, st
     rule.kind = kind;
     rule.names.assign(names, names + count);
     vocabulary->add(std::move(rule));
+}
+
+std::string findingsIn(Vocabulary* vocabulary, const char* ignored) {
+    vocabulary->settle();
+    Findings findings(ignored == nullptr ? "" : ignored);
+    checkVocabulary(vocabulary->plain(), findings);
+    return findings.text();
 }
 
 std::string pageOf(Vocabulary* vocabulary, const HelpStyle& style) {

@@ -5,6 +5,7 @@
 #include <string_view>
 
 #include "text/filled.h"
+#include "text/visible.h"
 #include "vocabulary/help_in_style.h"
 #include "zarn/typed/declaration.h"
 #include "zarn/typed/parser.h"
@@ -23,13 +24,6 @@ std::uint32_t numberFrom(const char* text) {
     std::uint32_t number = 0;
     const auto read = std::from_chars(digits.data(), digits.data() + digits.size(), number);
     return read.ec == std::errc() && read.ptr == digits.data() + digits.size() ? number : 0;
-}
-
-void appendEscaped(std::string& text, unsigned char byte) {
-    constexpr char digits[] = "0123456789abcdef";
-    text.append("\\x");
-    text += digits[byte / 16];
-    text += digits[byte % 16];
 }
 
 Answer answerFor(const ItemRecord& item,
@@ -154,25 +148,6 @@ void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept {
     if (facts.isTerminal && !isDumb && isEmpty(facts.noColor)) {
         style.flags |= helpEmphasized;
     }
-}
-
-std::string visible(const std::string& text) {
-    std::string shown;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const auto byte = static_cast<unsigned char>(text[i]);
-        const auto next = static_cast<unsigned char>(text[i + 1]);        // the NUL at the end
-        const bool isWide = byte == 0xc2 && next >= 0x80 && next < 0xa0;  // U+0080 to U+009F
-        if (isWide || byte < 0x20 || byte == 0x7f) {
-            appendEscaped(shown, byte);
-            if (isWide) {
-                appendEscaped(shown, next);
-                ++i;
-            }
-        } else {
-            shown += text[i];
-        }
-    }
-    return shown;
 }
 
 }  // namespace zarn_3_3::internal

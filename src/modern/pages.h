@@ -35,9 +35,6 @@ std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line);
 // The help that the style asks for; for a topic that is unknown a text that says so.
 std::string pageOf(Vocabulary& vocabulary, const std::string& tool, HelpStyle style);
 
-// The text with its control characters written as "\x1b".
-std::string visible(const std::string& text);
-
 }  // namespace zarn_3_3::internal
 
 #endif  // ZARN_MODERN_PAGES_H

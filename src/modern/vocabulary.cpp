@@ -99,7 +99,8 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
 // What help shows of the item beyond its plain declaration.
 void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
     RegisteredOptionStorage& registry = plain_->vocabulary();
-    registry.expect(index, item.isRequired, !item.takesMany());
+    const bool mayLackValue = item.takesValue() && !item.needsValue();
+    registry.expect(index, item.isRequired, !item.takesMany(), mayLackValue);
     if (*item.shownName != '\0') {
         registry.nameValue(index, item.shownName);
     }

@@ -35,7 +35,8 @@ void checkItem(std::size_t number, const RegisteredOptionStorage& registry, Find
     checkValues(item, findings);
     // Of the modern face the first one takes arguments for all.
     const std::size_t first = registry.firstPositional();
-    if (item.isPositional && first != number && !registry.takesAnyText(first)) {
+    const bool isSecond = first < number && !registry.takesAnyText(first);
+    if (item.isPositional && isSecond) {
         findings.error("second-positional",
                        item.primaryName(),
                        messages::secondPositional(registry.items()[first].primaryName()));
@@ -53,10 +54,10 @@ void checkGroup(const std::set<std::string>& group,
     for (const std::string& name : group) {
         const OptionDescription* const action = findAction(name, registry);
         if (action == nullptr) {
-            findings.error("unknown-in-group", names, messages::unknownInGroup(name));
+            findings.error("unknown-in-group", name, messages::unknownInGroup(names));
         } else if (action->primaryName() != name) {
             findings.error(
-                "action-synonym", names, messages::actionSynonym(name, action->primaryName()));
+                "action-synonym", name, messages::actionSynonym(name, action->primaryName()));
         }
     }
 }
@@ -68,7 +69,10 @@ void internal::checkVocabulary(const BasicParser& parser, Findings& findings) {
     auto refusal = registry.refusals().begin();
     const auto tellRefused = [&](std::size_t before) {
         for (; refusal != registry.refusals().end() && refusal->before <= before; ++refusal) {
-            findings.error("refused", refusal->names, reasonOf(*refusal, registry));
+            const std::string& names = refusal->names;
+            findings.error("refused",
+                           names.substr(0, names.find(',')),
+                           messages::declarationRefused(names, reasonOf(*refusal, registry)));
         }
     };
     for (std::size_t number = 0; number < registry.items().size(); ++number) {

@@ -1,8 +1,6 @@
 #include "vocabulary/description.h"
 
 #include <algorithm>
-#include <array>
-#include <charconv>
 #include <vector>
 
 #include "help/help_renderer.h"
@@ -10,6 +8,7 @@
 #include "parser/option_file_walk.h"
 #include "text/split.h"
 #include "vocabulary/json_writer.h"
+#include "vocabulary/value_words.h"
 
 namespace zarn_3_3 {
 
@@ -19,29 +18,6 @@ namespace {
 
 // Readers skip keys that they do not know, so that this rises only when one changes its meaning.
 constexpr int format = 1;
-
-const char* wordOf(das_variant_type_t type) {
-    switch (type) {
-        case vtNull:
-            return "switch";
-        case vtBool:
-            return "boolean";
-        case vtS32:
-            return "int32";
-        case vtU32:
-            return "uint32";
-        case vtS64:
-            return "int64";
-        case vtU64:
-            return "uint64";
-        case vtDouble:
-            return "double";
-        case vtString:
-            return "text";
-        default:
-            return "";
-    }
-}
 
 const char* wordOf(RefusalReason reason) {
     switch (reason) {
@@ -54,27 +30,6 @@ const char* wordOf(RefusalReason reason) {
         default:
             return "noMemory";
     }
-}
-
-// The shortest one that is read back as the same number.
-std::string exactText(double number) {
-    std::array<char, 32> text{};
-    return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
-}
-
-// As a user types it, in any locale: what is typed is what descriptions are compared by. What is no
-// number and no narrow text cannot be typed.
-std::string typedText(const variant_t& value) {
-    const auto type = value.type();
-    if (type == vtDouble) {
-        return exactText(value.get<double>());
-    }
-    if (type > vtDouble) {
-        return get_variant_value(value, "");
-    }
-    const bool isUnsigned = type % 2 != 0;  // see das_variant_type_t
-    return isUnsigned ? std::to_string(value.get<unsigned long long>())
-                      : std::to_string(value.get<long long>());
 }
 
 template <typename Texts>
@@ -124,7 +79,7 @@ void writeItem(JsonWriter& json, const BasicParser& parser, std::size_t number) 
     json.open('{');
     writeList(json, "names", item.names);
     json.text("kind", kindOf(item));
-    json.text("type", wordOf(item.type));
+    json.text("type", typeWord(item.type));
     json.text("help", item.description);
     json.text("section", section);
     json.flag("hidden", isSectionVisible(section, true));

@@ -4,6 +4,7 @@
 
 #include "text/filled.h"
 #include "text/split.h"
+#include "text/visible.h"
 
 namespace zarn_3_3::internal {
 
@@ -25,7 +26,7 @@ void Findings::add(CheckCode severity,
     const bool isIgnored =
         ignored_.count(std::string(id)) != 0 || ignored_.count(filled("{}:{}", {id, item})) != 0;
     if (!isIgnored) {
-        text_.append(filled("{} {} '{}': {}\n", {word, id, item, what}));
+        text_.append(visible(filled("{} {} '{}': {}", {word, id, item, what}))) += '\n';
         code_ = std::max(code_, severity);
     }
 }

@@ -69,7 +69,7 @@ void checkActions(const OptionDescription& item,
 }
 
 void checkTexts(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
-    const OptionDescription& item = registry.items()[number];
+    const OptionDescription& item = registry.asDeclared(number);
     if (item.description.empty() && isSectionVisible(registry.sectionKey(item), false)) {
         findings.warning("no-help", item.primaryName(), messages::noHelp);
     }

@@ -11,15 +11,17 @@
 namespace zarn_3_3::internal::messages {
 
 // Declarations that were refused; what was chained to one is lost.
+inline std::string declarationRefused(std::string_view names, std::string_view reason) {
+    return filled("the declaration of '{}' is lost: {}", {names, reason});
+}
 inline std::string refusedNameTaken(std::string_view name, std::string_view owner) {
-    return filled("the declaration is lost: '{}' already means '{}'", {name, owner});
+    return filled("'{}' already means '{}'", {name, owner});
 }
-constexpr const char* refusedTooManyNames = "the declaration is lost: it has more than three names";
+constexpr const char* refusedTooManyNames = "it has more than three names";
 inline std::string refusedThirdName(std::string_view name) {
-    return filled("the declaration is lost: its third name, '{}', is longer than two bytes",
-                  {name});
+    return filled("its third name, '{}', is longer than two bytes", {name});
 }
-constexpr const char* refusedNoMemory = "the declaration is lost: memory ran out";
+constexpr const char* refusedNoMemory = "memory ran out";
 
 // Names.
 constexpr const char* nameless = "the item has no name, so that nothing can be stored for it";
@@ -37,8 +39,8 @@ inline std::string nameClash(std::string_view form, std::string_view owner) {
                   {form, owner});
 }
 inline std::string negatedName(std::string_view name) {
-    return filled("the boolean '{}' is switched off by 'no-{}', which users read as twice not",
-                  {name, name});
+    return filled("'{}' switches the boolean off, as every name does that begins with 'no-'",
+                  {name});
 }
 inline std::string ownTie(std::string_view tie, std::string_view name, std::string_view other) {
     return filled("'{}' begins '{}' and '{}' and nothing else, and is refused as ambiguous",
@@ -47,14 +49,14 @@ inline std::string ownTie(std::string_view tie, std::string_view name, std::stri
 
 // Actions.
 inline std::string unknownAction(std::string_view action) {
-    return filled("there is no action '{}': the item is refused beside every action", {action});
+    return filled("there is no action '{}' that the item could go with", {action});
 }
 inline std::string actionSynonym(std::string_view synonym, std::string_view action) {
     return filled("'{}' is a synonym of the action '{}', which is known by its first name alone",
                   {synonym, action});
 }
-inline std::string unknownInGroup(std::string_view action) {
-    return filled("there is no action '{}' that could go with the others", {action});
+inline std::string unknownInGroup(std::string_view group) {
+    return filled("the group '{}' names it, and there is no such action", {group});
 }
 inline std::string secondPositional(std::string_view first) {
     return filled("the arguments go to '{}', which was declared before", {first});
@@ -63,8 +65,9 @@ inline std::string secondPositional(std::string_view first) {
 // Values.
 constexpr const char* defaultOnSwitch = "a switch has no value: its default is never seen";
 constexpr const char* defaultEmpty = "its default is empty: a query does not find it";
-inline std::string defaultType(std::string_view typeName) {
-    return filled("its default is no {}: a query answers something else", {typeName});
+inline std::string defaultType(std::string_view type) {
+    return filled("its default is no value of the type '{}': a query answers something else",
+                  {type});
 }
 inline std::string defaultNotAllowed(std::string_view text) {
     return filled("its default '{}' is none of the values that it allows", {text});
@@ -77,7 +80,7 @@ constexpr const char* deprecatedAlone =
     "without allowed values everything is accepted, and nobody is warned";
 
 // Texts.
-constexpr const char* noHelp = "it has no description: help leaves it out";
+constexpr const char* noHelp = "it has no description: help has nothing to say of it";
 constexpr const char* notUtf8 =
     "one of its texts is not UTF-8: help and description show it broken";
 

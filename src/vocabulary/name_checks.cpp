@@ -1,6 +1,7 @@
 // Mistakes in the names of an item.
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -72,7 +73,8 @@ void checkClashes(std::size_t number, const RegisteredOptionStorage& registry, F
     const OptionDescription& item = registry.items()[number];
     for (const std::string& form : formsOf(item)) {
         const std::size_t owner = registry.names().first(form);
-        if (owner != number) {
+        // What came behind the next declaration is no name, and belongs to nobody.
+        if (owner != number && owner != NameIndex::none) {
             findings.error("name-clash",
                            item.primaryName(),
                            messages::nameClash(form, registry.items()[owner].primaryName()));
@@ -80,19 +82,27 @@ void checkClashes(std::size_t number, const RegisteredOptionStorage& registry, F
     }
 }
 
-// A name that begins another one is typed in full, and works.
+// What two names of an item share and only its names begin with. A name that begins another one is
+// typed in full, and works; empty then.
+std::string_view tieOf(std::size_t number,
+                       std::string_view first,
+                       std::string_view second,
+                       const RegisteredOptionStorage& registry) {
+    const std::string_view tie = commonBeginning(first, second);
+    const bool isName = registry.names().first(tie) != NameIndex::none;
+    return !isName && belongsTo(number, tie, registry) ? tie : "";
+}
+
+// Each once.
 void checkTies(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
     const OptionDescription& item = registry.items()[number];
-    const Names& names = item.names;
-    for (std::size_t first = 0; first < names.size(); ++first) {
-        for (std::size_t second = first + 1; second < names.size(); ++second) {
-            const std::string_view tie = commonBeginning(names[first], names[second]);
-            const bool isTie =
-                !tie.empty() && tie.size() < std::min(names[first].size(), names[second].size());
-            if (isTie && belongsTo(number, tie, registry)) {
-                findings.warning("own-tie",
-                                 item.primaryName(),
-                                 messages::ownTie(tie, names[first], names[second]));
+    std::set<std::string_view> told{""};
+    for (auto first = item.names.begin(); first != item.names.end(); ++first) {
+        for (auto second = first + 1; second != item.names.end(); ++second) {
+            const std::string_view tie = tieOf(number, *first, *second, registry);
+            if (told.insert(tie).second) {
+                findings.warning(
+                    "own-tie", item.primaryName(), messages::ownTie(tie, *first, *second));
             }
         }
     }

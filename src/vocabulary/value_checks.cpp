@@ -1,11 +1,13 @@
 // Mistakes in the values of an item: its default, and those that it allows.
 
 #include <algorithm>
+#include <cmath>
 #include <string>
 
 #include "options/registered_option_storage.h"
 #include "vocabulary/checks.h"
 #include "vocabulary/messages.h"
+#include "vocabulary/value_words.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -14,26 +16,55 @@ bool isText(const variant_t& value) {
     return value.type() == vtString || value.type() == vtStringRef;
 }
 
-// As what it is, which need not be what its item takes.
-std::string textOf(const variant_t& value) {
-    OptionDescription taking;
-    taking.type = isText(value) ? vtString : value.type();
-    return taking.toString(value);
+bool isNegative(const variant_t& value) {
+    const bool isSigned = value.type() % 2 == 0;  // see das_variant_type_t
+    return isSigned && value.get<long long>() < 0;
 }
 
-// Whether a user who types its text gives this value. A real number has more digits than its text.
-bool isReadBack(const OptionDescription& item, const variant_t& value) {
-    if (item.type == vtDouble) {
-        return !isText(value) && value.type() != vtNull;
+// Whether a whole number stays what it is when it is read as a T.
+template <typename T>
+bool isKeptAs(const variant_t& value) {
+    const variant_t read(value.get<T>());
+    return read == value && isNegative(read) == isNegative(value);
+}
+
+// Whether a value can be read as the type of its item without becoming another one.
+bool isOfType(das_variant_type_t type, const variant_t& value) {
+    if (type == vtString || value.type() > vtDouble) {
+        return type == vtString && isText(value);
     }
-    return isText(value) == (item.type == vtString) &&
-           item.fromString(textOf(value), TextLocale::classic) == value;
+    if (type == vtDouble || value.type() == vtDouble) {
+        return type == vtDouble;
+    }
+    switch (type) {
+        case vtBool:
+            return isKeptAs<bool>(value);
+        case vtS32:
+            return isKeptAs<int>(value);
+        case vtU32:
+            return isKeptAs<unsigned>(value);
+        case vtS64:
+            return isKeptAs<long long>(value);
+        case vtU64:
+            return isKeptAs<unsigned long long>(value);
+        default:
+            return false;
+    }
+}
+
+// No text is read as infinite.
+bool isInfinite(const variant_t& value) {
+    return value.type() == vtDouble && !std::isfinite(value.get<double>());
 }
 
 bool isUsable(const OptionDescription& item, const variant_t& value) {
-    const std::string text = textOf(value);
+    const std::string text = typedText(value);
     const bool isCut = item.tokenizer != 0 && text.find(item.tokenizer) != std::string::npos;
-    return !text.empty() && !isCut && isReadBack(item, value);
+    return !text.empty() && !isCut && isOfType(item.type, value) && !isInfinite(value);
+}
+
+bool isEmpty(const variant_t& value) {
+    return value.type() == vtNull || (isText(value) && typedText(value).empty());
 }
 
 bool isAccepted(const OptionDescription& item, const variant_t& value) {
@@ -47,19 +78,19 @@ void checkDefault(const OptionDescription& item, Findings& findings) {
     const variant_t& value = item.defaultVal;
     if (item.type == vtNull) {
         findings.error("default-on-switch", name, messages::defaultOnSwitch);
-    } else if (value.type() == vtNull || textOf(value).empty()) {
+    } else if (isEmpty(value)) {
         findings.error("default-empty", name, messages::defaultEmpty);
-    } else if (!isReadBack(item, value)) {
-        findings.error("default-type", name, messages::defaultType(item.getTypeName()));
+    } else if (!isOfType(item.type, value)) {
+        findings.error("default-type", name, messages::defaultType(typeWord(item.type)));
     } else if (!isAccepted(item, value)) {
-        findings.error("default-not-allowed", name, messages::defaultNotAllowed(textOf(value)));
+        findings.error("default-not-allowed", name, messages::defaultNotAllowed(typedText(value)));
     }
 }
 
 void checkAllowed(const OptionDescription& item, const variant_t& value, Findings& findings) {
     if (!isUsable(item, value)) {
         findings.error(
-            "value-unusable", item.primaryName(), messages::valueUnusable(textOf(value)));
+            "value-unusable", item.primaryName(), messages::valueUnusable(typedText(value)));
     }
 }
 

@@ -106,6 +106,20 @@ TEST(Mistakes, AreNoneWhereItemsAreDeclaredPlainly) {
                  "Option '--plain' does not go with option '--other'");
 }
 
+TEST(Mistakes, ThatAreNoneOfTheDeclarationsAreFoundByACheck) {
+    int a = 0;
+    Parser parser;
+    parser.declare({option<int>("color,colour", "Help.").into(a), option("b", "")});
+    EXPECT_EQ(
+        parser.check(),
+        "warning own-tie 'color': 'colo' begins 'color' and 'colour' and nothing else, and is "
+        "refused as ambiguous\n"
+        "warning no-help 'b': it has no description: help has nothing to say of it\n");
+    EXPECT_EQ(parser.check("own-tie,no-help:b"), "");
+    parser.declare({option<int>("c", "Help.").into(a)});
+    EXPECT_THROW(parser.check(), std::logic_error);
+}
+
 TEST(Mistakes, LeaveTheVocabularyAsItWas) {
     int a = 0;
     Parser parser;

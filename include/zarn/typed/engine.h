@@ -242,6 +242,9 @@ ZARN_EXPORT void addRule(Vocabulary* vocabulary,
                          const char* const* names,
                          std::size_t count);
 
+// See checkVocabulary; `ignored` may be null.
+ZARN_EXPORT std::string findingsIn(Vocabulary* vocabulary, const char* ignored);
+
 // `style.tool` is not looked at: the vocabulary knows its tool.
 ZARN_EXPORT std::string pageOf(Vocabulary* vocabulary, const HelpStyle& style);
 ZARN_EXPORT void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept;

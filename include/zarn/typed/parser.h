@@ -124,6 +124,17 @@ public:
             new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
     }
 
+    // What checkVocabulary finds, one a line; for a test of the tool:
+    //
+    //     EXPECT_EQ(parser.check(), "");
+    //
+    // Mistakes are thrown as by the first parse.
+    //
+    // ignored  ids, or "id:item" for one item, separated by commas
+    std::string check(const char* ignored = "") const {
+        return internal::findingsIn(vocabulary_.get(), ignored);
+    }
+
     // One of these options must be given, and no other of them.
     void exactlyOne(std::initializer_list<const char*> names) {
         addRule(internal::RuleKind::exactlyOne, names.begin(), names.size());

@@ -50,7 +50,7 @@ private:
         if (item.kind == kindAction) {
             place_.given.insert(item.primaryName());
         }
-        if (needsValue(item) && cut.value.empty()) {
+        if (needsValue(item) && !item.isValueOptional && cut.value.empty()) {
             place_.waiting = match.item;
         }
         return true;

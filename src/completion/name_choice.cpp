@@ -125,7 +125,7 @@ bool NameChoice::addForm(std::size_t number, std::string_view form) {
         return false;
     }
     const OptionDescription& item = registry_.items()[number];
-    word += needsValue(item) ? "=" : "";
+    word += needsValue(item) && !item.isValueOptional ? "=" : "";
     found_.push_back({std::move(word), item.description});
     return true;
 }

@@ -50,8 +50,7 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
         items_.pop_back();
         throw;
     }
-    impliesValues_ =
-        impliesValues_ || (items_.back()->takesValue() && !items_.back()->needsValue());
+    impliesValues_ = impliesValues_ || items_.back()->hasOptionalValue();
     return *items_.back();
 }
 
@@ -99,7 +98,7 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
 // What help shows of the item beyond its plain declaration.
 void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
     RegisteredOptionStorage& registry = plain_->vocabulary();
-    registry.expect(index, item.isRequired, !item.takesMany());
+    registry.expect(index, item.isRequired, !item.takesMany(), item.hasOptionalValue());
     if (*item.shownName != '\0') {
         registry.nameValue(index, item.shownName);
     }

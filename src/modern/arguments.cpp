@@ -16,6 +16,14 @@ bool isAtArgument(CommandLine line, int index) {
     return index < line.argc && line.argv[index] != nullptr;
 }
 
+bool isNameAlone(const CutArgument& cut, const std::string& argument) {
+    return cut.name.data() + cut.name.size() == argument.data() + argument.size();
+}
+
+bool isEmptyValue(const CutArgument& cut, const std::string& argument) {
+    return cut.isOption && cut.value.empty() && !isNameAlone(cut, argument);
+}
+
 // The item whose value the next argument is; null when it is none.
 const ItemRecord* takesNext(const Vocabulary& vocabulary, const std::string& argument) {
     const CutArgument cut = cutArgument(argument);
@@ -93,11 +101,11 @@ private:
     // "--color", which is "--color=always". False when the argument is no option of this kind.
     bool addImplied(const std::string& argument) {
         const CutArgument cut = cutArgument(argument);
-        const bool isCut = cut.name.data() + cut.name.size() != argument.data() + argument.size();
         const bool isLong = !has(shortNames) || !isBundle(argument);
-        const ItemRecord* const item =
-            cut.isOption && !isCut && isLong ? vocabulary_.resolve(cut.name) : nullptr;
-        if (item == nullptr || !item->takesValue() || item->needsValue()) {
+        const ItemRecord* const item = cut.isOption && isNameAlone(cut, argument) && isLong
+                                           ? vocabulary_.resolve(cut.name)
+                                           : nullptr;
+        if (item == nullptr || !item->hasOptionalValue()) {
             return false;
         }
         words_.push_back({withImplied(argument, *item), argument});
@@ -129,7 +137,7 @@ private:
                 }
                 text.append("=").append(rest.substr(rest[0] == '=' ? 1 : 0));
                 rest = {};
-            } else if (item->takesValue() && !item->needsValue()) {
+            } else if (item->hasOptionalValue()) {
                 text = withImplied(text, *item);
             } else if (!rest.empty() && !has(bundles)) {
                 return false;
@@ -227,10 +235,10 @@ std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line) {
         if (argument.empty() && walk.waiting() == nullptr && !positionals.empty()) {
             return refuseEmpty(vocabulary, line, walk.index());
         }
-        const ItemRecord* const item = takesNext(vocabulary, argument);
-        const std::string_view name = cutArgument(argument).name;
-        const bool isCut = name.data() + name.size() != argument.data() + argument.size();
-        if (item != nullptr && isCut) {
+        const CutArgument cut = cutArgument(argument);
+        const ItemRecord* const item =
+            isEmptyValue(cut, argument) ? vocabulary.resolve(cut.name) : nullptr;
+        if (item != nullptr && item->takesValue()) {
             return refuse(
                 vocabulary,
                 valueMissing,

@@ -226,6 +226,9 @@ void requireSettings(const ItemRecord& item) {
     if (!wrongDefault.empty()) {
         mistake(item.names, messages::defaultRefused(wrongDefault));
     }
+    if (isGiven(extras.impliedValue) && *get_variant_value(extras.impliedValue, "x") == '\0') {
+        mistake(item.names, messages::impliedRefused(messages::emptyText));
+    }
     const std::string wrongImplied = whyRefused(item, extras.impliedValue);
     if (!wrongImplied.empty()) {
         mistake(item.names, messages::impliedRefused(wrongImplied));

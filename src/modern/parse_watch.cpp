@@ -56,6 +56,7 @@ bool ParseWatch::accepts(const ItemRecord& item, const Value& value) {
         told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
         return false;
     }
+    reason_.clear();  // a Conversion may have left one, though it has read the text
     return true;
 }
 

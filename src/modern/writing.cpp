@@ -70,14 +70,12 @@ private:
     bool isUndone_ = false;
 };
 
-// Why the line is refused; empty when it is not.
-std::string refusedLine(const StoredOutcome& outcome) {
-    std::string reason;
+bool isLineRefused(const StoredOutcome& outcome, std::string& reason) {
     const Check* check = isAloneGiven(outcome) ? nullptr : outcome.vocabulary().lineChecks();
     while (check != nullptr && check->holds(Value(), reason)) {
         check = check->next;
     }
-    return reason;
+    return check != nullptr;
 }
 
 }  // namespace
@@ -93,14 +91,14 @@ void writeVariables(StoredOutcome& outcome) {
         }
     }
     writing.write();
-    std::string refused = refusedLine(outcome);
-    if (refused.empty()) {
+    std::string reason;
+    if (!isLineRefused(outcome, reason)) {
         writing.keep();
-    } else {
-        BasicParser& plain = outcome.vocabulary().plain();
-        plain.failure().make(lineRefused, {}, "", "", "");
-        outcome.end(plain.ended(resultRuleBroken), std::move(refused));
+        return;
     }
+    BasicParser& plain = outcome.vocabulary().plain();
+    plain.failure().make(lineRefused, {}, "", "", "");
+    outcome.end(plain.ended(resultRuleBroken), std::move(reason));
 }
 
 }  // namespace zarn_3_3::internal

@@ -156,7 +156,7 @@ Origin StoredOutcome::origin(const ItemRecord& item) const { return find(item, n
 
 // A value belongs to the last occurrence before it. What is there already stays.
 void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
-    static_cast<void>(vocabulary_.require(name));
+    const ItemRecord& item = vocabulary_.require(name);
     const StoredOption* const entry = result_.find(name);
     if (entry == nullptr) {
         return;
@@ -168,7 +168,8 @@ void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& 
     for (const StoredValue& value : entry->values) {
         const auto owner = found.upper_bound(value.position);
         if (owner != found.begin()) {
-            std::prev(owner)->second.values.emplace_back(value.text, value.value, value.position);
+            std::prev(owner)->second.values.push_back(
+                item.replaced({value.text, value.value, value.position}));
         }
     }
     occurrences.merge(found);

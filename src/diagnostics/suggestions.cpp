@@ -49,6 +49,11 @@ bool isHidden(const OptionDescription& item, const RegisteredOptionStorage& regi
     return isSectionVisible(registry.sectionKey(item), true);
 }
 
+// Several positional items take no names: whose argument is whose could not be told any more.
+bool isGivenByPlace(const OptionDescription& item, const RegisteredOptionStorage& registry) {
+    return item.isPositional && registry.takesAnyText(registry.firstPositional());
+}
+
 Texts allowedValues(const OptionDescription& item) {
     Texts all;
     for (const variant_t& value : item.allowedValues) {
@@ -85,7 +90,7 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
         // A name with a dash in front or a "=" in it cannot be typed.
         const bool isTypable = TypedOption(argument).name == form;
         const OptionDescription& item = registry.items()[registry.names().firstWithForm(number)];
-        if (isTypable && !isHidden(item, registry)) {
+        if (isTypable && !isHidden(item, registry) && !isGivenByPlace(item, registry)) {
             nearest.take(form);
         }
     }
@@ -102,9 +107,11 @@ Texts valuesLike(const Failure& failure, const OptionDescription& item) {
     }
     const Texts allowed = allowedValues(item);
     Nearest nearest(failure.value);
-    for (const std::string& value : allowed) {
+    for (std::size_t i = 0; i < allowed.size(); ++i) {
+        const std::string& value = allowed[i];
         const bool isCut = item.tokenizer != 0 && value.find(item.tokenizer) != std::string::npos;
-        if (!isCut && nearest.isNear(value)) {
+        const bool isDeprecated = item.deprecatedValues.count(item.allowedValues[i]) != 0;
+        if (!isCut && !isDeprecated && nearest.isNear(value)) {
             nearest.take(value);
         }
     }

@@ -39,7 +39,9 @@ void appendName(std::string& text, const OptionDescription& item, std::string_vi
 }
 
 void appendValue(std::string& text, const ShownItem& shown) {
-    if (shown.item->type != vtNull && shown.item->type != vtBool) {
+    if (shown.item->isValueOptional) {
+        text.append("[=").append(shown.valueName).append("]");
+    } else if (shown.item->type != vtNull && shown.item->type != vtBool) {
         text.append(" ").append(shown.valueName);
     }
 }

@@ -16,16 +16,27 @@ bool isAtArgument(CommandLine line, int index) {
     return index < line.argc && line.argv[index] != nullptr;
 }
 
+// Whether nothing stands behind the name, no "=" either.
+bool isNameAlone(const CutArgument& cut, const std::string& argument) {
+    return cut.name.data() + cut.name.size() == argument.data() + argument.size();
+}
+
+bool isEmptyValue(const CutArgument& cut, const std::string& argument) {
+    return cut.isOption && cut.value.empty() && !isNameAlone(cut, argument);
+}
+
 // The item whose value the next argument is; null when it is none.
 const ItemRecord* takesNext(const Vocabulary& vocabulary, const std::string& argument) {
     const CutArgument cut = cutArgument(argument);
     if (!cut.isOption || !cut.value.empty()) {
         return nullptr;
     }
+    // Abbreviations too. A name that could be several is left to the parse, which says so.
     const ItemRecord* const item = vocabulary.resolve(cut.name);
     return item != nullptr && item->needsValue() ? item : nullptr;
 }
 
+// Where no number has a sign, "-5" is more likely a misspelt option, and told as one.
 bool hasSign(const ItemRecord& item) {
     return item.type == vtS32 || item.type == vtS64 || item.type == vtDouble;
 }
@@ -42,9 +53,12 @@ public:
 
     void add(const std::string& argument, const ItemRecord* waiting, int index) {
         const std::size_t before = words_.size();
+        // What an option waits for is its value, whatever else it could be.
         if (waiting != nullptr && isValue(argument, hasSign(*waiting))) {
             join(argument);
         } else if (isPositional(argument)) {
+            // By its name, since by its place the parser takes nothing with a dash in front. Of
+            // several the first: under that all of them are stored.
             const std::string& name = vocabulary_.positionals().front()->primaryName();
             words_.push_back({filled("--{}={}", {name, argument}), argument});
         } else if (!addImplied(argument) && !addLetters(argument)) {
@@ -74,6 +88,7 @@ private:
     }
 
     bool isPositional(const std::string& argument) const {
+        // Which of several the argument falls to is only known when the parse counts them.
         const auto& items = vocabulary_.positionals();
         bool isForNumbers = false;
         for (const ItemRecord* const item : items) {
@@ -84,6 +99,7 @@ private:
 
     // The argument is the value of the one before it.
     void join(const std::string& argument) {
+        // Attached, since a parse takes no argument with a dash in front for the value of another.
         Word& option = words_.back();
         option.typed =
             filled("{} {}", {option.typed.empty() ? option.text : option.typed, argument});
@@ -93,11 +109,12 @@ private:
     // "--color", which is "--color=always". False when the argument is no option of this kind.
     bool addImplied(const std::string& argument) {
         const CutArgument cut = cutArgument(argument);
-        const bool isCut = cut.name.data() + cut.name.size() != argument.data() + argument.size();
+        // Letters in a row are no name then, even where a name begins so.
         const bool isLong = !has(shortNames) || !isBundle(argument);
-        const ItemRecord* const item =
-            cut.isOption && !isCut && isLong ? vocabulary_.resolve(cut.name) : nullptr;
-        if (item == nullptr || !item->takesValue() || item->needsValue()) {
+        const ItemRecord* const item = cut.isOption && isNameAlone(cut, argument) && isLong
+                                           ? vocabulary_.resolve(cut.name)
+                                           : nullptr;
+        if (item == nullptr || !item->hasOptionalValue()) {
             return false;
         }
         words_.push_back({withImplied(argument, *item), argument});
@@ -113,6 +130,7 @@ private:
         if (!isBundle(argument) || (!has(shortNames) && isName(argument))) {
             return false;
         }
+        // All of them or none: an argument of which only a part is taken could do anything.
         std::vector<Word> letters;
         std::string_view rest = std::string_view(argument).substr(1);
         while (!rest.empty()) {
@@ -124,16 +142,18 @@ private:
             }
             std::string text = filled("-{}", {letter});
             if (item->takesValue() && !rest.empty()) {
+                // A "=" behind a letter attaches the value in every habit.
                 if (rest[0] != '=' && !has(gluedValues)) {
                     return false;
                 }
                 text.append("=").append(rest.substr(rest[0] == '=' ? 1 : 0));
                 rest = {};
-            } else if (item->takesValue() && !item->needsValue()) {
+            } else if (item->hasOptionalValue()) {
                 text = withImplied(text, *item);
             } else if (!rest.empty() && !has(bundles)) {
                 return false;
             }
+            // Each is told as the whole argument: nobody has typed the letter alone.
             letters.push_back({text, argument});
         }
         words_.insert(words_.end(), letters.begin(), letters.end());
@@ -159,6 +179,7 @@ bool mayBeEmpty(CommandLine line) {
 bool quoteTypedAt(std::string& message, std::size_t at, const std::vector<Word>& words) {
     for (const Word& word : words) {
         const std::size_t length = word.text.size();
+        // With the quote behind it, since one argument may begin with another.
         if (message.compare(at, length, word.text) == 0 && message[at + length] == '\'') {
             if (!word.typed.empty()) {
                 message.replace(at, length, word.typed);
@@ -193,6 +214,7 @@ bool hasDash(const std::string& argument) { return getDashLength(argument, 0) !=
 
 CutArgument cutArgument(const std::string& argument) {
     CutArgument cut;
+    // A dash alone is no option in the parse, either.
     cut.isOption = argument.size() > 1 && hasDash(argument);
     if (cut.isOption) {
         splitOptionValue(argument, &cut.name, &cut.value, globalTextLocale());
@@ -207,11 +229,14 @@ bool OptionWalk::isAtEnd() const {
     if (!isAtArgument(line_, index_) || argument() == endOfOptions) {
         return true;
     }
+    // From the first positional argument on, the rest may belong to another program: "--help" there
+    // is not ours.
     return vocabulary_.has(flagPositionalTakesRest) && !vocabulary_.positionals().empty() &&
            waiting_ == nullptr && !hasDash(argument());
 }
 
 void OptionWalk::next(const std::string& parsed) {
+    // As parsed: "-xf" waits for what "-f" waits for.
     waiting_ = takesNext(vocabulary_, parsed);
     ++index_;
 }
@@ -227,10 +252,12 @@ std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line) {
         if (argument.empty() && walk.waiting() == nullptr && !positionals.empty()) {
             return refuseEmpty(vocabulary, line, walk.index());
         }
-        const ItemRecord* const item = takesNext(vocabulary, argument);
-        const std::string_view name = cutArgument(argument).name;
-        const bool isCut = name.data() + name.size() != argument.data() + argument.size();
-        if (item != nullptr && isCut) {
+        // It ends in "=" or a blank, as of "--output=$EMPTY", and the parse would look for the
+        // value in the next argument, also where the option may do without one.
+        const CutArgument cut = cutArgument(argument);
+        const ItemRecord* const item =
+            isEmptyValue(cut, argument) ? vocabulary.resolve(cut.name) : nullptr;
+        if (item != nullptr && item->takesValue()) {
             return refuse(
                 vocabulary,
                 valueMissing,
@@ -240,6 +267,7 @@ std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line) {
                 messages::valueRequired(item->primaryName(), messages::inArgument(argument)));
         }
     }
+    // Without these flags the rest is handed out as it is, and an empty argument is not lost.
     const bool isTaken = !positionals.empty() && (vocabulary.has(flagPositionalBehindTerminator) ||
                                                   vocabulary.has(flagPositionalTakesRest));
     for (int i = walk.index(); isTaken && isAtArgument(line, i); ++i) {
@@ -279,6 +307,8 @@ std::string wrongLongName(Vocabulary& vocabulary, CommandLine line) {
     for (; !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         const std::string_view name = cutArgument(argument).name;
+        // What is still a bundle was not taken apart. When it begins no name either, the parse
+        // refuses it by itself.
         if (walk.waiting() == nullptr && isBundle(argument) && name.size() > 1 &&
             vocabulary.isBeginning(name)) {
             vocabulary.plain().failure().make(
@@ -296,6 +326,7 @@ std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line)
         adapting.add(walk.argument(), walk.waiting(), walk.index());
     }
     std::vector<Word> words = adapting.take();
+    // No habit reaches behind the options.
     for (int i = walk.index(); isAtArgument(line, i); ++i) {
         words.push_back({line.argv[i], "", i});
     }

@@ -15,6 +15,7 @@ FailureNote& noteOf(StoredOutcome& outcome) { return outcome.vocabulary().plain(
 
 // "--name=text"; of a boolean "--name" or "--no-name". Empty for a text that is no boolean.
 std::string argumentFor(const ItemRecord& item, std::string_view text) {
+    // As an argument, so that the text is cut, completed and refused as a typed one is.
     if (item.type != vtBool) {
         return filled("--{}={}", {item.primaryName(), text});
     }
@@ -37,6 +38,7 @@ const ItemRecord* actionGiven(const StoredOutcome& outcome,
                               const ItemRecord& modifier) {
     for (const std::string& name : modifier.plain->tags) {
         const ItemRecord* const action = vocabulary.find(name);
+        // An action may have a default, which asks for nothing.
         if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
             return action;
         }
@@ -61,9 +63,11 @@ int takeVariable(const ItemRecord& item,
                  const char* text,
                  StoredOutcome& outcome,
                  std::string& error) {
+    // This is what messages quote: users have to know which variable to look at.
     const std::string assignment = filled("{}={}", {item.extras().environment, text});
     const std::string argument = argumentFor(item, text);
     if (argument.empty()) {
+        // The parse has no say here: on a command line a boolean has no text at all.
         error = messages::invalidValue(assignment, messages::noBoolean);
         noteOf(outcome).make(notBoolean, {}, assignment, item.primaryName(), text);
         return resultRuleBroken;
@@ -71,6 +75,7 @@ int takeVariable(const ItemRecord& item,
     Aside aside{&item, Origin::environment, std::make_unique<ParseResult>()};
     const int code =
         outcome.vocabulary().watch().parseAside(item, argument, assignment, *aside.result, error);
+    // Kept beside the result, not in it: the plain queries know nothing of the environment.
     outcome.asides().push_back(std::move(aside));
     noteOf(outcome) = std::move(outcome.vocabulary().watch().told());
     return code;
@@ -87,6 +92,7 @@ std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
         noteOf(outcome).make(requiredMissing, {}, "", item.primaryName(), "");
         return messages::isRequired(item);
     }
+    // The action that was typed is named: without it the modifier would not be missed.
     const ItemRecord* const action = actionGiven(outcome, outcome.vocabulary(), item);
     return action == nullptr ? "" : needs(*action, item, outcome);
 }
@@ -118,6 +124,7 @@ void noteOneRequired(const Rule& rule, StoredOutcome& outcome) {
 // Why the rule is broken; empty when it is not.
 std::string broken(const Rule& rule, StoredOutcome& outcome) {
     const RuleState state = stateOf(rule, outcome);
+    // The first two that are given are told, in the order of the rule: one pair is enough to mend.
     const bool wantsOne = rule.kind == RuleKind::exactlyOne || rule.kind == RuleKind::atMostOne;
     if (wantsOne && state.given.size() > 1) {
         const ItemRecord& other = *state.given[1];
@@ -160,6 +167,7 @@ int readEnvironment(StoredOutcome& outcome, std::string& error) {
 
 int checkRequired(StoredOutcome& outcome, std::string& error) {
     for (const auto& item : outcome.vocabulary().items()) {
+        // A default or a variable will do: what is required is a value, from wherever.
         if (item->isRequired && outcome.origin(*item) == Origin::absent) {
             error = missing(*item, outcome);
         }

@@ -38,12 +38,15 @@ ItemRecord& record(ItemDescription* item) { return static_cast<ItemRecord&>(*ite
 // What there is to say when the plain parse has ended with this code.
 void conclude(StoredOutcome& outcome, int code) {
     Vocabulary& vocabulary = outcome.vocabulary();
+    // Before anything can fail: whatever was parsed aside belongs to this outcome from now on.
     outcome.asides() = vocabulary.watch().end();
     std::string error;
     if (code != resultOk) {
+        // The plain text comes first: it is the same for every tool. The face knows the reason.
         error = vocabulary.watch().explained(vocabulary.plain().getErrorDesc());
         refine(vocabulary.plain().failure(), vocabulary.watch().told().get());
     }
+    // Nobody wants to hear of a missing action who has asked for "--about".
     const bool isAlone = isAloneGiven(outcome);
     if (isAlone && code == resultRuleBroken && error == messages::noAction) {
         code = resultOk;
@@ -57,6 +60,7 @@ void conclude(StoredOutcome& outcome, int code) {
     if (code == resultOk && !isAlone) {
         code = checkRules(outcome, error);
     }
+    // The plain parser is told, so that lastDiagnostic says the code that the author has seen.
     outcome.end(vocabulary.plain().ended(code), std::move(error));
 }
 
@@ -67,6 +71,7 @@ void refuseWrong(StoredOutcome& outcome,
     if (outcome.code == resultOk && line.argv != nullptr) {
         Vocabulary& vocabulary = outcome.vocabulary();
         const std::string error = wrong(vocabulary, line);
+        // Also when nothing is wrong: the failure of a parse before this one is then forgotten.
         const int code = error.empty() ? resultOk : resultRuleBroken;
         outcome.end(vocabulary.plain().ended(code), error);
     }
@@ -83,9 +88,11 @@ void parseAdapted(StoredOutcome& outcome, CommandLine line) {
 
 // Parses the line without writing variables.
 std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLine line) {
+    // Here and not when an item is declared: a rule may name what is declared behind it.
     vocabulary.settle();
     auto outcome = std::make_unique<StoredOutcome>(vocabulary);
     refuseWrong(*outcome, &wrongNamedArgument, line);
+    // Most tools have no habits, and do not pay for copies of their arguments.
     if (outcome->code != resultOk || !vocabulary.isAdapting() || line.argc < 2 ||
         line.argv == nullptr) {
         parseAdapted(*outcome, line);
@@ -97,11 +104,13 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
         adapted.push_back(word.text.c_str());
     }
     const CommandLine adaptedLine{static_cast<int>(adapted.size()), adapted.data()};
+    // Only now: letters that were taken apart are no long name.
     refuseWrong(*outcome, &wrongLongName, adaptedLine);
     parseAdapted(*outcome, adaptedLine);
     if (outcome->code != resultOk) {
         std::string error = outcome->text;
         quoteTyped(error, words);
+        // What was parsed is not what was typed.
         retype(vocabulary.plain().failure(), words);
         outcome->end(outcome->code, std::move(error));
     }
@@ -112,6 +121,7 @@ int exitCodeFor(int code) {
     switch (code) {
         case resultOptionFileUnreadable:
             return exitUnreadable;
+            // A handler or a check threw: the tool is broken, not the command line.
         case resultException:
             return exitInternal;
         default:
@@ -214,6 +224,7 @@ Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv) {
 }
 
 Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
+    // Owned first: whatever throws behind this takes it along.
     std::unique_ptr<StoredOutcome> outcome(into != nullptr ? &stored(into)
                                                            : new StoredOutcome(*vocabulary));
     vocabulary->settle();
@@ -228,17 +239,21 @@ Outcome* runLine(Vocabulary* vocabulary,
                  const char* const* argv,
                  Answer& answer,
                  void (*fit)(HelpStyle&)) {
+    // In front of everything else, since help has to show them, and a question has to name them.
     const CommandLine line{argc, argv};
     declareAnswers(*vocabulary);
     const std::string tool = nameOfTool(*vocabulary, line);
+    // For help() behind this call, which has no command line to look at.
     vocabulary->callAs(tool);
     std::optional<Answer> found = answerToQuestion(*vocabulary, tool, line);
     const Teller teller{tool, fit};
+    // In front of the parse: help is wanted most where the rest of the line is wrong.
     if (!found) {
         found = findAnswer(*vocabulary, teller, line);
     }
     auto outcome =
         found ? std::make_unique<StoredOutcome>(*vocabulary) : parseUnwritten(*vocabulary, line);
+    // Again behind it, for abbreviations and option files.
     if (!found) {
         found = findAnswer(*vocabulary, teller, outcome->result());
     }
@@ -246,6 +261,7 @@ Outcome* runLine(Vocabulary* vocabulary,
         answer = std::move(*found);
         return outcome.release();
     }
+    // Not where help was asked for: the tool ends, and its checks have nothing to look at.
     writeVariables(*outcome);
     if (outcome->code != resultOk) {
         answer.error = filled("{}: {}\n", {tool, visible(toldInFull(*vocabulary, outcome->text))});
@@ -265,6 +281,7 @@ Origin findValues(const Outcome* outcome, const char* name, Value& last, std::ve
 std::vector<Occurrence> findOccurrences(const Outcome* outcome,
                                         const char* const* names,
                                         std::size_t count) {
+    // By position, which is also what makes two names of one option count once.
     std::map<int, Occurrence> ordered;
     for (std::size_t i = 0; i < count; ++i) {
         stored(outcome).addOccurrences(names[i] == nullptr ? "" : names[i], ordered);

@@ -26,6 +26,8 @@ std::string alternatives(const std::vector<std::string>& texts) {
 // A value stands at the end of its argument, in whatever way that was typed.
 void retype(Failure& failure, const std::string& typed) {
     if (failure.valueAt != elsewhere) {
+        // Bundled or glued, the argument ends with the same bytes, and a suggestion replaces these
+        // alone.
         const std::string_view tail = std::string_view(failure.argument).substr(failure.valueAt);
         const std::size_t at = typed.rfind(tail);
         failure.valueAt = at == typed.size() - tail.size() ? at : elsewhere;
@@ -35,6 +37,7 @@ void retype(Failure& failure, const std::string& typed) {
 
 void retype(FailureNote& note, const std::vector<Word>& words) {
     Failure* const failure = note.get();
+    // What has no place on the command line, as in an option file, was not adapted.
     if (failure == nullptr || failure->index == 0) {
         return;
     }
@@ -50,6 +53,7 @@ void refine(FailureNote& note, const Failure* told) {
     if (failure == nullptr || told == nullptr) {
         return;
     }
+    // For the plain parser every refusal is a veto of a handler.
     failure->kind = told->kind;
     failure->option = told->option;
     // Of several values in a positional argument the one that is wrong.
@@ -66,11 +70,13 @@ std::string toldInFull(Vocabulary& vocabulary, const std::string& text) {
         return text;
     }
     std::string told = text;
+    // Looked for only here, where somebody reads them: parse() leaves them to diagnose().
     const std::vector<std::string> meant =
         suggestionsFor(*failure, vocabulary.plain().vocabulary());
     if (!meant.empty()) {
         told = messages::didYouMean(told, alternatives(meant));
     }
+    // In front, as compilers have it: editors find the line by it.
     if (!failure->file.empty()) {
         told = messages::atLine(
             failure->file, textFromNumber<unsigned long long>(failure->line), told);

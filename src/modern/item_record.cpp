@@ -58,6 +58,7 @@ bool isWithin(const ItemRecord& item, const Value& value) {
 }  // namespace
 
 const Extras& ItemRecord::extras() const {
+    // One for all: most items have nothing of them, and many tools have hundreds of items.
     static const Extras none;
     return ownExtras != nullptr ? *ownExtras : none;
 }
@@ -71,6 +72,7 @@ Extras& ItemRecord::changeableExtras() {
 
 ItemRecord::~ItemRecord() { release(checks); }
 
+// A group stores whole texts. What is a text and is not cut needs nothing more.
 bool ItemRecord::needsOwnParse() const {
     return type != vtString || !plain->allowedValues.empty() || separator != '\0';
 }
@@ -91,6 +93,7 @@ std::string ItemRecord::called() const {
 }
 
 void ItemRecord::configure(IOption& item) const {
+    // The plain settings take what they can and say nothing: what is lost is found at the end.
     if (role == Role::positional) {
         item.positional();
     }
@@ -126,12 +129,15 @@ std::string ItemRecord::boundsText() const {
 }
 
 bool ItemRecord::isChecked() const {
+    // The conversion sees to the bounds of the other types. Unchecked items cost a parse nothing.
     const bool hasNoSign = type == vtU32 || type == vtU64;
     return checks != nullptr || (isBounded() && (hasNoSign || hasBounds(extras())));
 }
 
 bool ItemRecord::holds(const Value& value, bool isLasting, std::string& reason) const {
     if (isBounded() && !isWithin(*this, value)) {
+        // To say "at most 8" of a "-1" that was read as 4294967295 would confuse: it is told all
+        // that the type can be.
         reason = !hasBounds(extras()) || isNegated(*this, value)
                      ? boundsText()
                      : internal::boundsText(extras().least, extras().greatest);
@@ -153,6 +159,7 @@ Value ItemRecord::replaced(const Value& value) const {
     if (found == plain->deprecatedValues.end()) {
         return value;
     }
+    // The text too: who asks for a std::string wants the replacement as well.
     Value read(value);
     read.value = found->second;
     read.text = get_variant_value(read.value, value.text);
@@ -164,6 +171,7 @@ std::string typedName(std::string_view name) {
 }
 
 void append(Check*& checks, Check* check) noexcept {
+    // At the end, since checks are asked in the order in which they were chained. They are few.
     Check** end = &checks;
     while (*end != nullptr) {
         end = &(*end)->next;
@@ -187,12 +195,14 @@ void requireNames(const ItemRecord& item) {
     for (const char* next = item.names; next != nullptr; ++count) {
         const std::string_view name(next, std::strcspn(next, ",= \t\n\v\f\r"));
         const char end = next[name.size()];
+        // The plain interface takes such names, and no command line ever reaches them.
         if (*next == '-' || (end != ',' && end != '\0')) {
             refuse(messages::nameUntypable(std::string_view(next, std::strcspn(next, ","))));
         }
         if (name.empty()) {
             refuse(messages::nameEmpty);
         }
+        // The plain interface looks at the names of other items only.
         for (std::size_t i = 0; i < std::min(count, names.size()); ++i) {
             if (names[i] == name) {
                 refuse(messages::nameTwice(name));
@@ -206,6 +216,7 @@ void requireNames(const ItemRecord& item) {
     if (count > names.size()) {
         refuse(messages::tooManyNames);
     }
+    // It would be refused there too, without a word.
     if (names[2].size() > 2) {
         refuse(messages::thirdNameLong(names[2]));
     }
@@ -226,6 +237,10 @@ void requireSettings(const ItemRecord& item) {
     if (!wrongDefault.empty()) {
         mistake(item.names, messages::defaultRefused(wrongDefault));
     }
+    // Unlike an empty default it would have to be typed, as "--color=", which is no value.
+    if (isGiven(extras.impliedValue) && *get_variant_value(extras.impliedValue, "x") == '\0') {
+        mistake(item.names, messages::impliedRefused(messages::emptyText));
+    }
     const std::string wrongImplied = whyRefused(item, extras.impliedValue);
     if (!wrongImplied.empty()) {
         mistake(item.names, messages::impliedRefused(wrongImplied));
@@ -234,6 +249,7 @@ void requireSettings(const ItemRecord& item) {
 
 std::string whyRefused(const ItemRecord& item, const variant_t& setting) {
     const char* const text = get_variant_value(setting, "");
+    // An empty text as a default is none, and asked nothing.
     if (!isGiven(setting) || (item.type == vtString && *text == '\0')) {
         return "";
     }
@@ -241,6 +257,7 @@ std::string whyRefused(const ItemRecord& item, const variant_t& setting) {
     const bool isAllowed =
         allowed.empty() ||
         std::any_of(allowed.begin(), allowed.end(), [&](const AllowedValue& each) {
+            // Nor may a tool lead its users to a value that it deprecates.
             return !isGiven(each.replacement) && each.value == setting;
         });
     if (!isAllowed) {

@@ -27,6 +27,7 @@ struct ItemRecord final : ItemDescription {
     bool needsOwnParse() const;
     bool takesValue() const { return type != vtNull && type != vtBool; }
     bool needsValue() const { return takesValue() && extras().impliedValue.type() == vtNull; }
+    bool hasOptionalValue() const { return takesValue() && !needsValue(); }
     bool takesMany() const { return target == nullptr || target->takesMany; }
     bool isModifier() const { return role != Role::action && !plain->tags.empty(); }
     const std::string& primaryName() const { return plain->primaryName(); }

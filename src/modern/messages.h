@@ -107,6 +107,7 @@ constexpr const char* otherActions = "all positional items go with the same acti
 inline std::string nameTwice(std::string_view name) {
     return filled("the name '{}' is given twice", {name});
 }
+constexpr const char* emptyText = "it is empty";
 constexpr const char* notAllowed = "it is not among its allowed values";
 inline std::string defaultRefused(std::string_view reason) {
     return filled("its default is refused: {}", {reason});

@@ -7,6 +7,7 @@
 namespace zarn_3_3::internal {
 
 StoredOutcome::StoredOutcome(Vocabulary& vocabulary) : vocabulary_(vocabulary) {
+    // The vocabulary is kept alive: names are looked up in it, and defaults stand there.
     plain = &result_;
     vocabulary.share();
 }
@@ -23,6 +24,7 @@ int StoredOutcome::Values::positionOf(std::size_t index) const {
 }
 
 Value StoredOutcome::Values::operator[](std::size_t index) const {
+    // An occurrence of a switch: found, and true when it is read as a bool.
     if (entry->values.empty()) {
         return {nullptr, variant_t(), positionOf(index)};
     }
@@ -38,6 +40,7 @@ StoredOutcome::Values StoredOutcome::valuesOf(const StoredOption* entry) {
 }
 
 StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin) const {
+    // A handful at most: those from the environment, and one for each positional item.
     for (const Aside& each : asides_) {
         if (each.item == &item && each.origin == origin) {
             return valuesOf(each.result->find(item.primaryName()));
@@ -50,9 +53,11 @@ StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin
 // the last one the rest.
 StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
     const auto& group = vocabulary_.positionals();
+    // A single one is stored as every other item.
     if (item.role != Role::positional || group.size() == 1) {
         return {};
     }
+    // Its values were parsed again, as what they are, when they came in.
     if (item.needsOwnParse()) {
         return aside(item, Origin::commandLine);
     }
@@ -68,12 +73,15 @@ StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
 // Whether the value at the position counts more than the other: what an option file says counts
 // less.
 bool StoredOutcome::counts(int position, int other) const {
+    // Positions rise in the order of reading, and files are read behind the command line that names
+    // them.
     const bool isFromFile = result_.isFromFile(position);
     return isFromFile == result_.isFromFile(other) ? position > other : !isFromFile;
 }
 
 // The index of the one that counts, of at least one.
 std::size_t StoredOutcome::countingOf(const Values& values) const {
+    // From the back: without files the last one counts, and nothing else is looked at.
     std::size_t counting = values.size() - 1;
     for (std::size_t i = counting; i > 0 && result_.isFromFile(values.positionOf(counting)); --i) {
         if (counts(values.positionOf(i - 1), values.positionOf(counting))) {
@@ -88,6 +96,7 @@ Found StoredOutcome::choose(std::string_view name,
                             std::vector<Value>* all) const {
     const Values share = shareOf(item);
     const StoredOption* const entry = result_.find(name);
+    // What is stored under the first of a group belongs to all of it, and comes in by the share.
     Values own = &item == vocabulary_.firstOfGroup() ? Values() : valuesOf(entry);
     const bool isFromOutside = own.size() + share.size() == 0;
     if (isFromOutside) {
@@ -110,6 +119,7 @@ Found StoredOutcome::choose(std::string_view name,
     if (found.count == 0) {
         return chooseDefault(entry, all);
     }
+    // Given by name and by place, in whatever order.
     if (all != nullptr && share.size() != 0 && own.size() != 0) {
         std::sort(all->begin(), all->end(), [](const Value& a, const Value& b) {
             return a.position < b.position;
@@ -146,7 +156,7 @@ Origin StoredOutcome::origin(const ItemRecord& item) const { return find(item, n
 
 // A value belongs to the last occurrence before it. What is there already stays.
 void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
-    static_cast<void>(vocabulary_.require(name));
+    const ItemRecord& item = vocabulary_.require(name);
     const StoredOption* const entry = result_.find(name);
     if (entry == nullptr) {
         return;
@@ -158,7 +168,8 @@ void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& 
     for (const StoredValue& value : entry->values) {
         const auto owner = found.upper_bound(value.position);
         if (owner != found.begin()) {
-            std::prev(owner)->second.values.emplace_back(value.text, value.value, value.position);
+            std::prev(owner)->second.values.push_back(
+                item.replaced({value.text, value.value, value.position}));
         }
     }
     occurrences.merge(found);

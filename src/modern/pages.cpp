@@ -34,12 +34,14 @@ Answer answerFor(const ItemRecord& item,
     if (item.primaryName() == versionName) {
         return {filled("{} {}\n", {tool, vocabulary.tool().version}), "", exitAnswered};
     }
+    // Asked for the whole help or for what there is; the rest is an error of the user.
     if (topic.empty() || vocabulary.isName(topic)) {
         HelpStyle style;
         teller.fit(style);
         style.topic = topic.c_str();
         return {pageOf(vocabulary, tool, style), "", exitAnswered};
     }
+    // It goes to a terminal.
     const std::string quoted = visible(topic);
     return {"",
             filled("{}: {}", {tool, vocabulary.plain().getDescription(quoted.c_str(), false)}),
@@ -69,6 +71,7 @@ bool mayAsk(CommandLine line) {
         const std::string_view argument = line.argv[i];
         const std::size_t name = argument.find_first_not_of('-');
         const char first = name < argument.size() ? argument[name] : '\0';
+        // The other dashes begin with a byte beyond ASCII.
         const bool isOtherDash = static_cast<unsigned char>(first) >= 0x80;
         if (isOtherDash || (name > 0 && (first == *helpName || first == *versionName))) {
             return true;
@@ -81,6 +84,7 @@ bool mayAsk(CommandLine line) {
 
 void declareAnswers(Vocabulary& vocabulary) {
     if (!vocabulary.isName(helpName)) {
+        // A tool that has "h" for its host or its height keeps it.
         const char* const names = vocabulary.isName("h") ? helpName : "help,h";
         auto item = option(names, "Show this text.").alone();
         vocabulary.declare("", item.take()).isAnswered = true;
@@ -92,12 +96,14 @@ void declareAnswers(Vocabulary& vocabulary) {
 }
 
 std::optional<Answer> findAnswer(Vocabulary& vocabulary, const Teller& teller, CommandLine line) {
+    // The walk resolves names, which would show in the start of every tool.
     if (line.argv == nullptr || !mayAsk(line)) {
         return std::nullopt;
     }
     for (OptionWalk walk(vocabulary, line); !walk.isAtEnd(); walk.next(walk.argument())) {
         const std::string argument = walk.argument();
         const CutArgument cut = cutArgument(argument);
+        // Whole names only: what an abbreviation means is known to the parse.
         const ItemRecord* const item = cut.isOption ? vocabulary.find(cut.name) : nullptr;
         if (item != nullptr && item->isAnswered) {
             return answerFor(
@@ -130,9 +136,11 @@ std::string nameOfTool(const Vocabulary& vocabulary, CommandLine line) {
 }
 
 std::string pageOf(Vocabulary& vocabulary, const std::string& tool, HelpStyle style) {
+    // An empty topic is what "--help" without one has.
     style.topic = isEmpty(style.topic) ? nullptr : style.topic;
     const Tool& about = vocabulary.tool();
     const ToolInfo info{sizeof info, tool.c_str(), about.version, about.summary};
+    // The plain help knows what to say of a topic that is none.
     const auto help = helpInStyle(style, vocabulary.plain(), ToolTexts(info));
     return help ? *help : vocabulary.plain().getDescription(style.topic, false);
 }
@@ -143,6 +151,7 @@ void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept {
     constexpr std::uint32_t most = 120;
     const std::uint32_t wanted = numberFrom(facts.columns);
     const std::uint32_t shown = facts.width != 0 ? facts.width : usual;
+    // A wider line is hard to read, however wide the terminal; a COLUMNS of 3 is a mistake.
     style.width = std::clamp(wanted >= least ? wanted : shown, least, most);
     const bool isDumb = facts.kind != nullptr && std::string_view(facts.kind) == "dumb";
     if (facts.isTerminal && !isDumb && isEmpty(facts.noColor)) {

@@ -40,6 +40,7 @@ bool looksLikeNumber(std::string_view text) {
 }  // namespace
 
 bool ParseWatch::isNeeded() const {
+    // Every handler makes the plain parser copy what it could otherwise read in place.
     const auto& items = vocabulary_.items();
     return routesPositionals() || std::any_of(items.begin(), items.end(), [](const auto& item) {
                return item->isChecked();
@@ -52,10 +53,12 @@ bool ParseWatch::accepts(const ItemRecord& item, const Value& value) {
         std::string_view(value.text) == "-") {
         return true;  // the standard input
     }
+    // As what it is read as: a deprecated value need not lie within the bounds.
     if (!item.holds(item.replaced(value), false, reason_)) {
         told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
         return false;
     }
+    reason_.clear();  // a Conversion may have left one, though it has read the text
     return true;
 }
 
@@ -64,17 +67,21 @@ int ParseWatch::parseAside(const ItemRecord& item,
                            const std::string& typed,
                            ParseResult& result,
                            std::string& error) {
+    // Slow, and rare. A reading of its own, here, would sooner or later differ from that of the
+    // parse.
     BasicParser parser(vocabulary_.flags() | flagUnknownIsError);
     item.configure(parser.option(item.allNames().c_str(), "", item.type, ""));
     Asking asking(*this, item);
     if (!parser.addHandler(&asking)) {
         throw std::bad_alloc();
     }
+    // The first is the name of the program.
     const char* const arguments[] = {"", argument.c_str()};
     const int code = parser.parseArgsVector(2, arguments, &result);
     refine(parser.failure(), told_.get());
     told_ = std::move(parser.failure());
     if (Failure* const failure = told_.get()) {
+        // It counts in the line of two arguments above, which nobody has typed.
         failure->index = 0;
         retype(*failure, typed);
     }
@@ -92,12 +99,14 @@ void ParseWatch::begin(const ParseResult& result, std::vector<Aside> asides) {
     told_.clear();
     asides_ = std::move(asides);
     const auto& positionals = vocabulary_.positionals();
+    // A text that is parsed into a result goes on with the places behind those that are taken.
     const StoredOption* const given =
         positionals.empty() ? nullptr : result.find(positionals[0]->primaryName());
     positionalCount_ = given == nullptr ? 0 : given->values.size();
 }
 
 std::string ParseWatch::explained(std::string message) const {
+    // From what is known best to what has to be guessed from the text.
     if (!instead_.empty()) {
         return instead_;
     }
@@ -119,6 +128,7 @@ std::string ParseWatch::explained(std::string message) const {
     const ItemRecord* const item =
         vocabulary_.find(std::string_view(message).substr(first, end - first));
     const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
+    // A word is told that a number is wanted; a number that does not fit, which ones do.
     if (item != nullptr && item->isBounded() &&
         looksLikeNumber(value.substr(0, value.find('\'')))) {
         message.pop_back();  // its full stop
@@ -149,6 +159,7 @@ bool ParseWatch::routesPositionals() const {
 
 bool ParseWatch::onValueParse(const char* name, const Value& value) {
     const ItemRecord* const item = vocabulary_.find(name);
+    // An item that was declared plainly inside a handler, in the middle of this parse.
     if (item == nullptr) {
         return true;
     }
@@ -165,6 +176,7 @@ bool ParseWatch::takePositional(const Value& value) {
         told_.make(unexpectedArgument, {}, value.text, "", value.text);
         return false;
     }
+    // A single item is stored as what it is: the parse has converted the value already.
     if (last == 0 || !item.needsOwnParse()) {
         return accepts(item, value) || refusePositional(item, value);
     }
@@ -188,6 +200,7 @@ ParseResult& ParseWatch::positionalAside(const ItemRecord& item) {
             return *each.result;
         }
     }
+    // All values of an item in one result, where they keep their order.
     asides_.push_back({&item, Origin::commandLine, std::make_unique<ParseResult>()});
     return *asides_.back().result;
 }

@@ -44,6 +44,7 @@ bool isDigit(char c) { return c >= '0' && c <= '9'; }
 bool takeDigits(const char*& text, std::uint64_t& number) {
     for (; isDigit(*text); ++text) {
         const auto digit = static_cast<std::uint64_t>(*text - '0');
+        // Before it happens: behind it nobody can tell.
         if (number > (most64 - digit) / 10) {
             return false;
         }
@@ -57,6 +58,7 @@ bool takeDecimal(const char*& text, Decimal& number) {
     if (!isDigit(*text) || !takeDigits(text, number.whole)) {
         return false;
     }
+    // A point without digits behind it is a slip, and not read.
     if (*text != '.') {
         return true;
     }
@@ -72,8 +74,10 @@ bool takeDecimal(const char*& text, Decimal& number) {
 enum class Product { exact, notWhole, tooMuch };
 
 Product multiply(const Decimal& number, std::uint64_t factor, std::uint64_t& product) {
+    // In two parts, so that nothing overflows on the way to a product that fits.
     const std::uint64_t part = number.fraction * (factor % number.scale);
     const std::uint64_t rest = number.fraction * (factor / number.scale) + part / number.scale;
+    // First whether it fits: of a number that is too big nobody wants to hear that it is not whole.
     if (number.whole > (most64 - rest) / factor) {
         return Product::tooMuch;
     }
@@ -86,6 +90,8 @@ std::uint64_t byteUnit(const char* name) {
     if (*name == '\0' || std::strcmp(name, "B") == 0) {
         return 1;
     }
+    // Upper case only: "m" is a thousandth and "b" a bit to some, and a wrong guess is a factor of
+    // a million.
     const char* const letter = std::strchr(byteUnits, *name);
     const bool isBinary = name[1] == '\0' || std::strcmp(name + 1, "iB") == 0;
     if (letter == nullptr || (!isBinary && std::strcmp(name + 1, "B") != 0)) {
@@ -106,6 +112,7 @@ Product convert(const Decimal& number,
     if (unit % tick == 0) {
         return multiply(number, unit / tick, ticks);
     }
+    // "36h" in days: whether it is whole is known of the product alone.
     std::uint64_t nanoseconds = 0;
     const Product product = multiply(number, unit, nanoseconds);
     ticks = nanoseconds / tick;
@@ -121,6 +128,7 @@ std::optional<std::uint64_t> readTicks(const char* text,
     Decimal number;
     const bool isNumber = takeDecimal(text, number);
     const Unit* unit = std::begin(timeUnits);
+    // No unit is assumed for a bare number: seconds for one tool are milliseconds for the next.
     while (unit != std::end(timeUnits) && std::strcmp(unit->name, text) != 0) {
         ++unit;
     }
@@ -173,6 +181,7 @@ std::optional<std::uint64_t> readBytes(const char* text, std::string& reason) {
 
 std::string writeBytes(std::uint64_t count) {
     std::size_t units = 0;
+    // Never a fraction, so that what is written reads as the same number.
     for (; count != 0 && count % 1024 == 0; count /= 1024) {
         ++units;
     }

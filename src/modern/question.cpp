@@ -10,6 +10,7 @@ namespace zarn_3_3::internal {
 std::optional<Answer> answerToQuestion(Vocabulary& vocabulary,
                                        const std::string& tool,
                                        CommandLine line) {
+    // A parse lives with a null argv, and so does this.
     const int argc = line.argv == nullptr ? 0 : line.argc;
     const Tool& given = vocabulary.tool();
     const ToolInfo info{sizeof info, tool.c_str(), given.version, given.summary};
@@ -21,6 +22,7 @@ std::optional<Answer> answerToQuestion(Vocabulary& vocabulary,
     if (code == ordinaryLine) {
         return std::nullopt;
     }
+    // Behind the answer, which needs no settling: an ordinary line is settled by its parse.
     vocabulary.settle();
     return Answer{answer, "", exitAnswered};
 }

@@ -35,6 +35,7 @@ void Vocabulary::release() noexcept {
 }
 
 ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
+    // The face has promised that the item is taken, also when one of the next lines throws.
     std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
     for (const char** text : {&item->names, &item->actions, &item->description, &item->shownName}) {
         *text = orEmpty(*text);
@@ -42,6 +43,8 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
     showVariable(*item);
     requireNames(*item);
     requireSettings(*item);
+    // Before the plain declaration, which cannot be taken back: behind that nothing may fail for
+    // want of memory, or a plain item would be left without its record.
     items_.push_back(std::move(item));
     try {
         requireSameActions(*items_.back());
@@ -50,8 +53,7 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
         items_.pop_back();
         throw;
     }
-    impliesValues_ =
-        impliesValues_ || (items_.back()->takesValue() && !items_.back()->needsValue());
+    impliesValues_ = impliesValues_ || items_.back()->hasOptionalValue();
     return *items_.back();
 }
 
@@ -63,6 +65,8 @@ void Vocabulary::showVariable(ItemRecord& item) const {
         return;
     }
     const variant_t shown = item.target->current(item.variable);
+    // One that was asked for by name and is refused is a mistake, told below; one that is only
+    // offered is let go.
     if (item.showsTarget || (shown.type() != vtNull && whyRefused(item, shown).empty())) {
         item.changeableExtras().defaultValue = shown;
         item.showsTarget = true;
@@ -75,6 +79,7 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
     }
     const RegisteredOptionStorage& registry = plain_->vocabulary();
     const std::size_t index = registry.items().size();
+    // Room first, as far as it can be had.
     byIndex_.resize(index + 1);
     if (item.role == Role::positional) {
         positionals_.reserve(positionals_.size() + 1);
@@ -83,6 +88,7 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
         item.role == Role::action
             ? plain_->action(item.names, item.description, item.type, section)
             : plain_->modifier(item.names, item.actions, item.description, item.type, section);
+    // The plain interface refuses in silence. A name is the usual reason.
     if (registry.items().size() == index) {
         requireFreeNames(item);
         throw std::bad_alloc();
@@ -99,8 +105,7 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
 // What help shows of the item beyond its plain declaration.
 void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
     RegisteredOptionStorage& registry = plain_->vocabulary();
-    const bool mayLackValue = item.takesValue() && !item.needsValue();
-    registry.expect(index, item.isRequired, !item.takesMany(), mayLackValue);
+    registry.expect(index, item.isRequired, !item.takesMany(), item.hasOptionalValue());
     if (*item.shownName != '\0') {
         registry.nameValue(index, item.shownName);
     }
@@ -111,6 +116,7 @@ void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
 
 // The author's texts live until the item is declared.
 void Vocabulary::keepTexts(ItemRecord& item, std::size_t index) {
+    // It stays where it is: the list of items never moves them.
     item.plain = &plain_->vocabulary().items()[index];
     item.names = "";
     item.actions = "";
@@ -125,10 +131,12 @@ void Vocabulary::keepTexts(ItemRecord& item, std::size_t index) {
 // The first item takes the arguments of all of them, so of several it has to take any text; what
 // each wants is seen to when an argument has found its item.
 void Vocabulary::addPositional(const ItemRecord& item) {
+    // With the second, so that a single item is parsed as what it is.
     if (positionals_.size() == 1) {
         RegisteredOptionStorage& registry = plain_->vocabulary();
         const std::size_t first = indexOf(positionals_[0]->primaryName());
         registry.takeAnyText(first);
+        // Checks and values go by what its author declared.
         byIndex_[first]->plain = &registry.asDeclared(first);
     }
     positionals_.push_back(&item);
@@ -148,6 +156,7 @@ void Vocabulary::requireFreeNames(const ItemRecord& item) const {
 void Vocabulary::requireFree(const ItemRecord& item, std::string_view form) const {
     const std::size_t index = indexOf(form);
     if (index != NameIndex::none) {
+        // One that was declared plainly may have no record yet.
         const ItemRecord* const owner = recordAt(index);
         mistake(item.names,
                 messages::nameTaken(form,
@@ -171,6 +180,7 @@ void Vocabulary::requireSameActions(const ItemRecord& item) const {
 
 void Vocabulary::settle() {
     takeInPlainItems();
+    // What has been looked at stays right, but for variables, which a new item may share.
     if (settledItems_ < items_.size()) {
         requireOwnTargets();
     }
@@ -180,6 +190,8 @@ void Vocabulary::settle() {
     for (; settledRules_ < rules_.size(); ++settledRules_) {
         settle(rules_[settledRules_]);
     }
+    // Late, since most vocabularies have nothing to listen for, and an unheard parse is the
+    // fastest.
     if (!isListening_ && watch_.isNeeded()) {
         isListening_ = plain_->addHandler(&watch_);
         if (!isListening_) {
@@ -194,6 +206,7 @@ void Vocabulary::takeInPlainItems() {
     byIndex_.resize(plainItems.size());
     for (std::size_t i = 0; i < plainItems.size(); ++i) {
         if (byIndex_[i] == nullptr) {
+            // So that rules and queries need not know by whom an item was declared.
             auto item = std::make_unique<ItemRecord>();
             item->role = roleOf(plainItems[i]);
             item->type = plainItems[i].type;
@@ -220,9 +233,11 @@ void Vocabulary::requireActions(const ItemRecord& item) const {
 
 // The values of two items for one variable would overwrite each other.
 void Vocabulary::requireOwnTargets() const {
+    // Sorted, since a tool of a thousand options would feel a look at each pair.
     std::vector<std::pair<const void*, std::size_t>> owners;
     owners.reserve(items_.size());
     for (std::size_t i = 0; i < items_.size(); ++i) {
+        // Constants are meant to share: what was given last counts.
         if (items_[i]->target != nullptr && items_[i]->extras().constant.value == nullptr) {
             owners.emplace_back(items_[i]->variable, i);
         }
@@ -255,6 +270,7 @@ ItemRecord* Vocabulary::recordAt(std::size_t index) const {
 
 const ItemRecord* Vocabulary::find(std::string_view name) const {
     const ItemRecord* const item = recordAt(indexOf(name));
+    // The "no-" form of a boolean finds the item too, and is no name of it.
     return item != nullptr && isName(name) ? item : nullptr;
 }
 
@@ -276,6 +292,7 @@ const ItemRecord* Vocabulary::resolve(std::string_view text) const {
     if (exact != NameIndex::none) {
         return recordAt(exact);
     }
+    // The index of the parse, so that both agree on what an abbreviation means.
     const PrefixIndex::Found found = registry.findBeginning(text);
     return found.first != KeptTexts::none && found.isOnly
                ? recordAt(registry.names().firstWithForm(found.first))

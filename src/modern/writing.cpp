@@ -29,11 +29,15 @@ public:
     void make(const ItemRecord& item, const StoredOutcome& outcome) {
         all_.clear();
         const Found found = outcome.find(item, item.takesMany() ? &all_ : nullptr);
+        // A default that was taken from the variable stands there already, or what the tool has put
+        // there since.
         if (found.count == 0 || (found.origin == Origin::byDefault && item.showsTarget)) {
             return;
         }
         const void* const constant = item.extras().constant.value;
         mayShare_ = mayShare_ || constant != nullptr;
+        // The place in the list first: a value without one would leak where there is no memory for
+        // it.
         made_.push_back({
             &item, nullptr, {found.origin, found.last.position}
         });
@@ -47,6 +51,7 @@ public:
                 return a.rank < b.rank;
             });
         }
+        // An exchange never throws, so all variables change or none; the old values wait in made_.
         isUndone_ = true;
         std::for_each(made_.begin(), made_.end(), &exchange);
     }
@@ -70,14 +75,14 @@ private:
     bool isUndone_ = false;
 };
 
-// Why the line is refused; empty when it is not.
-std::string refusedLine(const StoredOutcome& outcome) {
-    std::string reason;
+// Whether a check of the whole line refuses it; why, in `reason`.
+bool isLineRefused(const StoredOutcome& outcome, std::string& reason) {
+    // Asked with the variables written: that is what its author wants to look at.
     const Check* check = isAloneGiven(outcome) ? nullptr : outcome.vocabulary().lineChecks();
     while (check != nullptr && check->holds(Value(), reason)) {
         check = check->next;
     }
-    return reason;
+    return check != nullptr;
 }
 
 }  // namespace
@@ -92,15 +97,16 @@ void writeVariables(StoredOutcome& outcome) {
             writing.make(*item, outcome);
         }
     }
+    // Everything that can throw lies behind us, but for the author's own checks.
     writing.write();
-    std::string refused = refusedLine(outcome);
-    if (refused.empty()) {
+    std::string reason;
+    if (!isLineRefused(outcome, reason)) {
         writing.keep();
-    } else {
-        BasicParser& plain = outcome.vocabulary().plain();
-        plain.failure().make(lineRefused, {}, "", "", "");
-        outcome.end(plain.ended(resultRuleBroken), std::move(refused));
+        return;
     }
+    BasicParser& plain = outcome.vocabulary().plain();
+    plain.failure().make(lineRefused, {}, "", "", "");
+    outcome.end(plain.ended(resultRuleBroken), std::move(reason));
 }
 
 }  // namespace zarn_3_3::internal

@@ -37,8 +37,8 @@ public:
     bool isRequired = false;     // shown in usage lines; no parse looks at it
     bool takesOneValue = false;  // the same
     ItemKind kind = kindSink;
-    char tokenizer = ',';       // 0: values are never cut
-    bool mayLackValue = false;  // on a command line; no parse looks at it either
+    char tokenizer = ',';          // 0: values are never cut
+    bool isValueOptional = false;  // known to help and completion; no parse looks at it
     das_variant_type_t type = vtNull;
     variant_t defaultVal;
     std::vector<variant_t> allowedValues;

@@ -58,11 +58,11 @@ public:
     // The item as its author declared it.
     const OptionDescription& asDeclared(std::size_t number) const;
 
-    // For usage lines and completion alone; keeping to it is up to the caller.
-    void expect(std::size_t number, bool isRequired, bool takesOneValue, bool mayLackValue) {
+    // For help and completion alone; keeping to it is up to the caller.
+    void expect(std::size_t number, bool isRequired, bool takesOneValue, bool isValueOptional) {
         options[number].isRequired = isRequired;
         options[number].takesOneValue = takesOneValue;
-        options[number].mayLackValue = mayLackValue;
+        options[number].isValueOptional = isValueOptional;
     }
 
     // What help and description call the value of an item; empty for the word of its type.

@@ -185,16 +185,16 @@ TEST(PlainWordsOfTheModernFace, BelongToTheItemsByTheirPlaces) {
         positional<int>("number", "").into(number),
         positional("mode", "").allow({"fast", "slow"}).into(mode),
         positional("file", "").into(files),
-        option<int>("level", "").allow({1, 12}).withoutValue(1),
+        option<std::string>("color", "").allow({"never", "auto"}).withoutValue("auto"),
     });
     IParser* const plain = parser.operator->();
     EXPECT_EQ(candidates(plain, {""}), "");
     EXPECT_EQ(candidates(plain, {"1", "f"}), "fast");
     EXPECT_EQ(candidates(plain, {"1", "fast", ""}), "files");
     EXPECT_EQ(candidates(plain, {"1", "fast", "x", ""}), "files");
-    EXPECT_EQ(candidates(plain, {"--l"}), "--level");
-    EXPECT_EQ(candidates(plain, {"--level=1"}), "--level=1|--level=12");
-    EXPECT_EQ(candidates(plain, {"--level", "1", "f"}), "fast");
+    EXPECT_EQ(candidates(plain, {"--c"}), "--color");
+    EXPECT_EQ(candidates(plain, {"--color=n"}), "--color=never");
+    EXPECT_EQ(candidates(plain, {"1", "--color", "f"}), "fast");
 }
 
 struct BashRow {

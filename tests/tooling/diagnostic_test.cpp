@@ -65,6 +65,7 @@ void write(const char* file, const std::string& content) { std::ofstream(file) <
 void declare(PlainTool& tool) {
     tool.option("level,l", vtS32);
     tool.option("mode").allowValue("fast").allowValue("thorough").allowDeprecatedValue("fats", "");
+    tool.option("tone").allowValue("loud").allowDeprecatedValue("loud", "thorough");
     tool.option("sizes,size", vtS32).tokenize(',').allowValue(1024).allowValue(2048);
     tool.option("color", vtBool);
     tool.option("cold", vtNull);
@@ -128,6 +129,7 @@ TEST(Diagnostics, TellEachFailureOfALine) {
         {{"--level", "5x"},               "9 2 2 [5x] level=5x"                                     },
         {{"--sizes=1024,x"},              "9 2 1 [--sizes=1024,x] sizes=x"                          },
         {{"--mod=fsat"},                  "10 2 1 [--mod=fsat] mode=fsat (fast thorough) --mod=fast"},
+        {{"--tone=luod"},                 "10 2 1 [--tone=luod] tone=luod (loud)"                   },
         {{"--mode", "through"},           "10 2 2 [through] mode=through (fast thorough) thorough"  },
         {{"--size=2048,1025,3"},
          "10 2 1 [--size=2048,1025,3] sizes=1025 (1024 2048) --size=2048,1024,3"                    },
@@ -408,6 +410,7 @@ TEST(Diagnoses, TellWhatTheModernFaceRefuses) {
     EXPECT_EQ(toldOf({"-n", "1", "letter,pracel"}, resultVetoed),
               "10 1 3 [letter,pracel] kind=pracel (letter parcel) letter,parcel");
     EXPECT_EQ(toldOf({"--jbos=3", "-n"}), "1 2 1 [--jbos=3] --jobs=3");
+    EXPECT_EQ(toldOf({"--cuont=3", "-n"}), "1 2 1 [--cuont=3]");
     EXPECT_EQ(toldOf({"-n", "1", "letter", ""}), "24 2 4 count");
     EXPECT_EQ(toldOf({"-n", "--jobs=", "3"}), "6 2 2 [--jobs=] jobs");
     EXPECT_EQ(toldOf({"-n", "--kind=letter"}), "25 2 2 [--kind=letter] kind");

@@ -57,6 +57,7 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
     expectOutcomes({
         {{},                                                                   ""                                                         },
         {{"-j=3", "-vv", "--no-color", "-q"},                                  "Unknown option: -vv|"                                     },
+        {{"--point=3:4", "-vv"},                                               "Unknown option: -vv|"                                     },
         {{"-j=3", "-v", "-v", "--no-color", "-q"},                             "jobs=3 color=0 quiet=1 verbosity=2 "                      },
         {{"--no-color", "--color", "-j=3", "--jobs=4"},                        "jobs=4 "                                                  },
         {{"--ratio=0.5", "--mode=th", "--target=/tmp/x", "-t=1.5s", "-s=64K"},

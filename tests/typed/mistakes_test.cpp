@@ -57,6 +57,8 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
          "'a': byDefault() shows a variable for one value, and into() names none"                                                                           },
         {[](Parser& p) { p.declare({option<int>("a", "").atMost(2).withoutValue(3)}); },
          "'a': what it is without a value is refused: it must be at most 2"                                                                                 },
+        {[](Parser& p) { p.declare({option<std::string>("a", "").withoutValue("")}); },
+         "'a': what it is without a value is refused: it is empty"                                                                                          },
         {[](Parser& p) { p.declare({option("a,b,a", "")}); },
          "'a,b,a': the name 'a' is given twice"                                                                                                             },
         {[](Parser& p) {

@@ -199,7 +199,8 @@ TEST_F(Reading, GivesWhatIsGivenAndCanBeRead) {
 }
 
 TEST_F(Reading, KeepsTheValuesOfEachOccurrenceTogether) {
-    const Result result = parse(parser, {"-i=a,b", "-v", "x", "--level=1", "-i=c", "-l=2,3"});
+    const Result result =
+        parse(parser, {"-i=a,b", "-v", "x", "--level=1", "-i=c", "-l=2,3", "--count=9"});
     std::string shown;
     for (const Occurrence& each :
          result.occurrences({"level", "i", "verbose", "file", "include", "count"})) {
@@ -210,7 +211,8 @@ TEST_F(Reading, KeepsTheValuesOfEachOccurrenceTogether) {
         }
         shown += ')';
     }
-    EXPECT_EQ(shown, "i(a b )verbose()file(x )level(1 )i(c )level(2 3 )");
+    EXPECT_EQ(shown, "i(a b )verbose()file(x )level(1 )i(c )level(2 3 )count(9 )");
+    EXPECT_EQ(get<int>(result.occurrences({"count"})[0].values[0]), 2);
 }
 
 TEST_F(Reading, GoesOnAfterAFailure) {

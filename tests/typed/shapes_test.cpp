@@ -54,29 +54,31 @@ struct SortingRow {
 
 TEST(Shapes, OfOptionsBeyondOneValueEach) {
     const SortingRow rows[] = {
-        {{"-n"},                       0,                       "numeric never 3"                                },
-        {{"-n", "-R"},                 0,                       "random never 3"                                 },
-        {{"-R", "--sort=plain"},       0,                       "plain never 3"                                  },
-        {{"--sort=plain", "-R", "-n"}, 0,                       "numeric never 3"                                },
-        {{"--color", "never"},         0,                       "plain always 3"                                 },
-        {{"--col", "--color=auto"},    0,                       "plain auto 3"                                   },
+        {{"-n"},                       0,                       "numeric never 3"                                                      },
+        {{"-n", "-R"},                 0,                       "random never 3"                                                       },
+        {{"-R", "--sort=plain"},       0,                       "plain never 3"                                                        },
+        {{"--sort=plain", "-R", "-n"}, 0,                       "numeric never 3"                                                      },
+        {{"--color", "never"},         0,                       "plain always 3"                                                       },
+        {{"--color=", "auto"},
+         0,                                                     "plain never 3 Option 'color' requires a value in argument: '--color='"},
+        {{"--col", "--color=auto"},    0,                       "plain auto 3"                                                         },
         {{"--color=x"},
          0,                                                     "plain never 3 Value validation problem in argument '--color=x': Option 'color' does not "
-         "allow value 'x'. Possible values follows: 'always', 'never', 'auto'"                        },
-        {{"-nd", "4"},                 bundles,                 "numeric never 9"                                },
+         "allow value 'x'. Possible values follows: 'always', 'never', 'auto'"                                              },
+        {{"-nd", "4"},                 bundles,                 "numeric never 9"                                                      },
         {{"-d4n"},
          unixHabits,                                            "plain never 3 Value validation problem in argument '-d4n': Option "
-         "'depth' can not parse '4n' value, requires a type 'integer' here."                 },
-        {{"-d4", "-c"},                unixHabits,              "plain always 4"                                 },
-        {{"-R", "-d"},                 0,                       "plain never 3 what is shuffled is not that deep"},
-        {{"-R", "-d", "--about"},      0,                       "random never 9"                                 },
-        {{"-nu"},                      unixHabits,              "numeric never 3"                                },
-        {{"-nu"},                      unixHabits | shortNames, "numeric never 3"                                },
-        {{"-un"},                      unixHabits | shortNames, "numeric never 3"                                },
-        {{"-ra"},                      unixHabits,              "random never 3"                                 },
-        {{"-ra"},                      unixHabits | shortNames, "plain never 3 Unknown option: -ra"              },
-        {{"-sort=random"},             shortNames,              "plain never 3 Unknown option: -sort=random"     },
-        {{"--sort=random"},            shortNames,              "random never 3"                                 },
+         "'depth' can not parse '4n' value, requires a type 'integer' here."                                       },
+        {{"-d4", "-c"},                unixHabits,              "plain always 4"                                                       },
+        {{"-R", "-d"},                 0,                       "plain never 3 what is shuffled is not that deep"                      },
+        {{"-R", "-d", "--about"},      0,                       "random never 9"                                                       },
+        {{"-nu"},                      unixHabits,              "numeric never 3"                                                      },
+        {{"-nu"},                      unixHabits | shortNames, "numeric never 3"                                                      },
+        {{"-un"},                      unixHabits | shortNames, "numeric never 3"                                                      },
+        {{"-ra"},                      unixHabits,              "random never 3"                                                       },
+        {{"-ra"},                      unixHabits | shortNames, "plain never 3 Unknown option: -ra"                                    },
+        {{"-sort=random"},             shortNames,              "plain never 3 Unknown option: -sort=random"                           },
+        {{"--sort=random"},            shortNames,              "random never 3"                                                       },
     };
     for (const SortingRow& row : rows) {
         Sorting sorting;
@@ -94,7 +96,8 @@ TEST(Shapes, ShowDefaultsThatTheyWouldTake) {
     parser.showDefaults();
     declareSorting(parser, sorting);
     const std::string help = parser.help();
-    for (const char* shown : {"(default plain)", "(default never)", "(default 3)"}) {
+    for (const char* shown :
+         {"(default plain)", "(default never)", "(default 3)", "-c, --color[=TEXT]  "}) {
         EXPECT_THAT(help, testing::HasSubstr(shown));
     }
     EXPECT_THAT(help, testing::Not(testing::HasSubstr("(0)")));
@@ -110,6 +113,12 @@ TEST(Shapes, SetVariablesBackWhenACheckOfTheLineThrows) {
     const Line line{"-n", "-R"};
     EXPECT_THROW(static_cast<void>(parser.parse(line.argc(), line.argv())), std::runtime_error);
     EXPECT_EQ(sorting.list(), "plain never 3");
+}
+
+TEST(Shapes, AreRefusedWithoutAReasonToo) {
+    Parser parser;
+    parser.check([] { return false; }, "");
+    EXPECT_EQ(parser.parse(0, nullptr).code(), resultRuleBroken);
 }
 
 }  // namespace

@@ -30,13 +30,13 @@ struct Point {
 template <>
 struct zarn::Conversion<Point> {
     static std::optional<Point> read(const char* text, std::string& reason) {
+        reason = "it must be two numbers, as in 3:4";
         std::istringstream in(text);
         Point point;
         char colon = 0;
         if (in >> point.x >> colon >> point.y && colon == ':') {
             return point;
         }
-        reason = "it must be two numbers, as in 3:4";
         return std::nullopt;
     }
     static std::string write(const Point& point) {

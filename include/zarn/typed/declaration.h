@@ -109,8 +109,8 @@ public:
     }
 
     // Makes the value optional: without one, the option counts as given with `value`. One that is
-    // given is attached, as in "--color=never"; the next argument never is. Option files and texts
-    // give the value always.
+    // given is attached, as in "--color=never"; the next argument never is. Help shows it as
+    // "--color[=WHEN]". Option files and texts give the value always. An empty text is a mistake.
     template <typename U>
     Declaration&& withoutValue(const U& value) && {
         static_assert(!std::is_same_v<T, bool>, "a boolean takes no value");

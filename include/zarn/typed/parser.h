@@ -60,8 +60,8 @@ enum ExitCode : int {
 //
 // Mistakes of the author are a std::logic_error that says what and where, thrown when an item is
 // declared or, where that is too early, by the first parse. Exceptions beside it: std::bad_alloc
-// when memory runs out, and what a handler throws that does not derive from std::exception. With an
-// exception no variable is written.
+// when memory runs out, what a handler throws that does not derive from std::exception, and what a
+// check of the whole line throws. With an exception no variable is written.
 class Parser final {
 public:
     // tool   who is parsing; what is left out is not shown
@@ -111,8 +111,9 @@ public:
     void showDefaults() noexcept { internal::showDefaults(vocabulary_.get()); }
 
     // Refuses a command line for which predicate() is not true. It is asked when everything else is
-    // right and the variables are written; they are then set back. `reason` is the message. Where
-    // an option that is alone() is given, nothing is asked.
+    // right and the variables are written; they are then set back, also when it throws, which
+    // leaves the parse. `reason` is the message. Where an option that is alone() is given, nothing
+    // is asked.
     //
     //     parser.check([&] { return !isChecking || files.size() < 2; }, "--check takes one file");
     template <typename Predicate>

@@ -45,13 +45,14 @@ std::vector<Candidate> NameChoice::namesOf(std::string_view dashes, std::string_
     bool isFound = false;
     for (const std::size_t number : open) {
         const OptionDescription& item = registry_.items()[number];
-        isFound = (!item.names.empty() && addName(number, item.names[0])) || isFound;
+        isFound = (!item.names.empty() && addName(number, item.names[0], true)) || isFound;
     }
     // Synonyms are for those who know them: they would only lengthen the list.
+    const bool isAlone = found_.empty();
     for (std::size_t at = 0; !isFound && at < open.size(); ++at) {
         const OptionDescription& item = registry_.items()[open[at]];
         for (std::size_t i = 1; i < item.names.size(); ++i) {
-            addName(open[at], item.names[i]);
+            addName(open[at], item.names[i], isAlone);
         }
     }
     return std::move(found_);
@@ -98,10 +99,10 @@ bool NameChoice::isInCommonGroup(const std::string& action) const {
     return !inBoth(commonGroups_, groups_.holding(action)).empty();
 }
 
-bool NameChoice::addName(std::size_t number, std::string_view name) {
+bool NameChoice::addName(std::size_t number, std::string_view name, bool withNoForm) {
     const bool isAdded = addForm(number, name);
     const OptionDescription& item = registry_.items()[number];
-    if (item.type == vtBool && (!beginning_.empty() || isOnByDefault(item))) {
+    if (withNoForm && item.type == vtBool && (!beginning_.empty() || isOnByDefault(item))) {
         addForm(number, std::string(noPrefix).append(name));
     }
     return isAdded;

@@ -37,7 +37,7 @@ private:
     bool isInCommonGroup(const std::string& action) const;
 
     // Both say whether they have added the name itself, apart from its "no-" form.
-    bool addName(std::size_t number, std::string_view name);
+    bool addName(std::size_t number, std::string_view name, bool withNoForm);
     bool addForm(std::size_t number, std::string_view form);
 
     const RegisteredOptionStorage& registry_;

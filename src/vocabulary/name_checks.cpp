@@ -82,27 +82,24 @@ void checkClashes(std::size_t number, const RegisteredOptionStorage& registry, F
     }
 }
 
-// What two names of an item share and only its names begin with. A name that begins another one is
-// typed in full, and works; empty then.
-std::string_view tieOf(std::size_t number,
-                       std::string_view first,
-                       std::string_view second,
-                       const RegisteredOptionStorage& registry) {
-    const std::string_view tie = commonBeginning(first, second);
-    const bool isName = registry.names().first(tie) != NameIndex::none;
-    return !isName && belongsTo(number, tie, registry) ? tie : "";
+// Whether the item alone has names that begin so, and none that is just this. A name that begins
+// another one is typed in full, and works.
+bool isTie(std::size_t number,
+           std::string_view beginning,
+           const RegisteredOptionStorage& registry) {
+    return registry.names().first(beginning) == NameIndex::none &&
+           belongsTo(number, beginning, registry);
 }
 
-// Each once.
 void checkTies(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
     const OptionDescription& item = registry.items()[number];
-    std::set<std::string_view> told{""};
+    std::set<std::string_view> seen{""};
     for (auto first = item.names.begin(); first != item.names.end(); ++first) {
         for (auto second = first + 1; second != item.names.end(); ++second) {
-            const std::string_view tie = tieOf(number, *first, *second, registry);
-            if (told.insert(tie).second) {
+            const std::string_view common = commonBeginning(*first, *second);
+            if (seen.insert(common).second && isTie(number, common, registry)) {
                 findings.warning(
-                    "own-tie", item.primaryName(), messages::ownTie(tie, *first, *second));
+                    "own-tie", item.primaryName(), messages::ownTie(common, *first, *second));
             }
         }
     }

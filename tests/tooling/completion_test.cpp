@@ -54,7 +54,7 @@ std::string candidates(IParser* parser, const Words& words) {
 void declareVocabulary(PlainTool& tool) {
     tool->action("create,c", "", vtNull, "");
     tool->option("color", "", vtBool, "");
-    tool->option("ask", "", vtBool, "").defaultValue(true);
+    tool->option("ask,w", "", vtBool, "").defaultValue(true);
     tool->modifier("algorithm,a", "create", "", vtString, "")
         .allowValue("crc32")
         .allowValue("adler32")
@@ -107,6 +107,8 @@ const Row rows[] = {
     {"SynonymAlone",            0, {"-k"},                             "-k"                                   },
     {"TypedNoForm",             0, {"--no-c"},                         "--no-color"                           },
     {"NoFormOfDefault",         0, {"--no-a"},                         "--no-ask"                             },
+    {"NoFormBesideSynonym",     0, {"--no-"},                          "--no-color|--no-ask"                  },
+    {"NoFormOfSynonym",         0, {"--no-w"},                         "--no-w"                               },
     {"HiddenName",              0, {"--sec"},                          ""                                     },
     {"HiddenValue",             0, {"--secret="},                      "--secret=x1"                          },
     {"BesideAction",            0, {"--create", "--"},                 besideCreate.c_str()                   },

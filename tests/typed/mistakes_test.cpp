@@ -118,6 +118,10 @@ TEST(Mistakes, ThatAreNoneOfTheDeclarationsAreFoundByACheck) {
         "refused as ambiguous\n"
         "warning no-help 'b': it has no description: help has nothing to say of it\n");
     EXPECT_EQ(parser.check("own-tie,no-help:b"), "");
+    Settings settings;
+    Parser flawless;
+    declareSettings(flawless, settings);
+    EXPECT_EQ(flawless.check(), "");
     parser.declare({option<int>("c", "Help.").into(a)});
     EXPECT_THROW(parser.check(), std::logic_error);
 }

@@ -39,7 +39,7 @@ ItemRecord& record(ItemDescription* item) { return static_cast<ItemRecord&>(*ite
 void conclude(StoredOutcome& outcome, int code) {
     Vocabulary& vocabulary = outcome.vocabulary();
     // Before anything can fail: whatever was parsed aside belongs to this outcome from now on.
-    outcome.asides() = vocabulary.watch().end();
+    outcome.asides() = vocabulary.watch().takeAsides();
     std::string error;
     if (code != resultOk) {
         // The plain text comes first: it is the same for every tool. The face knows the reason.
@@ -81,7 +81,7 @@ void parseAdapted(StoredOutcome& outcome, CommandLine line) {
     Vocabulary& vocabulary = outcome.vocabulary();
     refuseWrong(outcome, &wrongEmptyArgument, line);
     if (outcome.code == resultOk) {
-        vocabulary.watch().begin(outcome.result(), {});
+        const ParseWatch::Session session(vocabulary.watch(), outcome.result(), {});
         conclude(outcome, vocabulary.plain().parseArgsVector(line.argc, line.argv, outcome.plain));
     }
 }
@@ -228,7 +228,8 @@ Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into) {
     std::unique_ptr<StoredOutcome> outcome(into != nullptr ? &stored(into)
                                                            : new StoredOutcome(*vocabulary));
     vocabulary->settle();
-    vocabulary->watch().begin(outcome->result(), std::move(outcome->asides()));
+    const ParseWatch::Session session(
+        vocabulary->watch(), outcome->result(), std::move(outcome->asides()));
     conclude(*outcome, vocabulary->plain().parseStream(text, outcome->plain));
     writeVariables(*outcome);
     return outcome.release();

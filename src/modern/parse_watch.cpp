@@ -48,17 +48,17 @@ bool ParseWatch::isNeeded() const {
 }
 
 bool ParseWatch::accepts(const ItemRecord& item, const Value& value) {
-    reason_.clear();
+    parse_.reason.clear();
     if ((vocabulary_.habits() & loneDash) != 0 && item.type == vtString &&
         std::string_view(value.text) == "-") {
         return true;  // the standard input
     }
     // As what it is read as: a deprecated value need not lie within the bounds.
-    if (!item.holds(item.replaced(value), false, reason_)) {
-        told_.make(checkFailed, {}, value.text, item.primaryName(), value.text);
+    if (!item.holds(item.replaced(value), false, parse_.reason)) {
+        parse_.told.make(checkFailed, {}, value.text, item.primaryName(), value.text);
         return false;
     }
-    reason_.clear();  // a Conversion may have left one, though it has read the text
+    parse_.reason.clear();  // a Conversion may have left one, though it has read the text
     return true;
 }
 
@@ -78,9 +78,9 @@ int ParseWatch::parseAside(const ItemRecord& item,
     // The first is the name of the program.
     const char* const arguments[] = {"", argument.c_str()};
     const int code = parser.parseArgsVector(2, arguments, &result);
-    refine(parser.failure(), told_.get());
-    told_ = std::move(parser.failure());
-    if (Failure* const failure = told_.get()) {
+    refine(parser.failure(), parse_.told.get());
+    parse_.told = std::move(parser.failure());
+    if (Failure* const failure = parse_.told.get()) {
         // It counts in the line of two arguments above, which nobody has typed.
         failure->index = 0;
         retype(*failure, typed);
@@ -93,25 +93,25 @@ int ParseWatch::parseAside(const ItemRecord& item,
     return code;
 }
 
-void ParseWatch::begin(const ParseResult& result, std::vector<Aside> asides) {
-    reason_.clear();
-    instead_.clear();
-    told_.clear();
-    asides_ = std::move(asides);
-    const auto& positionals = vocabulary_.positionals();
+ParseWatch::Session::Session(ParseWatch& watch,
+                             const ParseResult& result,
+                             std::vector<Aside> asides)
+    : watch_(watch), outer_(std::exchange(watch.parse_, {})) {
+    watch.parse_.asides = std::move(asides);
+    const auto& positionals = watch.vocabulary_.positionals();
     // A text that is parsed into a result goes on with the places behind those that are taken.
     const StoredOption* const given =
         positionals.empty() ? nullptr : result.find(positionals[0]->primaryName());
-    positionalCount_ = given == nullptr ? 0 : given->values.size();
+    watch.parse_.positionalCount = given == nullptr ? 0 : given->values.size();
 }
 
 std::string ParseWatch::explained(std::string message) const {
     // From what is known best to what has to be guessed from the text.
-    if (!instead_.empty()) {
-        return instead_;
+    if (!parse_.instead.empty()) {
+        return parse_.instead;
     }
-    if (!reason_.empty()) {
-        return messages::withReason(message, reason_);
+    if (!parse_.reason.empty()) {
+        return messages::withReason(message, parse_.reason);
     }
     if (const ItemRecord* const action = actionWithoutPlace(message)) {
         return messages::takesNo(*action, *vocabulary_.positionals().front());
@@ -169,11 +169,11 @@ bool ParseWatch::onValueParse(const char* name, const Value& value) {
 
 bool ParseWatch::takePositional(const Value& value) {
     const std::size_t last = vocabulary_.positionals().size() - 1;
-    const std::size_t number = positionalCount_++;
+    const std::size_t number = parse_.positionalCount++;
     const ItemRecord& item = *vocabulary_.positionals()[std::min(number, last)];
     if (number > last && !item.takesMany()) {
-        instead_ = messages::unexpectedArgument(value.text);
-        told_.make(unexpectedArgument, {}, value.text, "", value.text);
+        parse_.instead = messages::unexpectedArgument(value.text);
+        parse_.told.make(unexpectedArgument, {}, value.text, "", value.text);
         return false;
     }
     // A single item is stored as what it is: the parse has converted the value already.
@@ -183,26 +183,26 @@ bool ParseWatch::takePositional(const Value& value) {
     const std::string argument = filled("--{}={}", {item.primaryName(), value.text});
     std::string error;
     const int code = parseAside(item, argument, value.text, positionalAside(item), error);
-    instead_ = error;
+    parse_.instead = error;
     return code == resultOk;
 }
 
 // The plain message would name the item under which the arguments are stored.
 bool ParseWatch::refusePositional(const ItemRecord& item, const Value& value) {
-    instead_ = messages::withReason(
-        messages::vetoedValue(value.text, item.primaryName(), value.text), reason_);
+    parse_.instead = messages::withReason(
+        messages::vetoedValue(value.text, item.primaryName(), value.text), parse_.reason);
     return false;
 }
 
 ParseResult& ParseWatch::positionalAside(const ItemRecord& item) {
-    for (const Aside& each : asides_) {
+    for (const Aside& each : parse_.asides) {
         if (each.item == &item && each.origin == Origin::commandLine) {
             return *each.result;
         }
     }
     // All values of an item in one result, where they keep their order.
-    asides_.push_back({&item, Origin::commandLine, std::make_unique<ParseResult>()});
-    return *asides_.back().result;
+    parse_.asides.push_back({&item, Origin::commandLine, std::make_unique<ParseResult>()});
+    return *parse_.asides.back().result;
 }
 
 }  // namespace zarn_3_3::internal

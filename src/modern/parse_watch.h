@@ -26,6 +26,15 @@ struct Aside {
     std::unique_ptr<ParseResult> result;
 };
 
+// What is known of a parse while it runs.
+struct WatchedParse {
+    std::string reason;   // why a value was refused, to be put behind the message
+    std::string instead;  // a message in place of the plain one
+    FailureNote told;     // beyond what the plain parser notes
+    std::size_t positionalCount = 0;
+    std::vector<Aside> asides;
+};
+
 // Asks the checks, and gives the arguments of several positional items to each.
 class ParseWatch final : public EventHandler {
 public:
@@ -34,12 +43,24 @@ public:
     // Whether there is anything to listen for.
     bool isNeeded() const;
 
-    // `asides`: what was parsed aside for what the result holds already.
-    void begin(const ParseResult& result, std::vector<Aside> asides);
-    std::vector<Aside> end() { return std::move(asides_); }
+    // One parse. A handler may run it inside another, which then goes on as it was.
+    class Session final {
+    public:
+        // `asides`: what was parsed aside for what the result holds already.
+        Session(ParseWatch& watch, const ParseResult& result, std::vector<Aside> asides);
+        Session(const Session&) = delete;
+        Session& operator=(const Session&) = delete;
+        ~Session() { watch_.parse_ = std::move(outer_); }
+
+    private:
+        ParseWatch& watch_;
+        WatchedParse outer_;
+    };
+
+    std::vector<Aside> takeAsides() { return std::move(parse_.asides); }
 
     // What is known of a value that was refused in this parse.
-    FailureNote& told() { return told_; }
+    FailureNote& told() { return parse_.told; }
 
     // The message of a failed parse, and what is known beyond it.
     std::string explained(std::string message) const;
@@ -65,11 +86,7 @@ private:
     ParseResult& positionalAside(const ItemRecord& item);
 
     const Vocabulary& vocabulary_;
-    std::string reason_;   // why a value was refused, to be put behind the message
-    std::string instead_;  // a message in place of the plain one
-    FailureNote told_;     // beyond what the plain parser notes
-    std::size_t positionalCount_ = 0;
-    std::vector<Aside> asides_;
+    WatchedParse parse_;
 };
 
 }  // namespace zarn_3_3::internal

@@ -251,5 +251,21 @@ TEST_F(Reading, LambdasHearAsLongAsTheyLive) {
     EXPECT_EQ(heard, "level--newverboselevel");
 }
 
+TEST(ReadingOf, ALineGoesOnBehindAParseInsideAHandler) {
+    Parser parser;
+    parser.declare({option<int>("level", "").between(1, 5),
+                    option("nest", ""),
+                    positional("from", ""),
+                    positional<int>("to", "")});
+    const OnOption nested(parser, [&](std::string_view name) {
+        if (name == "nest") {
+            EXPECT_EQ(parser.parseStream("--level=9").code(), resultVetoed);
+        }
+    });
+    const Result result = parse(parser, {"here", "2", "--nest", "--new"});
+    EXPECT_STREQ(result.text(), "Unknown option: --new");
+    EXPECT_EQ(result.get<int>("to"), 2);
+}
+
 }  // namespace
 }  // namespace zarn_3_3

@@ -45,8 +45,7 @@ enum ToolingCode : int {
 // perhaps, has an empty answer.
 //
 // parser  with everything declared; nothing in it changes that can be seen: no handler runs, no
-// file
-//         is read, no number of the sequence is drawn, getErrorDesc answers as before
+//         file is read, no number of the sequence is drawn, getErrorDesc answers as before
 // tool    who answers
 // argc    as given to main
 // argv    as given to main; may be null when `argc` is 0

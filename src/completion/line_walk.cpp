@@ -75,7 +75,9 @@ NamedItem::NamedItem(std::string_view name, const RegisteredOptionStorage& regis
     isAmbiguous = resolveName(name, registry, item, form) == Matches::several;
 }
 
-bool waitsForValue(const OptionDescription& item) { return needsValue(item) && !item.isValueOptional; }
+bool waitsForValue(const OptionDescription& item) {
+    return needsValue(item) && !item.isValueOptional;
+}
 
 WordPlace placeBehind(const std::vector<std::string>& words, const BasicParser& parser) {
     LineWalk walk(parser);

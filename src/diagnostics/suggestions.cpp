@@ -102,10 +102,7 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
 
 // Allowed values like the one that was typed, in the argument in which that stands.
 Texts valuesLike(const Failure& failure, const OptionDescription& item) {
-    if (failure.valueAt == elsewhere) {
-        return {};
-    }
-    const Texts allowed = allowedValues(item);
+    const Texts allowed = failure.valueAt == elsewhere ? Texts() : allowedValues(item);
     Nearest nearest(failure.value);
     for (std::size_t i = 0; i < allowed.size(); ++i) {
         const std::string& value = allowed[i];

@@ -1,4 +1,4 @@
-// The arguments in front of a parse: empty ones, and the habits of Unix.
+// The arguments in front of a parse, and what is wrong with them that the parse would let pass.
 
 #ifndef ZARN_MODERN_ARGUMENTS_H
 #define ZARN_MODERN_ARGUMENTS_H
@@ -17,13 +17,6 @@ struct CommandLine {
     const char* const* argv;
 };
 
-// An argument as it is parsed, and, where that differs, as it was typed.
-struct Word {
-    std::string text;
-    std::string typed;
-    int index = 0;  // in argv; of several arguments the first
-};
-
 // An argument cut as the parse cuts it. `isOption` is false for what has no dash in front.
 struct CutArgument {
     std::string_view name;
@@ -33,6 +26,14 @@ struct CutArgument {
 
 CutArgument cutArgument(const std::string& argument);
 CutArgument cutArgument(std::string&&) = delete;  // the views would dangle
+
+// Whether nothing stands behind the name, no "=" either.
+bool isNameAlone(const CutArgument& cut, const std::string& argument);
+
+bool isAtArgument(CommandLine line, int index);
+
+// Whether several letters stand behind one dash.
+bool isBundle(std::string_view argument);
 
 // Whether the argument begins with any of the dashes.
 bool hasDash(const std::string& argument);
@@ -73,12 +74,6 @@ std::string wrongNamedArgument(Vocabulary& vocabulary, CommandLine line);
 // What is wrong with the first argument that has one dash in front of a long name, where that is
 // no habit. Empty when there is none.
 std::string wrongLongName(Vocabulary& vocabulary, CommandLine line);
-
-// The arguments behind the first, taken apart by the habits that the vocabulary accepts.
-std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);
-
-// Has the message quote what was typed.
-void quoteTyped(std::string& message, const std::vector<Word>& words);
 
 }  // namespace zarn_3_3::internal
 

@@ -13,6 +13,7 @@
 #include "modern/arguments.h"
 #include "modern/behind_parse.h"
 #include "modern/failures.h"
+#include "modern/habits.h"
 #include "modern/messages.h"
 #include "modern/outcome.h"
 #include "modern/pages.h"

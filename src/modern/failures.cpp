@@ -65,21 +65,19 @@ void refine(FailureNote& note, const Failure* told) {
 }
 
 std::string toldInFull(Vocabulary& vocabulary, const std::string& text) {
-    const Failure* const failure = vocabulary.plain().failure().get();
-    if (failure == nullptr) {
-        return text;
-    }
+    static const Failure unknown;  // its note was lost with the memory
+    const Failure* const noted = vocabulary.plain().failure().get();
+    const Failure& failure = noted != nullptr ? *noted : unknown;
     std::string told = text;
     // Looked for only here, where somebody reads them: parse() leaves them to diagnose().
-    const std::vector<std::string> meant =
-        suggestionsFor(*failure, vocabulary.plain().vocabulary());
+    const std::vector<std::string> meant = suggestionsFor(failure, vocabulary.plain().vocabulary());
     if (!meant.empty()) {
         told = messages::didYouMean(told, alternatives(meant));
     }
     // In front, as compilers have it: editors find the line by it.
-    if (!failure->file.empty()) {
-        told = messages::atLine(
-            failure->file, textFromNumber<unsigned long long>(failure->line), told);
+    if (!failure.file.empty()) {
+        told =
+            messages::atLine(failure.file, textFromNumber<unsigned long long>(failure.line), told);
     }
     return told;
 }

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-#include "modern/arguments.h"
+#include "modern/habits.h"
 #include "modern/vocabulary.h"
 #include "recognizers/failure.h"
 

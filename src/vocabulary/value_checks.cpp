@@ -45,10 +45,8 @@ bool isOfType(das_variant_type_t type, const variant_t& value) {
             return isKeptAs<unsigned>(value);
         case vtS64:
             return isKeptAs<long long>(value);
-        case vtU64:
+        default:  // unsigned 64 bits
             return isKeptAs<unsigned long long>(value);
-        default:
-            return false;
     }
 }
 

@@ -229,6 +229,12 @@ TEST(Checks, NeedTheirMemoryAndNothingElse) {
     PlainTool tool;
     addOption(tool, "color,colour"), addOption(tool, "a", vtNull).allowValue("x");
     tool->allowSimultaneousActions({"a", "b"});
+    static_cast<Countdown&>(memory) = {1, false, false};
+    tool->option("lost", "Help.", vtNull, "a section of some length");
+    static_cast<Countdown&>(memory) = {};
+    const char* text = nullptr;
+    EXPECT_EQ(checkVocabulary(tool.parser, nullptr, &text), errorsFound);
+    EXPECT_NE(std::string(text).find("memory ran out"), std::string::npos) << text;
     long n = 0;
     for (bool hasStruck = true; hasStruck; ++n) {
         const char* findings = nullptr;

@@ -61,7 +61,7 @@ public:
         }
         const std::string word =
             isValue ? typed + "=" + valueOf(item).substr(0, static_cast<std::size_t>(upTo(1)))
-                    : typed.substr(0, std::min<std::size_t>(1 + upTo(4), nameEnd));
+                    : typed.substr(0, std::min(static_cast<std::size_t>(1 + upTo(4)), nameEnd));
         return checkAt(word, isValue ? &item : nullptr);
     }
 

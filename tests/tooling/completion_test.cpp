@@ -192,6 +192,7 @@ TEST(PlainWordsOfTheModernFace, BelongToTheItemsByTheirPlaces) {
     IParser* const plain = parser.operator->();
     EXPECT_EQ(candidates(plain, {""}), "");
     EXPECT_EQ(candidates(plain, {"1", "f"}), "fast");
+    EXPECT_EQ(candidates(plain, {"--nowhere", "1", "f"}), "fast");
     EXPECT_EQ(candidates(plain, {"1", "fast", ""}), "files");
     EXPECT_EQ(candidates(plain, {"1", "fast", "x", ""}), "files");
     EXPECT_EQ(candidates(plain, {"--c"}), "--color");

@@ -237,6 +237,19 @@ TEST_F(FormattedHelp, KeepsToItsWidth) {
     }
 }
 
+TEST(FormattedHelpOf, AToolWithoutTitlesAndActionsNamesItsHiddenOptions) {
+    PlainTool plain;
+    plain->action("go", "Goes.", vtNull, "");
+    plain->modifier("lost", "nowhere", "Of no action.", vtNull, "");
+    plain->option("secret", "For us.", vtNull, "zarn_hidden");
+    const HelpStyle style = styleOf(80, helpWithHidden);
+    const char* text = nullptr;
+    ASSERT_EQ(formatHelp(plain.parser, &style, &text), toolingDone);
+    const std::string shown = text;
+    EXPECT_NE(shown.find("--lost     Of no action."), std::string::npos) << shown;
+    EXPECT_NE(shown.find("Hidden options:\n  --secret   For us."), std::string::npos) << shown;
+}
+
 TEST_F(FormattedHelp, SharesAUsageLineAmongManyActions) {
     for (const char* const name : {"fold", "cut", "sew", "ship"}) {
         tool->action(name, "", vtNull, "");

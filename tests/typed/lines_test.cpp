@@ -4,6 +4,7 @@
 
 #include <cstdlib>
 #include <fstream>
+#include <memory>
 
 #include "support/failing_new.h"
 #include "typed/tool_under_test.h"
@@ -369,10 +370,10 @@ TEST(LackOfMemory, LeavesTheVariablesAsTheyWere) {
     std::size_t failures = 0;
     for (long n = 1;; ++n) {
         Settings settings;
-        std::optional<Parser> parser;
+        std::unique_ptr<Parser> parser;
         try {
             memory.left = n;
-            parser.emplace();
+            parser = std::make_unique<Parser>();
             declareSettings(*parser, settings);
             parser->accept(unixHabits);
             const Result result = parser->parse(line.argc(), line.argv());

@@ -167,6 +167,20 @@ TEST(RunOf, AToolTellsWhatWasProbablyMeant) {
     }
 }
 
+TEST(RunOf, AToolMayDeclareMoreInAHandler) {
+    Parser parser;
+    parser.declare({option<std::string>("mode", "").allow({"new", "newer"}).deprecate("old", "new"),
+                    option("never", ""),
+                    option<int>("jobs", "").between(1, 9)});
+    const OnValue declaring(parser, [&](const char*, const Value&) {
+        parser->option("late", "", vtString, "");
+        return true;
+    });
+    EXPECT_EQ(run(parser, {"--jobs=3", "--late=x", "--mode=newer"}).code, std::nullopt);
+    EXPECT_EQ(parser.result().get<std::string>("mode"), "newer");
+    EXPECT_TRUE(parser.result().occurrences({"never"}).empty());
+}
+
 TEST(RunOf, AToolLeavesToItWhatItHasItself) {
     bool help = false;
     Parser parser;

@@ -1,0 +1,107 @@
+// What can be asked of a vocabulary only when everything is declared: in front of a parse.
+
+#include <algorithm>
+#include <memory>
+#include <new>
+#include <utility>
+#include <vector>
+
+#include "modern/messages.h"
+#include "modern/vocabulary.h"
+#include "options/registered_option_storage.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+Role roleOf(const OptionDescription& plain) {
+    if (plain.kind == kindAction) {
+        return Role::action;
+    }
+    return plain.isPositional ? Role::positional : Role::option;
+}
+
+}  // namespace
+
+void Vocabulary::settle() {
+    takeInPlainItems();
+    // What has been looked at stays right, but for variables, which a new item may share.
+    if (settledItems_ < items_.size()) {
+        requireOwnTargets();
+    }
+    for (; settledItems_ < items_.size(); ++settledItems_) {
+        requireActions(*items_[settledItems_]);
+    }
+    for (; settledRules_ < rules_.size(); ++settledRules_) {
+        settle(rules_[settledRules_]);
+    }
+    // Late, since most vocabularies have nothing to listen for, and an unheard parse is the
+    // fastest.
+    if (!isListening_ && watch_.isNeeded()) {
+        isListening_ = plain_->addHandler(&watch_);
+        if (!isListening_) {
+            throw std::bad_alloc();
+        }
+    }
+}
+
+// What the face itself declares has its record already.
+void Vocabulary::takeInPlainItems() {
+    const OptionList& plainItems = plain_->vocabulary().items();
+    byIndex_.resize(plainItems.size());
+    for (std::size_t i = 0; i < plainItems.size(); ++i) {
+        if (byIndex_[i] == nullptr) {
+            // So that rules and queries need not know by whom an item was declared.
+            auto item = std::make_unique<ItemRecord>();
+            item->role = roleOf(plainItems[i]);
+            item->type = plainItems[i].type;
+            item->separator = plainItems[i].tokenizer;
+            item->plain = &plainItems[i];
+            item->isPlain = true;
+            items_.push_back(std::move(item));
+            byIndex_[i] = items_.back().get();
+        }
+    }
+}
+
+void Vocabulary::requireActions(const ItemRecord& item) const {
+    if (item.role == Role::action) {
+        return;
+    }
+    for (const std::string& name : item.plain->tags) {
+        const ItemRecord* const action = recordAt(indexOf(name));
+        if (action == nullptr || action->role != Role::action || action->primaryName() != name) {
+            mistake(item.allNames().c_str(), messages::noSuchAction(name));
+        }
+    }
+}
+
+// The values of two items for one variable would overwrite each other.
+void Vocabulary::requireOwnTargets() const {
+    // Sorted, since a tool of a thousand options would feel a look at each pair.
+    std::vector<std::pair<const void*, std::size_t>> owners;
+    owners.reserve(items_.size());
+    for (std::size_t i = 0; i < items_.size(); ++i) {
+        // Constants are meant to share: what was given last counts.
+        if (items_[i]->target != nullptr && items_[i]->extras().constant.value == nullptr) {
+            owners.emplace_back(items_[i]->variable, i);
+        }
+    }
+    std::sort(owners.begin(), owners.end());
+    const auto shared =
+        std::adjacent_find(owners.begin(), owners.end(), [](const auto& a, const auto& b) {
+            return a.first == b.first;
+        });
+    if (shared != owners.end()) {
+        mistake(items_[(shared + 1)->second]->allNames().c_str(),
+                messages::variableTaken(items_[shared->second]->allNames()));
+    }
+}
+
+void Vocabulary::settle(Rule& rule) const {
+    rule.items.clear();
+    for (const std::string& name : rule.names) {
+        rule.items.push_back(&require(name));
+    }
+}
+
+}  // namespace zarn_3_3::internal

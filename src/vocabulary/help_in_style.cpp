@@ -14,18 +14,23 @@ namespace {
 
 constexpr std::uint32_t leastWidth = 20;
 
+// `end`: behind the field.
+template <typename Field>
+void take(Field HelpStyle::*field, std::size_t end, const HelpStyle& given, HelpStyle& style) {
+    if (given.size >= end) {
+        style.*field = given.*field;
+    }
+}
+
 // What a caller of another version has of it.
 HelpStyle known(const HelpStyle& given) {
+    constexpr std::size_t number = sizeof(std::uint32_t);
+    constexpr std::size_t pointer = sizeof(const void*);
     HelpStyle style;
-    const auto take = [&](auto HelpStyle::*field, std::size_t offset) {
-        if (given.size >= offset + sizeof(style.*field)) {
-            style.*field = given.*field;
-        }
-    };
-    take(&HelpStyle::width, offsetof(HelpStyle, width));
-    take(&HelpStyle::flags, offsetof(HelpStyle, flags));
-    take(&HelpStyle::topic, offsetof(HelpStyle, topic));
-    take(&HelpStyle::tool, offsetof(HelpStyle, tool));
+    take(&HelpStyle::width, offsetof(HelpStyle, width) + number, given, style);
+    take(&HelpStyle::flags, offsetof(HelpStyle, flags) + number, given, style);
+    take(&HelpStyle::topic, offsetof(HelpStyle, topic) + pointer, given, style);
+    take(&HelpStyle::tool, offsetof(HelpStyle, tool) + pointer, given, style);
     return style;
 }
 

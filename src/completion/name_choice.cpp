@@ -9,13 +9,10 @@
 #include "parser/action_groups.h"
 #include "parser/basic_parser.h"
 #include "recognizers/argument_reading.h"
+#include "text/typed_form.h"
 
 namespace zarn_3_3::internal {
 namespace {
-
-bool isModifier(const OptionDescription& item) {
-    return item.kind != kindAction && !item.tags.empty();
-}
 
 bool isOnByDefault(const OptionDescription& item) {
     return item.hasDefault && item.defaultVal.get<bool>();
@@ -66,7 +63,7 @@ std::vector<std::size_t> NameChoice::openItems() const {
         const OptionDescription& item = registry_.items()[i];
         if (isOpen(item)) {
             std::vector<std::size_t>& ofKind = item.kind == kindAction ? actions
-                                               : isModifier(item)      ? modifiers
+                                               : item.isModifier()     ? modifiers
                                                                        : options;
             ofKind.push_back(i);
         }
@@ -85,7 +82,7 @@ bool NameChoice::isOpen(const OptionDescription& item) const {
         return goesWithGiven(item);
     }
     // Who begins to type a modifier may mean to name its action later.
-    return !beginning_.empty() || !registry_.hasActions() || !isModifier(item);
+    return !beginning_.empty() || !registry_.hasActions() || !item.isModifier();
 }
 
 bool NameChoice::goesWithGiven(const OptionDescription& item) const {
@@ -114,11 +111,7 @@ bool NameChoice::addForm(std::size_t number, std::string_view form) {
     if (form.substr(0, beginning_.size()) != beginning_) {
         return false;
     }
-    std::string word(dashes_);
-    if (dashes_.empty()) {
-        word = form.size() > 1 ? "--" : "-";
-    }
-    word += form;
+    std::string word = dashes_.empty() ? typedForm(form) : std::string(dashes_).append(form);
     CutOption cut;
     const bool isTypeable = cutOption(word, globalTextLocale(), cut) && !cut.hasValue &&
                             cut.isNamed() && cut.name == form;

@@ -9,6 +9,7 @@
 #include "help/messages.h"
 #include "help/shown_item.h"
 #include "help/wrapped_text.h"
+#include "text/typed_form.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -190,14 +191,18 @@ private:
 
     Place placeOf(const ShownItem& shown, const ShownItem* action) const {
         const Group group = groupOf(shown, action);
+        const bool isApart = group == optionsOfActions && action == nullptr;
+        return placeAt(shown.isHidden ? sections_.size() : shown.item->section,
+                       group,
+                       isApart ? firstWithActionsOf(shown) : 0);
+    }
+
+    std::size_t firstWithActionsOf(const ShownItem& shown) const {
         const std::vector<ShownItem>& all = items_.all();
         const auto first = std::find_if(all.begin(), all.end(), [&](const ShownItem& other) {
             return other.actions == shown.actions && other.isOption();
         });
-        const bool isApart = group == optionsOfActions && action == nullptr;
-        return placeAt(shown.isHidden ? sections_.size() : shown.item->section,
-                       group,
-                       isApart ? static_cast<std::size_t>(first - all.begin()) : 0);
+        return static_cast<std::size_t>(first - all.begin());
     }
 
     std::string titleOf(const ShownItem& shown, const ShownItem* action) const {

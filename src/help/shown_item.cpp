@@ -5,6 +5,8 @@
 #include "help/help_renderer.h"
 #include "help/messages.h"
 #include "options/action_modifiers.h"
+#include "text/listed.h"
+#include "text/typed_form.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -44,17 +46,6 @@ void appendValue(std::string& text, const ShownItem& shown) {
     } else if (shown.item->type != vtNull && shown.item->type != vtBool) {
         text.append(" ").append(shown.valueName);
     }
-}
-
-// One of a list, behind which `left` others follow: "a", "a or b", "a, b or c".
-void appendListed(std::string& list,
-                  std::string_view word,
-                  std::size_t left,
-                  std::string_view lastSeparator) {
-    if (!list.empty()) {
-        list.append(left == 0 ? lastSeparator : ", ");
-    }
-    list.append(word);
 }
 
 std::string valuesOf(const OptionDescription& item) {
@@ -176,7 +167,7 @@ ShownItems::ShownItems(const RegisteredOptionStorage& registry) : items_(registr
 }
 
 void ShownItems::readActions(ShownItem& shown) {
-    if (shown.isAction() || shown.item->tags.empty()) {
+    if (!shown.item->isModifier()) {
         return;
     }
     for (const ShownItem* const action : actions_) {
@@ -201,10 +192,6 @@ std::string ShownItems::actionNames(const ShownItem& shown, std::string_view las
         }
     }
     return names;
-}
-
-std::string typedForm(std::string_view name) {
-    return std::string(isShort(name) ? "-" : "--").append(name);
 }
 
 std::string bold(std::string_view text) {

@@ -65,9 +65,6 @@ private:
     std::size_t visibleActions_ = 0;
 };
 
-// How a name is typed: "-j", "--jobs".
-std::string typedForm(std::string_view name);
-
 std::string bold(std::string_view text);
 
 }  // namespace zarn_3_3::internal

@@ -19,14 +19,10 @@ bool isBundle(std::string_view argument) {
     return argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
 }
 
-bool isNameAlone(const CutArgument& cut, const std::string& argument) {
-    return cut.name.data() + cut.name.size() == argument.data() + argument.size();
-}
-
 namespace {
 
-bool isEmptyValue(const CutArgument& cut, const std::string& argument) {
-    return cut.isOption && cut.value.empty() && !isNameAlone(cut, argument);
+bool hasEmptyValue(const CutArgument& cut) {
+    return cut.isOption && cut.hasValue && cut.value.empty();
 }
 
 // The item whose value the next argument is; null when it is none.
@@ -75,11 +71,7 @@ bool hasDash(const std::string& argument) { return getDashLength(argument, 0) !=
 
 CutArgument cutArgument(const std::string& argument) {
     CutArgument cut;
-    // A dash alone is no option in the parse, either.
-    cut.isOption = argument.size() > 1 && hasDash(argument);
-    if (cut.isOption) {
-        splitOptionValue(argument, &cut.name, &cut.value, globalTextLocale());
-    }
+    cut.isOption = cutOption(argument, globalTextLocale(), cut);
     return cut;
 }
 
@@ -116,8 +108,7 @@ std::string wrongEmptyArgument(Vocabulary& vocabulary, CommandLine line) {
         // It ends in "=" or a blank, as of "--output=$EMPTY", and the parse would look for the
         // value in the next argument, also where the option may do without one.
         const CutArgument cut = cutArgument(argument);
-        const ItemRecord* const item =
-            isEmptyValue(cut, argument) ? vocabulary.resolve(cut.name) : nullptr;
+        const ItemRecord* const item = hasEmptyValue(cut) ? vocabulary.resolve(cut.name) : nullptr;
         if (item != nullptr && item->takesValue()) {
             return refuse(
                 vocabulary,

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "modern/vocabulary.h"
+#include "recognizers/argument_reading.h"
 
 namespace zarn_3_3::internal {
 
@@ -18,17 +19,12 @@ struct CommandLine {
 };
 
 // An argument cut as the parse cuts it. `isOption` is false for what has no dash in front.
-struct CutArgument {
-    std::string_view name;
-    std::string_view value;
+struct CutArgument : CutOption {
     bool isOption = false;
 };
 
 CutArgument cutArgument(const std::string& argument);
 CutArgument cutArgument(std::string&&) = delete;  // the views would dangle
-
-// Whether nothing stands behind the name, no "=" either.
-bool isNameAlone(const CutArgument& cut, const std::string& argument);
 
 bool isAtArgument(CommandLine line, int index);
 

@@ -5,6 +5,8 @@
 
 #include "diagnostics/suggestions.h"
 #include "modern/messages.h"
+#include "text/filled.h"
+#include "text/listed.h"
 #include "text/number_text.h"
 
 namespace zarn_3_3::internal {
@@ -13,10 +15,9 @@ namespace {
 // "'a', 'b' or 'c'"
 std::string alternatives(const std::vector<std::string>& texts) {
     std::string list;
+    std::size_t left = texts.size();
     for (const std::string& text : texts) {
-        const bool isLast = &text == &texts.back();
-        list += list.empty() ? "" : isLast ? " or " : ", ";
-        list += "'" + text + "'";
+        appendListed(list, filled("'{}'", {text}), --left, " or ");
     }
     return list;
 }

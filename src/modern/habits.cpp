@@ -78,9 +78,8 @@ private:
         const CutArgument cut = cutArgument(argument);
         // Letters in a row are no name then, even where a name begins so.
         const bool isLong = !has(shortNames) || !isBundle(argument);
-        const ItemRecord* const item = cut.isOption && isNameAlone(cut, argument) && isLong
-                                           ? vocabulary_.resolve(cut.name)
-                                           : nullptr;
+        const ItemRecord* const item =
+            cut.isOption && !cut.hasValue && isLong ? vocabulary_.resolve(cut.name) : nullptr;
         if (item == nullptr || !item->hasOptionalValue()) {
             return false;
         }

@@ -8,7 +8,7 @@
 #include <new>
 
 #include "modern/messages.h"
-#include "text/filled.h"
+#include "text/typed_form.h"
 #include "zarn/typed/declaration.h"
 
 namespace zarn_3_3::internal {
@@ -89,7 +89,7 @@ std::string ItemRecord::called() const {
     if (role == Role::positional) {
         return *shownName == '\0' ? primaryName() : shownName;
     }
-    return typedName(primaryName());
+    return typedForm(primaryName());
 }
 
 void ItemRecord::configure(IOption& item) const {
@@ -164,10 +164,6 @@ Value ItemRecord::replaced(const Value& value) const {
     read.value = found->second;
     read.text = get_variant_value(read.value, value.text);
     return read;
-}
-
-std::string typedName(std::string_view name) {
-    return filled("{}{}", {name.size() == 1 ? "-" : "--", name});
 }
 
 void append(Check*& checks, Check* check) noexcept {

@@ -29,7 +29,7 @@ struct ItemRecord final : ItemDescription {
     bool needsValue() const { return takesValue() && extras().impliedValue.type() == vtNull; }
     bool hasOptionalValue() const { return takesValue() && !needsValue(); }
     bool takesMany() const { return target == nullptr || target->takesMany; }
-    bool isModifier() const { return role != Role::action && !plain->tags.empty(); }
+    bool isModifier() const { return plain->isModifier(); }
     const std::string& primaryName() const { return plain->primaryName(); }
 
     // All names, as they were given.
@@ -63,9 +63,6 @@ struct ItemRecord final : ItemDescription {
     bool isAnswered = false;                   // without the tool, as help is
     bool isPlain = false;                      // declared with the plain interface
 };
-
-// "-j", "--jobs"
-std::string typedName(std::string_view name);
 
 // Puts the check at the end of those.
 void append(Check*& checks, Check* check) noexcept;

@@ -7,6 +7,7 @@
 
 #include "modern/messages.h"
 #include "options/registered_option_storage.h"
+#include "recognizers/argument_reading.h"
 #include "text/filled.h"
 #include "text/split.h"
 #include "zarn/option.h"
@@ -198,16 +199,10 @@ const ItemRecord& Vocabulary::require(std::string_view name) const {
 }
 
 const ItemRecord* Vocabulary::resolve(std::string_view text) const {
-    const RegisteredOptionStorage& registry = plain_->vocabulary();
-    const std::size_t exact = indexOf(text);
-    if (exact != NameIndex::none) {
-        return recordAt(exact);
-    }
-    // The index of the parse, so that both agree on what an abbreviation means.
-    const PrefixIndex::Found found = registry.findBeginning(text);
-    return found.first != KeptTexts::none && found.isOnly
-               ? recordAt(registry.names().firstWithForm(found.first))
-               : nullptr;
+    std::size_t index = NameIndex::none;
+    std::string_view form;
+    const Matches matches = resolveName(text, plain_->vocabulary(), index, form);
+    return matches == Matches::one ? recordAt(index) : nullptr;
 }
 
 bool Vocabulary::isBeginning(std::string_view text) const {

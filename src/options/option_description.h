@@ -59,6 +59,9 @@ public:
     // By primary name, byte-wise: the order of the help.
     bool operator<(const OptionDescription& other) const;
 
+    // Whether it belongs to actions: any tag makes an option a modifier.
+    bool isModifier() const { return kind != kindAction && !tags.empty(); }
+
     // The primary name; empty for an item without names.
     const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 

@@ -133,11 +133,11 @@ private:
         commonGroups_.swap(stillCommon);
     }
 
-    // Any tag makes an option a modifier; one that has only its default is never refused.
+    // One that has only its default is never refused.
     int checkModifiers(const std::vector<GivenItem>& given) {
         for (const GivenItem& one : given) {
             const OptionDescription& item = *one.item;
-            if (item.kind != kindAction && !item.tags.empty() && !one.entry->positions.empty() &&
+            if (item.isModifier() && !one.entry->positions.empty() &&
                 !isIntersected(item.tags, actions_)) {
                 const std::string& name = item.primaryName();
                 const std::string& action = firstAction_->primaryName();

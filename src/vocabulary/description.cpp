@@ -45,7 +45,7 @@ const char* kindOf(const OptionDescription& item) {
     if (item.kind == kindAction) {
         return "action";
     }
-    return item.tags.empty() ? "option" : "modifier";
+    return item.isModifier() ? "modifier" : "option";
 }
 
 void writeValues(JsonWriter& json, const OptionDescription& item) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "modern/behind_parse.h"
+#include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -47,9 +48,7 @@ public:
     // Undone at the end, unless it is kept.
     void write() {
         if (mayShare_) {  // what counts most goes last
-            std::sort(made_.begin(), made_.end(), [](const Made& a, const Made& b) {
-                return a.rank < b.rank;
-            });
+            heapSort(made_, [](const Made& a, const Made& b) { return a.rank < b.rank; });
         }
         // An exchange never throws, so all variables change or none; the old values wait in made_.
         isUndone_ = true;
@@ -105,7 +104,7 @@ void writeVariables(StoredOutcome& outcome) {
         return;
     }
     BasicParser& plain = outcome.vocabulary().plain();
-    plain.failure().make(lineRefused, {}, "", "", "");
+    plain.failure().make(lineRefused);
     outcome.end(plain.ended(resultRuleBroken), std::move(reason));
 }
 

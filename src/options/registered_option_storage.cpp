@@ -118,40 +118,6 @@ const std::string* RegisteredOptionStorage::findTaken(
     return taken != nameList.end() ? &*taken : nullptr;
 }
 
-// What clients chain onto a refused declaration must not pile up. Its reason is lost when there is
-// no memory for it.
-IOption& RegisteredOptionStorage::refused(RefusalReason reason,
-                                          std::string_view names,
-                                          std::string_view name) noexcept {
-    try {
-        note({reason, std::string(names), std::string(name), options.size()});
-    } catch (const std::exception&) {
-    }
-    sink = OptionDescription();
-    sink.result = resultFailure;
-    return sink;
-}
-
-// Nor must those that a client makes again and again.
-void RegisteredOptionStorage::note(Refusal&& refusal) {
-    constexpr std::size_t mostRefusals = 100;
-    if (refusals_ == nullptr) {
-        refusals_ = std::make_unique<std::vector<Refusal>>();
-    }
-    const bool isNoted =
-        std::any_of(refusals_->begin(), refusals_->end(), [&](const Refusal& noted) {
-            return noted.names == refusal.names && noted.reason == refusal.reason;
-        });
-    if (!isNoted && refusals_->size() < mostRefusals) {
-        refusals_->push_back(std::move(refusal));
-    }
-}
-
-const std::vector<Refusal>& RegisteredOptionStorage::refusals() const {
-    static const std::vector<Refusal> none;
-    return refusals_ == nullptr ? none : *refusals_;
-}
-
 bool RegisteredOptionStorage::isDeclared(std::string_view name,
                                          bool isAction,
                                          const char* section) const {
@@ -161,26 +127,6 @@ bool RegisteredOptionStorage::isDeclared(std::string_view name,
         return (item.kind == kindAction) == isAction &&
                (section == nullptr || sectionKey(item) == section);
     });
-}
-
-void RegisteredOptionStorage::takeAnyText(std::size_t number) {
-    OptionDescription& item = options[number];
-    declaredAs_.emplace(number, item);
-    item.type = vtString;
-    item.allowedValues.clear();
-    item.deprecatedValues.clear();
-    item.tokenizer = 0;
-}
-
-const OptionDescription& RegisteredOptionStorage::asDeclared(std::size_t number) const {
-    const auto kept = declaredAs_.find(number);
-    return kept != declaredAs_.end() ? kept->second : options[number];
-}
-
-std::string_view RegisteredOptionStorage::helpName(std::size_t number,
-                                                   std::string HelpNames::*which) const {
-    const auto named = helpNames_.find(number);
-    return named != helpNames_.end() ? std::string_view(named->second.*which) : std::string_view();
 }
 
 result_t validateName(const std::vector<std::string>& names) {

@@ -21,6 +21,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND BUILD_SHARED_LIBS)
         $<$<CONFIG:${optimised_configs}>:-flto=auto>
         $<$<CONFIG:${optimised_configs}>:-ffat-lto-objects>
     )
+    # Where code is aligned it grows by a fortieth, and no measured row is faster for it.
+    target_compile_options(zarn_optimisation INTERFACE
+        $<$<CONFIG:${optimised_configs}>:-fno-align-functions>
+        $<$<CONFIG:${optimised_configs}>:-fno-align-jumps>
+        $<$<CONFIG:${optimised_configs}>:-fno-align-labels>
+        $<$<CONFIG:${optimised_configs}>:-fno-align-loops>
+    )
     # In one piece: cut into several, each has its own copies of what they share.
     set(zarn_link_optimisation
         $<$<CONFIG:${optimised_configs}>:-flto=auto>

@@ -4,6 +4,17 @@
 
 namespace zarn_3_3 {
 
+bool RegisteredOptionStorage::isDeclared(std::string_view name,
+                                         bool isAction,
+                                         const char* section) const {
+    // Synonyms give one name to several items, so that the first one need not be the one asked for.
+    return names().isAnyNamed(name, [&](std::size_t number) {
+        const OptionDescription& item = options[number];
+        return (item.kind == kindAction) == isAction &&
+               (section == nullptr || sectionKey(item) == section);
+    });
+}
+
 void RegisteredOptionStorage::takeAnyText(std::size_t number) {
     OptionDescription& item = options[number];
     declaredAs_.emplace(number, item);

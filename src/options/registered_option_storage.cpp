@@ -118,17 +118,6 @@ const std::string* RegisteredOptionStorage::findTaken(
     return taken != nameList.end() ? &*taken : nullptr;
 }
 
-bool RegisteredOptionStorage::isDeclared(std::string_view name,
-                                         bool isAction,
-                                         const char* section) const {
-    // Synonyms give one name to several items, so that the first one need not be the one asked for.
-    return names().isAnyNamed(name, [&](std::size_t number) {
-        const OptionDescription& item = options[number];
-        return (item.kind == kindAction) == isAction &&
-               (section == nullptr || sectionKey(item) == section);
-    });
-}
-
 result_t validateName(const std::vector<std::string>& names) {
     const bool isRefused = names.size() > mostNames ||
                            (names.size() == mostNames && names[2].size() > longestThirdName);

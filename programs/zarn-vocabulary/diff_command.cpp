@@ -1,5 +1,6 @@
 #include "diff_command.h"
 
+#include "comparison.h"
 #include "description_reader.h"
 
 namespace vocabulary {
@@ -17,9 +18,11 @@ void DiffCommand::declare(zarn::Parser& parser) {
 }
 
 Answer DiffCommand::perform(const std::vector<std::string>& arguments) const {
-    readDescriptionFile(arguments[0]);
-    readDescriptionFile(arguments[1]);
-    return {};
+    const Description before = readDescriptionFile(arguments[0]);
+    const Description after = readDescriptionFile(arguments[1]);
+    Changes changes({ignored_.begin(), ignored_.end()});
+    compare(before, after, changes);
+    return {changes.report(), changes.isBreaking() ? 1 : 0};
 }
 
 }  // namespace vocabulary

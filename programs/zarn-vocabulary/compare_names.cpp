@@ -1,6 +1,7 @@
 // Names and "no-" forms: what a user could type for an item, and what it means now.
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ constexpr const char* off = "0";
 bool has(const std::vector<std::string>& texts, const std::string& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
+
+bool isForm(const Item& item, const std::string& text) { return has(formsOf(item), text); }
 
 // A value begins behind a "=" or white space, and a third dash makes no name.
 std::string typablePart(const std::string& form) {
@@ -63,7 +66,7 @@ private:
         if (isWhole) {
             compareWhole(form, item, next);
         }
-        const bool isGone = !has(formsOf(next), form);
+        const bool isGone = !isForm(next, form);
         compareBeginnings(form,
                           part.size() - (isWhole ? 1 : 0),
                           *this,
@@ -90,9 +93,15 @@ private:
 
     // What is a name itself is compared as such; what begins it begins two names.
     bool wasMeant(const std::string& text) override {
+        if (ties_.count(text) != 0) {
+            return false;
+        }
         const Meaning meaning = before_.name(text);
+        if (meaning.item == Meaning::nothing) {
+            ties_.insert(text);
+        }
         return meaning.item == item_ && meaning.value == expected_.value &&
-               !has(formsOf(comparison_.before.items[item_]), text);
+               !isForm(comparison_.before.items[item_], text);
     }
 
     Fate fate(const std::string& text) override {
@@ -129,8 +138,9 @@ private:
     const Comparison& comparison_;
     Probe before_;
     Probe after_;
-    std::size_t item_ = 0;  // of the old ones
-    Meaning expected_;      // of the form that is compared
+    std::set<std::string> ties_;  // beginnings of many names, which all of them would ask about
+    std::size_t item_ = 0;        // of the old ones
+    Meaning expected_;            // of the form that is compared
 };
 
 }  // namespace

@@ -57,8 +57,7 @@ public:
     void compare() {
         for (const std::string& value : accepted(item_)) {
             candidate_ = value;
-            const std::size_t cut =
-                item_.separator.empty() ? std::string::npos : value.find(item_.separator);
+            const std::size_t cut = value.find_first_of(item_.separator + "\n\r");
             const bool isWhole = cut == std::string::npos;
             const std::size_t longest = isWhole ? value.size() : cut;
             const bool isGone = isRestricted(after_) && !isAllowed(after_, value) &&

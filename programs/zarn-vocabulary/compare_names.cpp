@@ -36,12 +36,11 @@ public:
         for (item_ = 0; item_ < comparison_.before.items.size(); ++item_) {
             const Item& item = comparison_.before.items[item_];
             const std::size_t after = comparison_.pairing.after(item_);
-            const Item none;
-            const Item& next = after == Pairing::none ? none : comparison_.after.items[after];
+            next_ = after == Pairing::none ? Item() : comparison_.after.items[after];
             for (const std::string& form : formsOf(item)) {
-                compareForm(form, item, next);
+                compareForm(form, item);
             }
-            for (const std::string& name : next.names) {
+            for (const std::string& name : next_.names) {
                 if (!has(item.names, name)) {
                     comparison_.changes.compatible("name-added",
                                                    primaryName(item),
@@ -52,9 +51,9 @@ public:
     }
 
 private:
-    void compareForm(const std::string& form, const Item& item, const Item& next) {
+    void compareForm(const std::string& form, const Item& item) {
         const std::string part = form.empty() ? form : typablePart(form);
-        const bool isWhole = part == form;
+        const bool isTypable = part == form;
         if (part.empty()) {
             return;
         }
@@ -63,12 +62,12 @@ private:
         if (expected_.item != item_) {
             return;
         }
-        if (isWhole) {
-            compareWhole(form, item, next);
+        if (isTypable) {
+            compareWhole(form, item);
         }
-        const bool isGone = !isForm(next, form);
+        const bool isGone = !isForm(next_, form);
         compareBeginnings(form,
-                          part.size() - (isWhole ? 1 : 0),
+                          part.size() - (isTypable ? 1 : 0),
                           *this,
                           isGone,
                           primaryName(item),
@@ -76,13 +75,13 @@ private:
     }
 
     // A "no-" form goes with the type of its item, of which is told elsewhere.
-    void compareWhole(const std::string& form, const Item& item, const Item& next) {
+    void compareWhole(const std::string& form, const Item& item) {
         const Fate now = fate(form);
         const std::string text = quoted(typedName(form));
         if (now.kind == Fate::redirected) {
             comparison_.changes.breaking(
                 "name-redirected", primaryName(item), text + " now means " + now.to);
-        } else if (!next.names.empty() && has(item.names, form) && !has(next.names, form)) {
+        } else if (!next_.names.empty() && has(item.names, form) && !has(next_.names, form)) {
             comparison_.changes.breaking(
                 "name-gone",
                 primaryName(item),
@@ -123,15 +122,13 @@ private:
         if (candidates.empty()) {
             return "";
         }
-        const std::size_t after = comparison_.pairing.after(item_);
-        const std::vector<std::string> own = after == Pairing::none
-                                                 ? std::vector<std::string>()
-                                                 : formsOf(comparison_.after.items[after]);
         const auto other = std::find_if_not(candidates.begin(),
                                             candidates.end(),
-                                            [&own](const auto& each) { return has(own, each); });
+                                            [this](const auto& each) { return isWhole(each); });
         return quoted(other == candidates.end() ? candidates.back() : *other);
     }
+
+    bool isWhole(const std::string& text) const override { return isForm(next_, text); }
 
     std::string typed(const std::string& text) const override { return typedName(text); }
 
@@ -140,6 +137,7 @@ private:
     Probe after_;
     std::set<std::string> ties_;  // beginnings of many names, which all of them would ask about
     std::size_t item_ = 0;        // of the old ones
+    Item next_;                   // what became of it; without names when it is gone
     Meaning expected_;            // of the form that is compared
 };
 

@@ -6,6 +6,9 @@
 #include <vector>
 
 #include "diff_command.h"
+#include "document_commands.h"
+#include "output.h"
+#include "script_command.h"
 #include "zarn/typed.h"
 
 namespace vocabulary {
@@ -17,21 +20,23 @@ using Commands = std::vector<Command*>;
 
 void complain(const char* text) { std::fprintf(stderr, "zarn-vocabulary: %s\n", text); }
 
-bool print(const std::string& text) {
-    return std::fwrite(text.data(), 1, text.size(), stdout) == text.size() &&
-           std::fflush(stdout) == 0;
-}
-
-int perform(const Command& command, const std::vector<std::string>& arguments) {
+int perform(const Command& command,
+            const std::vector<std::string>& arguments,
+            const std::string& output) {
     const Answer answer = command.perform(arguments);
-    if (!print(answer.text)) {
-        complain("the standard output cannot be written");
-        return exitUnusable;
+    if (output.empty()) {
+        writeToStandardOutput(answer.text);
+    } else {
+        writeToFile(output, answer.text);
     }
     return answer.exitCode;
 }
 
-void declare(zarn::Parser& parser, const Commands& commands, std::vector<std::string>& arguments) {
+// `arguments` and `output` are what is given beside the options of the commands.
+void declare(zarn::Parser& parser,
+             const Commands& commands,
+             std::vector<std::string>& arguments,
+             std::string& output) {
     for (Command* const command : commands) {
         command->declare(parser);
         parser.check(
@@ -40,22 +45,28 @@ void declare(zarn::Parser& parser, const Commands& commands, std::vector<std::st
             },
             command->argumentRule());
     }
-    parser.declare({zarn::positional("file", "Descriptions, as tools give them of themselves.")
-                        .named("FILE")
-                        .into(arguments)});
+    parser.declare({
+        zarn::option<std::string>("output", "Where to write, in place of the standard output.")
+            .named("FILE")
+            .into(output),
+        zarn::positional("file", "Descriptions, as tools give them of themselves.")
+            .named("FILE")
+            .into(arguments),
+    });
 }
 
 int run(const Commands& commands, int argc, const char* const* argv) {
     std::vector<std::string> arguments;
+    std::string output;
     zarn::Parser parser(
         {"zarn-vocabulary", PROGRAM_VERSION, "Compares and documents what tools take."});
-    declare(parser, commands, arguments);
+    declare(parser, commands, arguments, output);
     if (const auto ended = parser.run(argc, argv)) {
         return *ended;
     }
     for (const Command* const command : commands) {
         if (command->isWanted()) {
-            return perform(*command, arguments);
+            return perform(*command, arguments, output);
         }
     }
     complain("No action defined.");
@@ -68,7 +79,10 @@ int run(const Commands& commands, int argc, const char* const* argv) {
 int main(int argc, char** argv) {
     try {
         vocabulary::DiffCommand diff;
-        return vocabulary::run({&diff}, argc, argv);
+        vocabulary::ManCommand man;
+        vocabulary::MarkdownCommand markdown;
+        vocabulary::ScriptCommand script;
+        return vocabulary::run({&diff, &man, &markdown, &script}, argc, argv);
     } catch (const std::exception& error) {
         vocabulary::complain(error.what());
         return vocabulary::exitUnusable;

@@ -6,6 +6,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export CMAKE_GENERATOR=Ninja
+export SOURCE_DATE_EPOCH=0  # of the manual pages
 
 fail() {
     echo "package: $*" >&2
@@ -55,6 +56,7 @@ found_by_cmake() {
     try_tool "$build/consumer"
     quietly cmake --install "$build" --prefix "$work/tools"
     comes_with_its_files "$work/tools" "$build/consumer"
+    comes_with_its_pages "$work/tools" "$build/consumer" "$2/bin/zarn-vocabulary"
 }
 
 # comes_with_its_files PREFIX TOOL: the description installed in PREFIX is what the tool answers, and
@@ -70,6 +72,16 @@ comes_with_its_files() {
             "$share/$script" || fail "$script is not the script of this tool"
         rm "$share/$script"
     done
+}
+
+# comes_with_its_pages PREFIX TOOL PROGRAM: the pages installed in PREFIX are those that the program
+# makes of what the tool answers. Takes them away.
+comes_with_its_pages() {
+    "$2" --zarn-answer describe >"$work/consumer.json"
+    diff "$1/share/man/man1/consumer.1" <("$3" --man "$work/consumer.json") &&
+        diff "$1/share/doc/consumer/consumer.md" <("$3" --markdown "$work/consumer.json") ||
+        fail "the installed pages are not those of this tool"
+    rm "$1/share/man/man1/consumer.1" "$1/share/doc/consumer/consumer.md"
 }
 
 # found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.

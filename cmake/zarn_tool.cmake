@@ -1,7 +1,7 @@
 # Tools that are asked while they are built: what they take, and completion in the shells.
 
 # zarn_tool(<target> [VERSION <version>] [SUMMARY <summary>] [COMPONENT <component>] [NO_COMPLETION]
-#     [NO_MAN] [MARKDOWN])
+#     [NO_MAN] [MARKDOWN] [CHECK] [BASELINE <file>])
 #
 # Asks the executable, behind its link step, for its description, and fails the build when it does
 # not answer: a script that completed its words would run it otherwise. Installs the description as
@@ -13,8 +13,13 @@
 #
 # VERSION, SUMMARY  what the tool has to say of itself; the build fails when it says something else
 # COMPONENT         of what is installed
+# CHECK             adds the test TOOL.check: the tool finds no mistake in what it takes
+# BASELINE          a description that was kept; adds the test TOOL.baseline: whoever used the tool by
+#                   it still can. It needs zarn-vocabulary
 function(zarn_tool target)
-    cmake_parse_arguments(PARSE_ARGV 1 given "NO_COMPLETION;NO_MAN;MARKDOWN" "VERSION;SUMMARY;COMPONENT" "")
+    cmake_parse_arguments(PARSE_ARGV 1 given "NO_COMPLETION;NO_MAN;MARKDOWN;CHECK"
+        "VERSION;SUMMARY;COMPONENT;BASELINE" ""
+    )
     if(NOT TARGET ${target})
         message(FATAL_ERROR "zarn_tool: there is no target '${target}'")
     endif()
@@ -31,6 +36,7 @@ function(zarn_tool target)
     endif()
     zarn_choose_pages()
     zarn_ask_tool()
+    zarn_test_tool()
     if(NOT given_NO_COMPLETION)
         zarn_install_script(bash bash-completion/completions ${tool})
         zarn_install_script(zsh zsh/site-functions _${tool})
@@ -77,6 +83,29 @@ macro(zarn_ask_tool)
         VERBATIM
     )
     zarn_install_file(${answer} zarn ${tool}.json)
+endmacro()
+
+macro(zarn_test_tool)
+    set(scripts ${CMAKE_CURRENT_FUNCTION_LIST_DIR})
+    if(given_CHECK)
+        add_test(NAME ${tool}.check
+            COMMAND ${CMAKE_COMMAND} -D "TOOL=$<TARGET_FILE:${target}>"
+                -D "EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}" -P ${scripts}/check_tool.cmake
+        )
+    endif()
+    if(DEFINED given_BASELINE AND TARGET zarn::zarn-vocabulary)
+        cmake_path(ABSOLUTE_PATH given_BASELINE BASE_DIRECTORY ${CMAKE_CURRENT_SOURCE_DIR} NORMALIZE)
+        add_test(NAME ${tool}.baseline
+            COMMAND ${CMAKE_COMMAND} -D "PROGRAM=$<TARGET_FILE:zarn::zarn-vocabulary>"
+                -D "EMULATOR=${CMAKE_CROSSCOMPILING_EMULATOR}"
+                -D "BASELINE=${given_BASELINE}" -D "ANSWER=${answer}"
+                -P ${scripts}/compare_tool.cmake
+        )
+    elseif(DEFINED given_BASELINE)
+        message(WARNING
+            "zarn_tool: '${tool}' is not compared with its baseline: there is no zarn-vocabulary"
+        )
+    endif()
 endmacro()
 
 macro(zarn_install_script shell directory name)

@@ -20,17 +20,34 @@ bool goesOn(const Range& range, const Fate& fate) {
     return range.fate.kind == fate.kind && (fate.kind == Fate::lost || range.fate.to == fate.to);
 }
 
+// The size of the shortest beginning that was enough; more than `longest` when none was.
+std::size_t shortestMeant(const std::string& candidate, std::size_t longest, Lookup& lookup) {
+    std::size_t tooShort = 0;
+    std::size_t enough = longest + 1;
+    while (enough - tooShort > 1) {
+        const std::size_t middle = tooShort + (enough - tooShort) / 2;
+        (lookup.wasMeant(candidate.substr(0, middle)) ? enough : tooShort) = middle;
+    }
+    return enough;
+}
+
+// Where the candidate alone begins so, it alone begins with more of itself.
+bool isKept(const std::string& beginning, Lookup& lookup) {
+    return !lookup.isWhole(beginning) && lookup.fate(beginning).kind == Fate::kept;
+}
+
 std::vector<Range> rangesOf(const std::string& candidate, std::size_t longest, Lookup& lookup) {
+    const std::size_t shortest = shortestMeant(candidate, longest, lookup);
+    if (shortest > longest ||
+        (lookup.isWhole(candidate) && isKept(candidate.substr(0, shortest), lookup))) {
+        return {};
+    }
     std::vector<Range> ranges;
-    for (std::size_t size = longest; size > 0; --size) {
+    for (std::size_t size = longest; size >= shortest; --size) {
         if (endsInsideCharacter(candidate, size)) {
             continue;
         }
         const std::string beginning = candidate.substr(0, size);
-        // Shorter ones begin what this one begins.
-        if (!lookup.wasMeant(beginning)) {
-            break;
-        }
         const Fate fate = lookup.fate(beginning);
         if (ranges.empty() || !goesOn(ranges.back(), fate)) {
             ranges.push_back({fate, beginning, beginning});

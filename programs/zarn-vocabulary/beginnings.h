@@ -28,6 +28,9 @@ public:
     virtual bool wasMeant(const std::string& text) = 0;
     virtual Fate fate(const std::string& text) = 0;
 
+    // Whether the text is a whole name, or value, of the new item.
+    virtual bool isWhole(const std::string& text) const = 0;
+
     // The text as it stands on a command line.
     virtual std::string typed(const std::string& text) const = 0;
 };

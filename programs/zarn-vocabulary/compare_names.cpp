@@ -1,6 +1,7 @@
 // Names and "no-" forms: what a user could type for an item, and what it means now.
 
 #include <algorithm>
+#include <set>
 #include <string>
 #include <vector>
 
@@ -16,6 +17,8 @@ constexpr const char* off = "0";
 bool has(const std::vector<std::string>& texts, const std::string& text) {
     return std::find(texts.begin(), texts.end(), text) != texts.end();
 }
+
+bool isForm(const Item& item, const std::string& text) { return has(formsOf(item), text); }
 
 // A value begins behind a "=" or white space, and a third dash makes no name.
 std::string typablePart(const std::string& form) {
@@ -33,12 +36,11 @@ public:
         for (item_ = 0; item_ < comparison_.before.items.size(); ++item_) {
             const Item& item = comparison_.before.items[item_];
             const std::size_t after = comparison_.pairing.after(item_);
-            const Item none;
-            const Item& next = after == Pairing::none ? none : comparison_.after.items[after];
+            next_ = after == Pairing::none ? Item() : comparison_.after.items[after];
             for (const std::string& form : formsOf(item)) {
-                compareForm(form, item, next);
+                compareForm(form, item);
             }
-            for (const std::string& name : next.names) {
+            for (const std::string& name : next_.names) {
                 if (!has(item.names, name)) {
                     comparison_.changes.compatible("name-added",
                                                    primaryName(item),
@@ -49,9 +51,9 @@ public:
     }
 
 private:
-    void compareForm(const std::string& form, const Item& item, const Item& next) {
+    void compareForm(const std::string& form, const Item& item) {
         const std::string part = form.empty() ? form : typablePart(form);
-        const bool isWhole = part == form;
+        const bool isTypable = part == form;
         if (part.empty()) {
             return;
         }
@@ -60,12 +62,12 @@ private:
         if (expected_.item != item_) {
             return;
         }
-        if (isWhole) {
-            compareWhole(form, item, next);
+        if (isTypable) {
+            compareWhole(form, item);
         }
-        const bool isGone = !has(formsOf(next), form);
+        const bool isGone = !isForm(next_, form);
         compareBeginnings(form,
-                          part.size() - (isWhole ? 1 : 0),
+                          part.size() - (isTypable ? 1 : 0),
                           *this,
                           isGone,
                           primaryName(item),
@@ -73,13 +75,13 @@ private:
     }
 
     // A "no-" form goes with the type of its item, of which is told elsewhere.
-    void compareWhole(const std::string& form, const Item& item, const Item& next) {
+    void compareWhole(const std::string& form, const Item& item) {
         const Fate now = fate(form);
         const std::string text = quoted(typedName(form));
         if (now.kind == Fate::redirected) {
             comparison_.changes.breaking(
                 "name-redirected", primaryName(item), text + " now means " + now.to);
-        } else if (!next.names.empty() && has(item.names, form) && !has(next.names, form)) {
+        } else if (!next_.names.empty() && has(item.names, form) && !has(next_.names, form)) {
             comparison_.changes.breaking(
                 "name-gone",
                 primaryName(item),
@@ -90,9 +92,15 @@ private:
 
     // What is a name itself is compared as such; what begins it begins two names.
     bool wasMeant(const std::string& text) override {
+        if (ties_.count(text) != 0) {
+            return false;
+        }
         const Meaning meaning = before_.name(text);
+        if (meaning.item == Meaning::nothing) {
+            ties_.insert(text);
+        }
         return meaning.item == item_ && meaning.value == expected_.value &&
-               !has(formsOf(comparison_.before.items[item_]), text);
+               !isForm(comparison_.before.items[item_], text);
     }
 
     Fate fate(const std::string& text) override {
@@ -114,23 +122,23 @@ private:
         if (candidates.empty()) {
             return "";
         }
-        const std::size_t after = comparison_.pairing.after(item_);
-        const std::vector<std::string> own = after == Pairing::none
-                                                 ? std::vector<std::string>()
-                                                 : formsOf(comparison_.after.items[after]);
         const auto other = std::find_if_not(candidates.begin(),
                                             candidates.end(),
-                                            [&own](const auto& each) { return has(own, each); });
+                                            [this](const auto& each) { return isWhole(each); });
         return quoted(other == candidates.end() ? candidates.back() : *other);
     }
+
+    bool isWhole(const std::string& text) const override { return isForm(next_, text); }
 
     std::string typed(const std::string& text) const override { return typedName(text); }
 
     const Comparison& comparison_;
     Probe before_;
     Probe after_;
-    std::size_t item_ = 0;  // of the old ones
-    Meaning expected_;      // of the form that is compared
+    std::set<std::string> ties_;  // beginnings of many names, which all of them would ask about
+    std::size_t item_ = 0;        // of the old ones
+    Item next_;                   // what became of it; without names when it is gone
+    Meaning expected_;            // of the form that is compared
 };
 
 }  // namespace

@@ -28,6 +28,10 @@ const DeprecatedValue* findDeprecated(const Item& item, const std::string& value
     return found == item.deprecated.end() ? nullptr : &*found;
 }
 
+bool isTaken(const Item& item, const std::string& value) {
+    return isAllowed(item, value) || findDeprecated(item, value) != nullptr;
+}
+
 // All that is taken, each once, the allowed ones first.
 std::vector<std::string> accepted(const Item& item) {
     std::vector<std::string> all;
@@ -57,14 +61,12 @@ public:
     void compare() {
         for (const std::string& value : accepted(item_)) {
             candidate_ = value;
-            const std::size_t cut =
-                item_.separator.empty() ? std::string::npos : value.find(item_.separator);
-            const bool isWhole = cut == std::string::npos;
-            const std::size_t longest = isWhole ? value.size() : cut;
-            const bool isGone = isRestricted(after_) && !isAllowed(after_, value) &&
-                                findDeprecated(after_, value) == nullptr;
+            const std::size_t cut = value.find_first_of(item_.separator + "\n\r");
+            const bool isTypable = cut == std::string::npos;
+            const std::size_t longest = isTypable ? value.size() : cut;
+            const bool isGone = isRestricted(after_) && !isTaken(after_, value);
             compareBeginnings(value,
-                              longest - (isWhole && !value.empty() ? 1 : 0),
+                              longest - (isTypable && !value.empty() ? 1 : 0),
                               *this,
                               isGone,
                               primaryName(item_),
@@ -98,6 +100,8 @@ private:
         }
         return "";
     }
+
+    bool isWhole(const std::string& text) const override { return isTaken(after_, text); }
 
     std::string typed(const std::string& text) const override {
         return typedName(primaryName(item_)) + "=" + text;

@@ -56,13 +56,13 @@ Probe Probe::ofValues(const Item& item) {
     return probe;
 }
 
-// Into a result of its own: what piles up in one would be looked through with each argument.
+// Into a result of its own: what piles up in one would be looked through with each argument. A text
+// it is since no defaults are recorded for one, item by item.
 Meaning Probe::ask(const std::string& argument) {
     heard_ = {};
     const zarn::Registration hearing(parser_, *this);
     const OwnedResult result = makeResult(parser_);
-    const char* const line[] = {"", argument.c_str()};
-    const int code = parser_->parseArgsVector(2, line, result.get());
+    const int code = parser_->parseStream(argument.c_str(), result.get());
     return code == zarn::resultOk ? heard_ : Meaning();
 }
 

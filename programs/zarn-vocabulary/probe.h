@@ -31,6 +31,7 @@ public:
     // Of values that are texts; deprecated ones begin like the others.
     static Probe ofValues(const Item& item);
 
+    // `beginning`: not empty, and on one line.
     Meaning name(const std::string& beginning) { return ask("--" + beginning); }
     Meaning value(const std::string& beginning) { return ask("--v=" + beginning); }
 

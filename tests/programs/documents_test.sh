@@ -7,7 +7,7 @@ set -u
 program=$(realpath "$1")
 scripts=$(realpath "$2")
 here=$(dirname "$(realpath "$0")")
-description=$here/../tooling/checksums.json
+description=$here/../../examples/checksums/vocabulary.json
 export SOURCE_DATE_EPOCH=0
 if [[ ${3-} == --renew ]]; then
     "$program" --man "$description" --output="$here/checksums.1"

@@ -22,7 +22,7 @@ struct PageCase {
 #define ITEM \
     R"("items": [{"names": ["x"], "type": "text"}, {"names": ["f"], "type": "int32", "kind")"
 
-const PageCase cases[] = {
+const PageCase pageCases[] = {
   // Usage.
     {R"("name": "t")",                                                                                     "`t`\n",                           "Options"          },
     {ITEM R"(: "option"}])",                                                                               "\\[*options*\\]\n",               "`--`"             },
@@ -72,7 +72,7 @@ const PageCase cases[] = {
 };
 
 TEST(Document, SaysWhatTheToolHasAndNothingElse) {
-    for (const PageCase& row : cases) {
+    for (const PageCase& row : pageCases) {
         const std::string description = std::string(R"({"format": 1, )") + row.description + "}";
         SCOPED_TRACE(description);
         const std::string page = asMarkdown(documentOf(readDescription(description, "x")));

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdlib>
 #include <string>
 #include <vector>
@@ -128,7 +129,7 @@ TEST(DiffProperty, NothingHasChangedInWhatIsTheSame) {
 
 TEST(DiffProperty, WhatTheNewToolReadsInAnotherWayIsToldAsBreaking) {
     const char* const asked = std::getenv("VOCABULARY_PAIRS");
-    const unsigned pairs = asked == nullptr ? 3000 : static_cast<unsigned>(std::atol(asked));
+    const unsigned pairs = asked == nullptr ? 2000 : static_cast<unsigned>(std::atol(asked));
     int met = 0;
     int harmless = 0;
     for (unsigned seed = 0; seed < pairs && !testing::Test::HasFailure(); ++seed) {
@@ -139,7 +140,7 @@ TEST(DiffProperty, WhatTheNewToolReadsInAnotherWayIsToldAsBreaking) {
             met += pair.checkLine() ? 1 : 0;
         }
     }
-    EXPECT_GT(met, 300);
+    EXPECT_GT(met, 200);
     EXPECT_GT(harmless, 300);
 }
 

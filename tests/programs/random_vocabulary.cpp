@@ -291,7 +291,7 @@ zarn::variant_t valueOf(Type type, const std::string& text) {
     }
 }
 
-std::string joined(const Texts& texts) {
+std::string commaList(const Texts& texts) {
     std::string list;
     for (const std::string& text : texts) {
         list += (list.empty() ? "" : ",") + text;
@@ -304,7 +304,7 @@ void declareItem(zarn::IParser& parser, const Item& item) {
     const auto type = typeCodes[static_cast<std::size_t>(item.type)];
     zarn::IOption& option = item.kind == Kind::action
                                 ? parser.action(name, "", type, "")
-                                : parser.modifier(name, joined(item.tags).c_str(), "", type, "");
+                                : parser.modifier(name, commaList(item.tags).c_str(), "", type, "");
     for (std::size_t i = 1; i < item.names.size(); ++i) {
         option.synonym(item.names[i].c_str());
     }

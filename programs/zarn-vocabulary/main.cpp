@@ -49,7 +49,7 @@ void declare(zarn::Parser& parser,
         zarn::option<std::string>("output", "Where to write, in place of the standard output.")
             .named("FILE")
             .into(output),
-        zarn::positional("file", "Descriptions, as tools give them of themselves.")
+        zarn::positional("file", "Descriptions of tools; with --script the name of one.")
             .named("FILE")
             .into(arguments),
     });

@@ -93,7 +93,7 @@ TEST(PageText, ReplacesWhatIsNoCharacter) {
         {"\xc3",                                  U"\ufffd"                  },
         {"\xc3(\xe4\xb8(",                        U"\ufffd(\ufffd\ufffd("    },
         {"\xc1\xbf\x80",                          U"\ufffd\ufffd\ufffd"      },
-        {"\xed\xa0\x80",                          U"\ufffd\ufffd\ufffd"      },
+        {"\xed\xbf\xbf",                          U"\ufffd\ufffd\ufffd"      },
         {"\xf4\x90\x80\x80",                      U"\ufffd\ufffd\ufffd\ufffd"},
     };
     for (const auto& [bytes, characters] : rows) {

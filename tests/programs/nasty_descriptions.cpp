@@ -65,7 +65,7 @@ Item NastyDescriptions::item() {
 
 Description NastyDescriptions::next() {
     Description description;
-    description.name = upTo(3) == 0 ? std::string(90, 'x') : "x" + text(2);
+    description.name = "x" + text(2);
     description.version = text(2);
     description.summary = text(8);
     description.flags = static_cast<int>(upTo(63));

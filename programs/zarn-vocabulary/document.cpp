@@ -162,6 +162,7 @@ private:
             chapter.entries.push_back(entryOf(*item));
         }
         std::vector<Chapter> chapters;
+        chapters.reserve(ordered.size());
         for (auto& [place, chapter] : ordered) {
             chapters.push_back(std::move(chapter));
         }

@@ -58,7 +58,7 @@ std::string ManCommand::dateFor(const std::string& path) const {
         return writtenDate(*given);
     }
     // What builds set whose results are to be equal whenever they are made.
-    const char* const epoch = std::getenv("SOURCE_DATE_EPOCH");  // NOLINT(concurrency-mt-unsafe)
+    const char* const epoch = ::secure_getenv("SOURCE_DATE_EPOCH");
     if (epoch == nullptr || *epoch == '\0') {
         return writtenDate(timeOfChange(path));
     }

@@ -85,13 +85,18 @@ std::string escaped(const std::u32string& word) {
 }
 
 // What a macro would take for another macro, for punctuation or for nothing at all, it does not
-// with an empty escape beside it.
-std::string guarded(const std::u32string& plain, const std::string& typed) {
-    const bool isOdd =
-        plain.size() <= longestMacro &&
-        (plain.empty() || !isOneOf(plain.front(), U"abcdefghijklmnopqrstuvwxyz0123456789"));
+// with an empty escape in front.
+const char* guardOf(const std::u32string& argument) {
+    constexpr std::u32string_view harmless = U"abcdefghijklmnopqrstuvwxyz0123456789";
+    const bool isOdd = argument.size() <= longestMacro &&
+                       (argument.empty() || !isOneOf(argument.front(), harmless));
+    return isOdd ? nothing : "";
+}
+
+// Nor would it take the end of its last argument for punctuation.
+std::string withGuardedEnd(std::string typed) {
     const bool isCutOff = !typed.empty() && isDelimiter(typed.back());
-    return (isOdd ? nothing : "") + typed + (isCutOff ? nothing : "");
+    return typed.append(isCutOff ? nothing : "");
 }
 
 }  // namespace
@@ -103,17 +108,15 @@ std::string mdocWord(const std::u32string& word) {
 
 std::string mdocArgument(std::string_view text) {
     const std::u32string word = visible(text);
-    return guarded(word, escaped(word));
+    return withGuardedEnd(guardOf(word) + escaped(word));
 }
 
 std::string mdocTitle(std::string_view text) {
-    std::u32string plain;
-    std::string typed;
+    std::string title;
     for (const std::u32string& word : wordsOf(text)) {
-        typed.append(typed.empty() ? "" : " ").append(escaped(word));
-        plain.append(word);
+        title.append(title.empty() ? "" : " ").append(guardOf(word)).append(escaped(word));
     }
-    return "\"" + guarded(plain, typed) + "\"";
+    return title.empty() ? nothing : withGuardedEnd(title);
 }
 
 std::string mdocPageName(std::string_view text) {
@@ -128,7 +131,7 @@ std::string mdocPageName(std::string_view text) {
             name += '_';
         }
     }
-    return guarded(shown, name);
+    return withGuardedEnd(guardOf(shown) + name);
 }
 
 bool endsSentence(const std::u32string& word) {

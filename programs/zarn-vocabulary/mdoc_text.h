@@ -15,7 +15,7 @@ std::string mdocWord(const std::u32string& word);
 // One argument of a macro. Its blanks stay, and no line is broken there.
 std::string mdocArgument(std::string_view text);
 
-// The same with blanks collapsed, at which lines may be broken.
+// Arguments for the rest of a macro's line, a word each.
 std::string mdocTitle(std::string_view text);
 
 // The name of the page, where few characters can stand.

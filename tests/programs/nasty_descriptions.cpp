@@ -8,16 +8,16 @@ namespace vocabulary {
 namespace {
 
 // Between the marks stands what the languages of pages could take for their own.
-constexpr std::string_view joined =
+constexpr std::string_view nastyTexts =
     R"(.¦'¦\¦\&¦\fB¦"¦-¦--¦`¦```¦^¦~¦Nm¦Ar¦Fl¦El¦Pp¦Xo¦%A¦.Sh¦'br¦Os¦No¦in¦ ¦  ¦. ¦! ¦? ¦e.g.¦.) ¦...)"
     R"(¦|¦*¦_¦<b>¦&amp;¦[¦](¦#¦1.¦2)¦+¦=¦:¦,¦;¦(¦)¦foo()¦f() ¦$x$¦https:¦@x¦{¦}¦!¦a¦word¦Two words)"
     "¦OpenBSD ¦NetBSD ¦DragonFly ¦\t¦\n¦\n\n¦\r\n¦\x01¦\x1b[1m¦\x7f¦\xc2\x85¦\xff¦\xc3¦é¦中文¦😀¦—"
     "¦\xc2\xa0¦¦";
 
-std::vector<std::string> split() {
+std::vector<std::string> splitNastyTexts() {
     constexpr std::string_view mark = "¦";
     std::vector<std::string> pieces{std::string(150, 'x') + "-" + std::string(150, '.')};
-    for (std::string_view rest = joined; !rest.empty();) {
+    for (std::string_view rest = nastyTexts; !rest.empty();) {
         const std::size_t end = rest.find(mark);
         pieces.emplace_back(rest.substr(0, end));
         rest.remove_prefix(end + mark.size());
@@ -25,14 +25,14 @@ std::vector<std::string> split() {
     return pieces;
 }
 
-const std::vector<std::string> pieces = split();
+const std::vector<std::string> nastyPieces = splitNastyTexts();
 
 }  // namespace
 
 std::string NastyDescriptions::text(std::size_t mostPieces) {
     std::string text;
     for (std::size_t left = upTo(mostPieces); left != 0; --left) {
-        text.append(oneOf(pieces)).append(upTo(2) == 0 ? " " : "");
+        text.append(oneOf(nastyPieces)).append(upTo(2) == 0 ? " " : "");
     }
     return text;
 }
@@ -56,7 +56,7 @@ Item NastyDescriptions::item() {
         item.values.push_back(text(3));
         item.deprecated.push_back({text(3), text(3)});
     }
-    item.separator = upTo(1) == 0 ? "" : oneOf(pieces).substr(0, 1);
+    item.separator = upTo(1) == 0 ? "" : oneOf(nastyPieces).substr(0, 1);
     item.valueName = text(2);
     item.isPositional = item.kind != Kind::action && upTo(4) == 0;
     item.isOptionFile = upTo(4) == 0;
@@ -65,7 +65,7 @@ Item NastyDescriptions::item() {
 
 Description NastyDescriptions::next() {
     Description description;
-    description.name = "x" + text(2);
+    description.name = upTo(3) == 0 ? std::string(90, 'x') : "x" + text(2);
     description.version = text(2);
     description.summary = text(8);
     description.flags = static_cast<int>(upTo(63));

@@ -1,5 +1,6 @@
 // The items by themselves: which there are, and what each of them is.
 
+#include <algorithm>
 #include <array>
 #include <cctype>
 #include <string>
@@ -75,20 +76,16 @@ bool canHold(const Item& item, char mark) {
         const auto holds = [mark](const std::string& value) {
             return value.find(mark) != std::string::npos;
         };
-        bool found = false;
-        for (const std::string& value : item.values) {
-            found = found || holds(value);
-        }
-        for (const DeprecatedValue& deprecated : item.deprecated) {
-            found = found || holds(deprecated.value);
-        }
-        return found;
+        return std::any_of(item.values.begin(), item.values.end(), holds) ||
+               std::any_of(item.deprecated.begin(),
+                           item.deprecated.end(),
+                           [&holds](const auto& each) { return holds(each.value); });
     }
+    const auto byte = static_cast<unsigned char>(mark);
+    const bool isOfNumbers = std::isalnum(byte) != 0 || std::isspace(byte) != 0 || mark == '+' ||
+                             mark == '-' || mark == '.';
     // What stands behind a number of the type uint64 is not looked at.
-    return item.type == Type::text || item.type == Type::uint64 ||
-           std::isspace(static_cast<unsigned char>(mark)) != 0 ||
-           std::isalnum(static_cast<unsigned char>(mark)) != 0 || mark == '+' || mark == '-' ||
-           mark == '.';
+    return item.type == Type::text || item.type == Type::uint64 || isOfNumbers;
 }
 
 void compareSeparators(const Comparison& comparison, const Item& before, const Item& after) {

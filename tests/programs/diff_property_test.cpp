@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "comparison.h"
+#include "declared_tool.h"
 #include "random_vocabulary.h"
 
 namespace vocabulary {

@@ -48,7 +48,7 @@ installed_into "$work/outside/lib" "$work/outside/include" "$work/third" OFF
 grep -q "no pages about 'consumer', since there is no zarn-vocabulary" "$work/configured" &&
     [[ ! -e $work/third/share/man && ! -e $work/third/share/doc/consumer ]] ||
     fail "pages come from nowhere"
-grep -q "'consumer' is not compared with its baseline: there is no zarn-vocabulary" \
-    "$work/configured" || fail "nobody hears that nothing is compared"
+grep -q "'consumer' is not compared with its baseline" "$work/configured" ||
+    fail "nobody hears that nothing is compared"
 found_by_pkg_config "$compiler" "$work/outside"
 echo "$compiler: the library serves as a part of another project"

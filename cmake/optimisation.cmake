@@ -21,7 +21,7 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU" AND BUILD_SHARED_LIBS)
         $<$<CONFIG:${optimised_configs}>:-flto=auto>
         $<$<CONFIG:${optimised_configs}>:-ffat-lto-objects>
     )
-    # Where code is aligned it grows by a fortieth, and no measured row is faster for it.
+    # Where code is aligned it grows by a fortieth, and a start-up cycle is no faster for it.
     target_compile_options(zarn_optimisation INTERFACE
         $<$<CONFIG:${optimised_configs}>:-fno-align-functions>
         $<$<CONFIG:${optimised_configs}>:-fno-align-jumps>

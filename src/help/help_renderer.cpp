@@ -87,27 +87,46 @@ void appendSectionHead(std::string& text, const Section& section) {
     }
 }
 
+struct Listed {
+    const OptionDescription* item;
+    std::size_t place;  // in the order of declaration
+};
+
+// By section first: one pass over the items then serves all sections. Items with one name stay in
+// the order of their declaration.
+bool isListedBefore(const Listed& a, const Listed& b) {
+    if (a.item->section != b.item->section) {
+        return a.item->section < b.item->section;
+    }
+    return *a.item < *b.item || (!(*b.item < *a.item) && a.place < b.place);
+}
+
+std::vector<Listed> inOrder(const std::vector<const OptionDescription*>& items) {
+    std::vector<Listed> listed;
+    listed.reserve(items.size());
+    for (const OptionDescription* const item : items) {
+        listed.push_back({item, listed.size()});
+    }
+    std::sort(listed.begin(), listed.end(), isListedBefore);
+    return listed;
+}
+
 std::string textFor(const SectionList& sections,
-                    std::vector<const OptionDescription*> items,
+                    const std::vector<const OptionDescription*>& items,
                     bool hidden) {
-    // By section first: one pass over the items then serves all sections. Items with one name
-    // stay in the order of their declaration.
-    std::stable_sort(
-        items.begin(), items.end(), [](const OptionDescription* a, const OptionDescription* b) {
-            return a->section != b->section ? a->section < b->section : *a < *b;
-        });
+    const std::vector<Listed> listed = inOrder(items);
     std::string text;
     std::string column;
-    auto item = items.begin();
+    auto each = listed.begin();
     for (std::size_t section = 0; section < sections.size(); ++section) {
         const bool isShown = isSectionVisible(sections[section].key, hidden);
         if (isShown) {
             appendSectionHead(text, sections[section]);
         }
         // The items of a section that is not shown are passed over here, too.
-        for (; item != items.end() && (*item)->section == section; ++item) {
-            if (isShown && !(*item)->isPositional) {
-                appendEntry(text, column, **item);
+        for (; each != listed.end() && each->item->section == section; ++each) {
+            if (isShown && !each->item->isPositional) {
+                appendEntry(text, column, *each->item);
             }
         }
         if (isShown) {

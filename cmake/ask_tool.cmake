@@ -1,5 +1,6 @@
 # Asks the program TOOL for its description, and keeps it in the file ANSWER; see zarn_tool. It has
-# to say VERSION and SUMMARY, where these are not empty.
+# to say VERSION and SUMMARY, where these are not empty. PROGRAM then makes the PAGES, whose names say
+# what they are.
 cmake_minimum_required(VERSION 3.25)
 
 # Lines that begin with a blank are shown as they are.
@@ -37,3 +38,19 @@ foreach(key VERSION SUMMARY)
     endif()
 endforeach()
 file(RENAME ${unread} ${ANSWER})
+
+foreach(page IN LISTS PAGES)
+    set(kind --man)
+    if(page MATCHES "\\.md$")
+        set(kind --markdown)
+    endif()
+    execute_process(COMMAND ${EMULATOR} ${PROGRAM} ${kind} ${ANSWER} --output=${page}
+        INPUT_FILE /dev/null
+        ERROR_VARIABLE said
+        RESULT_VARIABLE code
+        TIMEOUT 60
+    )
+    if(NOT code STREQUAL "0")
+        refuse("has no page: zarn-vocabulary ended with ${code}.\n${said}")
+    endif()
+endforeach()

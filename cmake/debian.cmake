@@ -22,6 +22,6 @@ set(CPACK_COMPONENT_RUNTIME_DESCRIPTION "The shared library, which the tools nee
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_NAME libzarn-dev)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_SECTION libdevel)
 set(CPACK_DEBIAN_DEVELOPMENT_PACKAGE_DEPENDS "libzarn${soversion} (= ${PROJECT_VERSION})")
-set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file and documents.")
+set(CPACK_COMPONENT_DEVELOPMENT_DESCRIPTION "Headers, CMake package, pkg-config file, documents, and zarn-vocabulary.")
 
 include(CPack)

@@ -26,7 +26,8 @@ write_basic_package_version_file(zarnConfigVersion.cmake COMPATIBILITY SameMinor
 install(FILES cmake/zarnConfig.cmake ${PROJECT_BINARY_DIR}/zarnConfigVersion.cmake
     DESTINATION ${package_dir} COMPONENT development
 )
-install(FILES cmake/ask_tool.cmake cmake/zarn_tool.cmake
+install(FILES
+    cmake/ask_tool.cmake cmake/check_tool.cmake cmake/compare_tool.cmake cmake/zarn_tool.cmake
     DESTINATION ${package_dir}/cmake COMPONENT development
 )
 install(DIRECTORY completion DESTINATION ${package_dir} COMPONENT development)

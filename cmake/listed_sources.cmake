@@ -1,6 +1,11 @@
-# Writes the sources of all targets of the library and the tests, for check_listed_sources.cmake.
+# Writes the sources of all targets of the library, the programs and the tests, for
+# check_listed_sources.cmake.
 set(listed)
-foreach(directory ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+set(directories ${PROJECT_SOURCE_DIR} ${PROJECT_SOURCE_DIR}/tests)
+if(ZARN_BUILD_PROGRAMS)
+    list(APPEND directories ${PROJECT_SOURCE_DIR}/programs/zarn-vocabulary)
+endif()
+foreach(directory IN LISTS directories)
     get_property(targets DIRECTORY ${directory} PROPERTY BUILDSYSTEM_TARGETS)
     foreach(target IN LISTS targets)
         get_target_property(sources ${target} SOURCES)

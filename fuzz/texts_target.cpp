@@ -25,8 +25,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
         checkCuts(text);
     } else {
         checkReading(text);
-        checkWriting(fuzzing::Bytes(bytes).number<int>());
-        checkWriting(fuzzing::Bytes(bytes).number<unsigned>());
         checkWriting(fuzzing::Bytes(bytes).number<long long>());
         checkWriting(fuzzing::Bytes(bytes).number<unsigned long long>());
         checkWriting(fuzzing::Bytes(bytes).number<double>());

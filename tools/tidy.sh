@@ -1,5 +1,5 @@
 #!/usr/bin/env bash
-# clang-tidy over the library and the examples.
+# clang-tidy over the library, the programs and the examples.
 #
 # Nearly all of its time goes into headers, so that it reads several sources as one. Neighbours,
 # which may have names in common, are kept apart; where that does not do, or something is found, it
@@ -11,7 +11,7 @@ readonly parts=4
 
 tidy() {
     clang-tidy --quiet --config-file=.clang-tidy "$@" -- -std=c++17 -Iinclude -Isrc \
-        -Iexamples/checksums
+        -Iexamples/checksums -Iprograms/zarn-vocabulary '-DPROGRAM_VERSION="0"'
 }
 
 check_part() {
@@ -27,7 +27,7 @@ check_part() {
 rm -rf "$place"
 mkdir -p "$place"
 number=0
-for source in src/*/*.cpp examples/*/*.cpp; do
+for source in src/*/*.cpp programs/*/*.cpp examples/*/*.cpp; do
     echo "$source" >>"$place/$((number % parts))"
     number=$((number + 1))
 done

@@ -186,7 +186,7 @@ def make_environment(build, work):
         "LC_ALL": "C.UTF-8",
         "COLUMNS": "80",
         "CMAKE_GENERATOR": "Ninja",
-        "PATH": f"{work}/page/bin:{os.environ['PATH']}",
+        "PATH": f"{work}/page/bin:{work}/zarn/bin:{os.environ['PATH']}",
         "LD_LIBRARY_PATH": str(libraries),
         # As seen from the page: in a shell, blanks in flags would cut them in two.
         "PKG_CONFIG_PATH": os.path.relpath(libraries / "pkgconfig", work / "page"),

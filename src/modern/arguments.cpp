@@ -53,8 +53,7 @@ std::string refuse(Vocabulary& vocabulary,
                    CommandLine line,
                    int index,
                    std::string message) {
-    vocabulary.plain().failure().make(
-        kind, {index, 0, {}}, line.argv[index], item.primaryName(), "");
+    vocabulary.plain().failure().make(kind, {index, 0, {}}, line.argv[index], item.primaryName());
     return message;
 }
 
@@ -163,8 +162,7 @@ std::string wrongLongName(Vocabulary& vocabulary, CommandLine line) {
         // refuses it by itself.
         if (walk.waiting() == nullptr && isBundle(argument) && name.size() > 1 &&
             vocabulary.isBeginning(name)) {
-            vocabulary.plain().failure().make(
-                unknownArgument, {walk.index(), 0, {}}, argument, "", "");
+            vocabulary.plain().failure().make(unknownArgument, {walk.index(), 0, {}}, argument);
             return messages::unknownArgument(argument);
         }
     }

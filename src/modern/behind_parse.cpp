@@ -83,14 +83,14 @@ int takeVariable(const ItemRecord& item,
 }
 
 std::string needs(const ItemRecord& item, const ItemRecord& other, StoredOutcome& outcome) {
-    noteOf(outcome).make(optionNeeded, {}, "", item.primaryName(), other.primaryName());
+    noteOf(outcome).make(optionNeeded, {}, {}, item.primaryName(), other.primaryName());
     return messages::needs(item, other);
 }
 
 // Why the item is missed; empty when it is not.
 std::string missing(const ItemRecord& item, StoredOutcome& outcome) {
     if (!item.isModifier()) {
-        noteOf(outcome).make(requiredMissing, {}, "", item.primaryName(), "");
+        noteOf(outcome).make(requiredMissing, {}, {}, item.primaryName());
         return messages::isRequired(item);
     }
     // The action that was typed is named: without it the modifier would not be missed.
@@ -115,7 +115,7 @@ RuleState stateOf(const Rule& rule, const StoredOutcome& outcome) {
 }
 
 void noteOneRequired(const Rule& rule, StoredOutcome& outcome) {
-    noteOf(outcome).make(oneRequired, {}, "", "", "");
+    noteOf(outcome).make(oneRequired);
     Failure* const failure = noteOf(outcome).get();
     for (std::size_t i = 0; failure != nullptr && i < rule.items.size(); ++i) {
         failure->candidates.append(i == 0 ? "" : "\n").append(rule.items[i]->primaryName());
@@ -130,7 +130,7 @@ std::string broken(const Rule& rule, StoredOutcome& outcome) {
     if (wantsOne && state.given.size() > 1) {
         const ItemRecord& other = *state.given[1];
         noteOf(outcome).make(
-            optionsExclude, {}, "", state.given[0]->primaryName(), other.primaryName());
+            optionsExclude, {}, {}, state.given[0]->primaryName(), other.primaryName());
         return messages::exclude(*state.given[0], other);
     }
     if (rule.kind == RuleKind::exactlyOne && state.given.empty()) {

@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "modern/messages.h"
+#include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -37,7 +38,7 @@ std::vector<Slot> allSlots(const Vocabulary& vocabulary) {
             slots.push_back({keyOf(*item), nullptr});
         }
     }
-    std::sort(slots.begin(), slots.end(), &isBefore);
+    heapSort(slots, &isBefore);
     return slots;
 }
 
@@ -82,7 +83,7 @@ std::vector<GivenValue> allGiven(StoredOutcome& outcome, std::vector<Slot>& slot
             addGiven(*item, *slot, outcome, all);
         }
     }
-    std::sort(all.begin(), all.end(), &isInFront);
+    heapSort(all, &isInFront);
     return all;
 }
 
@@ -111,10 +112,10 @@ bool isSame(const GivenValue& a, const GivenValue& b) {
 std::string told(const GivenValue& one, const GivenValue& other, FailureNote& note) {
     const std::string& name = other.item->primaryName();
     if (one.item != other.item) {
-        note.make(optionsExclude, {}, "", one.item->primaryName(), name);
+        note.make(optionsExclude, {}, {}, one.item->primaryName(), name);
         return messages::exclude(*one.item, *other.item);
     }
-    note.make(valuesDiffer, {}, "", name, other.value.text);
+    note.make(valuesDiffer, {}, {}, name, other.value.text);
     return messages::differ(*other.item, one.value.text, other.value.text);
 }
 

@@ -1,7 +1,6 @@
 #include "modern/outcome.h"
 
 #include <algorithm>
-#include <iterator>
 #include <utility>
 
 namespace zarn_3_3::internal {
@@ -112,24 +111,34 @@ Found StoredOutcome::choose(std::string_view name,
         if (found.last.status != statusFound || counts(last.position, found.last.position)) {
             found.last = item.replaced(last);
         }
-        for (std::size_t i = 0; all != nullptr && i < values.size(); ++i) {
-            all->push_back(item.replaced(values[i]));
-        }
     }
     if (found.count == 0) {
         return chooseDefault(entry, all);
     }
-    // Given by name and by place, in whatever order.
-    if (all != nullptr && share.size() != 0 && own.size() != 0) {
-        std::sort(all->begin(), all->end(), [](const Value& a, const Value& b) {
-            return a.position < b.position;
-        });
+    if (all != nullptr) {
+        appendInOrder(share, own, item, *all);
     }
     const bool isFile = !isFromOutside && result_.isFromFile(found.last.position);
     found.origin = isFromOutside ? Origin::environment
                    : isFile      ? Origin::optionFile
                                  : Origin::commandLine;
     return found;
+}
+
+// Given by place and by name: each lot is in order, and all of them are to be.
+void StoredOutcome::appendInOrder(const Values& share,
+                                  const Values& own,
+                                  const ItemRecord& item,
+                                  std::vector<Value>& all) {
+    std::size_t shared = 0;
+    for (std::size_t i = 0; i < share.size() + own.size(); ++i) {
+        const std::size_t owned = i - shared;
+        const bool isShared =
+            shared < share.size() &&
+            (owned == own.size() || share.positionOf(shared) < own.positionOf(owned));
+        all.push_back(item.replaced(isShared ? share[shared] : own[owned]));
+        shared += isShared ? 1 : 0;
+    }
 }
 
 Found StoredOutcome::chooseDefault(const StoredOption* entry, std::vector<Value>* all) {
@@ -153,26 +162,5 @@ Found StoredOutcome::find(const ItemRecord& item, std::vector<Value>* all) const
 }
 
 Origin StoredOutcome::origin(const ItemRecord& item) const { return find(item, nullptr).origin; }
-
-// A value belongs to the last occurrence before it. What is there already stays.
-void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
-    const ItemRecord& item = vocabulary_.require(name);
-    const StoredOption* const entry = result_.find(name);
-    if (entry == nullptr) {
-        return;
-    }
-    std::map<int, Occurrence> found;
-    for (const int position : entry->positions) {
-        found.emplace(position, Occurrence{name, position, {}});
-    }
-    for (const StoredValue& value : entry->values) {
-        const auto owner = found.upper_bound(value.position);
-        if (owner != found.begin()) {
-            std::prev(owner)->second.values.push_back(
-                item.replaced({value.text, value.value, value.position}));
-        }
-    }
-    occurrences.merge(found);
-}
 
 }  // namespace zarn_3_3::internal

@@ -63,6 +63,10 @@ private:
     bool counts(int position, int other) const;
     std::size_t countingOf(const Values& values) const;
     Found choose(std::string_view name, const ItemRecord& item, std::vector<Value>* all) const;
+    static void appendInOrder(const Values& share,
+                              const Values& own,
+                              const ItemRecord& item,
+                              std::vector<Value>& all);
     static Found chooseDefault(const StoredOption* entry, std::vector<Value>* all);
 
     Vocabulary& vocabulary_;

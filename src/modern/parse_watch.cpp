@@ -173,7 +173,7 @@ bool ParseWatch::takePositional(const Value& value) {
     const ItemRecord& item = *vocabulary_.positionals()[std::min(number, last)];
     if (number > last && !item.takesMany()) {
         parse_.instead = messages::unexpectedArgument(value.text);
-        parse_.told.make(unexpectedArgument, {}, value.text, "", value.text);
+        parse_.told.make(unexpectedArgument, {}, value.text, {}, value.text);
         return false;
     }
     // A single item is stored as what it is: the parse has converted the value already.

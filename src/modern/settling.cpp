@@ -1,6 +1,7 @@
 // What can be asked of a vocabulary only when everything is declared: in front of a parse.
 
 #include <algorithm>
+#include <functional>
 #include <memory>
 #include <new>
 #include <utility>
@@ -9,6 +10,7 @@
 #include "modern/messages.h"
 #include "modern/vocabulary.h"
 #include "options/registered_option_storage.h"
+#include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -86,7 +88,7 @@ void Vocabulary::requireOwnTargets() const {
             owners.emplace_back(items_[i]->variable, i);
         }
     }
-    std::sort(owners.begin(), owners.end());
+    heapSort(owners, std::less<>());
     const auto shared =
         std::adjacent_find(owners.begin(), owners.end(), [](const auto& a, const auto& b) {
             return a.first == b.first;

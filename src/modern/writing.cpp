@@ -7,6 +7,7 @@
 
 #include "modern/behind_parse.h"
 #include "parser/guarded.h"
+#include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -48,9 +49,7 @@ public:
     // Undone at the end, unless it is kept.
     void write() {
         if (mayShare_) {  // what counts most goes last
-            std::sort(made_.begin(), made_.end(), [](const Made& a, const Made& b) {
-                return a.rank < b.rank;
-            });
+            heapSort(made_, [](const Made& a, const Made& b) { return a.rank < b.rank; });
         }
         // An exchange never throws, so all variables change or none; the old values wait in made_.
         isUndone_ = true;
@@ -108,7 +107,7 @@ void writeVariables(StoredOutcome& outcome) {
         return;
     }
     BasicParser& plain = outcome.vocabulary().plain();
-    plain.failure().make(lineRefused, {}, "", "", "");
+    plain.failure().make(lineRefused);
     outcome.end(plain.ended(code), std::move(reason));
 }
 

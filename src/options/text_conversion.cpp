@@ -3,6 +3,7 @@
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <type_traits>
 #include <utility>
 
 #include "interface/owned_text.h"
@@ -51,7 +52,9 @@ struct OperationToString {
 
     template <typename T>
     void execute() {
-        result = textFromNumber(value.get<T>());
+        using Widest = std::conditional_t<std::is_signed_v<T>, long long, unsigned long long>;
+        using Written = std::conditional_t<std::is_same_v<T, double>, double, Widest>;
+        result = textFromNumber<Written>(value.get<T>());
     }
 };
 

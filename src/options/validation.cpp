@@ -26,7 +26,7 @@ bool visitAccepted(const OptionDescription& option, Visit visit) {
 }
 
 // Only the allowed values: nobody is pointed to a deprecated one.
-std::string allowedValueList(const OptionDescription& option) {
+[[gnu::cold]] std::string allowedValueList(const OptionDescription& option) {
     std::string list;
     for (const variant_t& allowed : option.allowedValues) {
         list += list.empty() ? "'" : ", '";
@@ -63,15 +63,20 @@ void warn(const std::string& line) {
     }
 }
 
+[[gnu::cold]] void warnOfDeprecated(const OptionDescription& option,
+                                    std::string_view text,
+                                    const variant_t& replacement) {
+    const char* const replacing = plinth2::get_variant_value(replacement, "");
+    warn(messages::valueIsDeprecated(option.primaryName(), text, replacing) + "\n");
+}
+
 void warnIfDeprecated(const OptionDescription& option,
                       std::string_view text,
                       const variant_t& value) {
     const auto deprecated = option.deprecatedValues.find(value);
-    if (deprecated == option.deprecatedValues.end()) {
-        return;
+    if (deprecated != option.deprecatedValues.end()) {
+        warnOfDeprecated(option, text, deprecated->second);
     }
-    const char* replacement = plinth2::get_variant_value(deprecated->second, "");
-    warn(messages::valueIsDeprecated(option.primaryName(), text, replacement) + "\n");
 }
 
 }  // namespace

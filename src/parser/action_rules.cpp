@@ -12,6 +12,7 @@
 #include "parser/messages.h"
 #include "recognizers/failure.h"
 #include "result/parse_result.h"
+#include "text/heap_sort.h"
 #include "zarn/parser.h"
 
 namespace zarn_3_3::internal {
@@ -33,7 +34,7 @@ std::vector<GivenItem> entriesToCheck(const RegisteredOptionStorage& registry,
         given.push_back({&entry, nullptr});
     }
     if (registry.hasActions()) {
-        std::sort(given.begin(), given.end(), [](const GivenItem& a, const GivenItem& b) {
+        heapSort(given, [](const GivenItem& a, const GivenItem& b) {
             return a.entry->name < b.entry->name;
         });
     }
@@ -74,7 +75,7 @@ private:
                std::string_view value,
                const std::string& message) {
         error_ = message;
-        failure_.make(kind, {}, "", item, value);
+        failure_.make(kind, {}, {}, item, value);
         return resultRuleBroken;
     }
 
@@ -84,7 +85,7 @@ private:
         // A name that another parser stored. Kept: the code of the lookup becomes that of the
         // parse, which reads as a veto, and the error text stays as it was.
         if (found != resultSuccess) {
-            failure_.make(unknownResultName, {}, "", given.entry->name, "");
+            failure_.make(unknownResultName, {}, {}, given.entry->name);
             return found;
         }
         given.item = &registry_.items()[index];

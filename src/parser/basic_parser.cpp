@@ -143,7 +143,7 @@ int BasicParser::ended(int code) {
         return code;
     }
     if (code == resultException) {
-        failure_.make(exceptionCaught, {}, "", "", "");
+        failure_.make(exceptionCaught);
     }
     if (Failure* const failure = failure_.get()) {
         failure->code = code;

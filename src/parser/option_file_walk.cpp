@@ -84,7 +84,7 @@ int OptionFileWalk::refuse(DiagnosticKind kind,
                            const std::string& path,
                            const std::string& message) {
     error_ = message;
-    failure_.make(kind, {}, "", optionFileName, path);
+    failure_.make(kind, {}, {}, optionFileName, path);
     return resultOptionFileUnreadable;
 }
 

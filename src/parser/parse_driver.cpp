@@ -102,8 +102,7 @@ int ParseDriver::passOver(Arguments& arguments) {
     const bool isUnhandled = audience_.handler.onUknownArgument(arguments.front().c_str());
     if (isUnhandled && (flags_ & flagUnknownIsError) != 0) {
         error_ = messages::unknownArgument(arguments.front());
-        audience_.failure.make(
-            unknownArgument, arguments.placeOfFront(), arguments.front(), "", "");
+        audience_.failure.make(unknownArgument, arguments.placeOfFront(), arguments.front());
         return resultRuleBroken;
     }
     trace("ignoring ", arguments.front());

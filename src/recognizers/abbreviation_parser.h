@@ -50,9 +50,9 @@ private:
 
 // Appends the names and the "no-" forms of booleans that begin with `beginning`, each once, in the
 // order of declaration.
-void makeOptionNamesList(const RegisteredOptionStorage& registry,
-                         std::string_view beginning,
-                         std::vector<std::string>& names);
+[[gnu::cold]] void makeOptionNamesList(const RegisteredOptionStorage& registry,
+                                       std::string_view beginning,
+                                       std::vector<std::string>& names);
 
 }  // namespace zarn_3_3
 

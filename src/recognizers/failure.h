@@ -40,10 +40,10 @@ class FailureNote {
 public:
     // Takes the place of the one before. Without memory there is none then.
     [[gnu::cold, gnu::noinline]] void make(DiagnosticKind kind,
-                                           const Place& place,
-                                           std::string_view argument,
-                                           std::string_view option,
-                                           std::string_view value) noexcept;
+                                           const Place& place = {},
+                                           std::string_view argument = {},
+                                           std::string_view option = {},
+                                           std::string_view value = {}) noexcept;
 
     void clear() noexcept {
         if (failure_ != nullptr) {

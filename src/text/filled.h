@@ -14,7 +14,7 @@ namespace zarn_3_3::internal {
 //
 // One call however many there are: messages are built seldom, and the code that builds them shall
 // not crowd the code that needs none.
-std::string filled(std::string_view pattern, std::initializer_list<std::string_view> pieces);
+std::string filled(const char* pattern, std::initializer_list<std::string_view> pieces);
 
 }  // namespace zarn_3_3::internal
 

@@ -3,9 +3,9 @@
 #include <array>
 #include <charconv>
 #include <limits>
-#include <new>
-#include <sstream>
 #include <type_traits>
+
+#include "text/number_stream.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -34,28 +34,18 @@ bool mayFollow(const char* at, const char* end, Trailing trailing) {
     return trailing == Trailing::ignored || skipSpace(at, end) == end;
 }
 
-// Gives the magnitude its sign. An unsigned type takes a negative number and wraps, as streams do:
-// -1 is the largest number, and what is too large without the sign is too large with it. The
-// magnitude of the smallest signed number is one more than that of the largest.
-template <typename T>
-bool applySign(unsigned long long magnitude, bool isNegative, T& number) {
-    using Limits = std::numeric_limits<T>;
-    const auto largest = static_cast<unsigned long long>(Limits::max());
-    if (magnitude > largest + (std::is_signed_v<T> && isNegative ? 1 : 0)) {
-        return false;
-    }
-    number = static_cast<T>(isNegative ? 0 - magnitude : magnitude);
-    return true;
-}
+struct Integer {
+    unsigned long long magnitude = 0;
+    bool isNegative = false;
+};
 
 // Reading an integer, as formatted extraction does and std::from_chars alone does not: white space
 // in front, a plus sign, a minus sign of unsigned numbers, "0x" in front of hexadecimal ones. So
 // space and sign are read here, and the magnitude in the widest type.
-template <typename T>
-Reading readInteger(std::string_view text, Trailing trailing, int base, T& number) {
+bool readInteger(std::string_view text, Trailing trailing, int base, Integer& integer) {
     const char* const end = text.data() + text.size();
     const char* at = skipSpace(text.data(), end);
-    const bool isNegative = at != end && *at == '-';
+    integer.isNegative = at != end && *at == '-';
     if (at != end && isSign(*at)) {
         ++at;
     }
@@ -63,12 +53,22 @@ Reading readInteger(std::string_view text, Trailing trailing, int base, T& numbe
     if (base == 16 && end - at >= 2 && at[0] == '0' && (at[1] == 'x' || at[1] == 'X')) {
         at += 2;
     }
-    unsigned long long magnitude = 0;
-    const auto [behind, problem] = std::from_chars(at, end, magnitude, base);
-    if (problem != std::errc() || !mayFollow(behind, end, trailing)) {
+    const auto [behind, problem] = std::from_chars(at, end, integer.magnitude, base);
+    return problem == std::errc() && mayFollow(behind, end, trailing);
+}
+
+// The number of the type. An unsigned type takes a negative number and wraps, as streams do: -1 is
+// the largest number, and what is too large without the sign is too large with it. The magnitude of
+// the smallest signed number is one more than that of the largest.
+template <typename T>
+Reading asType(const Integer& integer, T& number) {
+    using Limits = std::numeric_limits<T>;
+    const auto largest = static_cast<unsigned long long>(Limits::max());
+    if (integer.magnitude > largest + (std::is_signed_v<T> && integer.isNegative ? 1 : 0)) {
         return Reading::noNumber;
     }
-    return applySign(magnitude, isNegative, number) ? Reading::number : Reading::noNumber;
+    number = static_cast<T>(integer.isNegative ? 0 - integer.magnitude : integer.magnitude);
+    return Reading::number;
 }
 
 // The end of the longest text from `at` that has the form of a decimal floating-point number, or
@@ -119,64 +119,20 @@ template <typename T>
 Reading readByHand(std::string_view text, Trailing trailing, T& number) {
     if constexpr (std::is_same_v<T, double>) {
         return readDouble(text, trailing, number);
-    } else if constexpr (std::is_same_v<T, bool>) {
-        // A boolean is a number for a stream: "01" and "+1" are true, "2" is none.
-        int digit = 0;
-        const Reading reading = readInteger(text, trailing, 10, digit);
-        number = digit == 1;
-        return reading == Reading::number && digit != 0 && digit != 1 ? Reading::noNumber : reading;
     } else {
-        return readInteger(text, trailing, 10, number);
+        Integer integer;
+        return readInteger(text, trailing, 10, integer) ? asType(integer, number)
+                                                        : Reading::noNumber;
     }
 }
 
-// A stream keeps a failed allocation to itself.
-void throwIfOutOfMemory(const std::ios& stream) {
-    if (stream.bad()) {
-        throw std::bad_alloc();
-    }
-}
-
-// A stream over one text. What does not depend on the type of the number stands apart from what
-// does, which would otherwise be there six times.
-class NumberStream {
-public:
-    NumberStream(std::string_view text, bool isHexadecimal);
-    ~NumberStream();
-
-    template <typename T>
-    bool read(T& number) {
-        stream_ >> number;
-        return isRead();
-    }
-
-    // Whether nothing but white space follows.
-    bool isAtEnd();
-
-private:
-    bool isRead() const;
-
-    std::istringstream stream_;
-};
-
-NumberStream::NumberStream(std::string_view text, bool isHexadecimal) : stream_(std::string(text)) {
-    if (isHexadecimal) {
-        stream_ >> std::hex;
-    }
-}
-
-NumberStream::~NumberStream() = default;
-
-bool NumberStream::isRead() const {
-    throwIfOutOfMemory(stream_);
-    return !stream_.fail();
-}
-
-bool NumberStream::isAtEnd() {
-    char following = 0;
-    const bool isThere = static_cast<bool>(stream_ >> following);
-    throwIfOutOfMemory(stream_);
-    return !isThere;
+// A boolean is a number for a stream: "01" and "+1" are true, "2" is none.
+template <>
+Reading readByHand(std::string_view text, Trailing trailing, bool& number) {
+    int digit = 0;
+    const Reading reading = readByHand(text, trailing, digit);
+    number = digit == 1;
+    return reading == Reading::number && digit != 0 && digit != 1 ? Reading::noNumber : reading;
 }
 
 template <typename T>
@@ -185,15 +141,6 @@ std::optional<T> answer(Reading reading, T number) {
 }
 
 }  // namespace
-
-template <typename T>
-std::optional<T> numberFromStream(std::string_view text, Trailing trailing, bool hexadecimal) {
-    NumberStream stream(text, hexadecimal);
-    T number{};
-    const bool isNumber =
-        stream.read(number) && (trailing == Trailing::ignored || stream.isAtEnd());
-    return isNumber ? std::optional<T>(number) : std::nullopt;
-}
 
 template <typename T>
 std::optional<T> numberFromText(std::string_view text, Trailing trailing, TextLocale locale) {
@@ -221,19 +168,13 @@ bool isHexadecimal(std::string_view text) {
 
 std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale) {
     if (locale == TextLocale::classic) {
+        Integer integer;
         unsigned long long number = 0;
-        const Reading reading = readInteger(text, Trailing::ignored, 16, number);
+        const bool isRead = readInteger(text, Trailing::ignored, 16, integer);
+        const Reading reading = isRead ? asType(integer, number) : Reading::noNumber;
         return answer(reading, number);
     }
     return numberFromStream<unsigned long long>(text, Trailing::ignored, true);
-}
-
-template <typename T>
-std::string textFromStream(T number) {
-    std::ostringstream stream;
-    stream << number;
-    throwIfOutOfMemory(stream);
-    return stream.str();
 }
 
 template <typename T>
@@ -261,8 +202,6 @@ template std::optional<long long> numberFromText(std::string_view, Trailing, Tex
 template std::optional<unsigned long long> numberFromText(std::string_view, Trailing, TextLocale);
 template std::optional<double> numberFromText(std::string_view, Trailing, TextLocale);
 
-template std::string textFromNumber(int);
-template std::string textFromNumber(unsigned);
 template std::string textFromNumber(long long);
 template std::string textFromNumber(unsigned long long);
 template std::string textFromNumber(double);

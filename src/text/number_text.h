@@ -31,19 +31,10 @@ bool isHexadecimal(std::string_view text);
 // The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
 std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale);
 
-// The text of formatted insertion. T is int, unsigned, long long, unsigned long long or double.
+// The text of formatted insertion. T is long long, unsigned long long or double.
 // Throws std::bad_alloc.
 template <typename T>
 std::string textFromNumber(T number);
-
-// The same by a stream, in whatever locale: what the others must agree with, and what they call
-// where the global locale is not the classic one.
-template <typename T>
-[[gnu::cold]] std::optional<T> numberFromStream(std::string_view text,
-                                                Trailing trailing,
-                                                bool hexadecimal);
-template <typename T>
-[[gnu::cold]] std::string textFromStream(T number);
 
 // Whether it begins as a number below zero: "-5", "-.5".
 inline bool looksNegative(std::string_view text) {

@@ -33,7 +33,7 @@ const char* wordOf(RefusalReason reason) {
 }
 
 template <typename Texts>
-void writeList(JsonWriter& json, std::string_view key, const Texts& texts) {
+void writeList(JsonWriter& json, const char* key, const Texts& texts) {
     json.open('[', key);
     for (const auto& text : texts) {
         json.element(text);
@@ -113,7 +113,7 @@ void writeSections(JsonWriter& json, const SectionList& sections) {
 void writeGroups(JsonWriter& json, const ActionGroups& groups) {
     json.open('[', "groups");
     for (const auto& group : groups.all()) {
-        writeList(json, {}, group);
+        writeList(json, nullptr, group);
     }
     json.close();
 }

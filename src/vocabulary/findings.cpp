@@ -10,21 +10,21 @@ namespace zarn_3_3::internal {
 
 Findings::Findings(std::string_view ignored) { split(ignored, ignored_); }
 
-void Findings::error(std::string_view id, std::string_view item, std::string_view what) {
+void Findings::error(const char* id, const std::string& item, const std::string& what) {
     add(errorsFound, "error", id, item, what);
 }
 
-void Findings::warning(std::string_view id, std::string_view item, std::string_view what) {
+void Findings::warning(const char* id, const std::string& item, const std::string& what) {
     add(warningsFound, "warning", id, item, what);
 }
 
 void Findings::add(CheckCode severity,
-                   std::string_view word,
-                   std::string_view id,
-                   std::string_view item,
-                   std::string_view what) {
+                   const char* word,
+                   const char* id,
+                   const std::string& item,
+                   const std::string& what) {
     const bool isIgnored =
-        ignored_.count(std::string(id)) != 0 || ignored_.count(filled("{}:{}", {id, item})) != 0;
+        ignored_.count(id) != 0 || ignored_.count(filled("{}:{}", {id, item})) != 0;
     if (!isIgnored) {
         text_.append(visible(filled("{} {} '{}': {}", {word, id, item, what}))) += '\n';
         code_ = std::max(code_, severity);

@@ -18,8 +18,8 @@ public:
     explicit Findings(std::string_view ignored);
 
     // `item`: the primary name of the item that is meant.
-    void error(std::string_view id, std::string_view item, std::string_view what);
-    void warning(std::string_view id, std::string_view item, std::string_view what);
+    void error(const char* id, const std::string& item, const std::string& what);
+    void warning(const char* id, const std::string& item, const std::string& what);
 
     // One a line, as "error id 'item': what".
     const std::string& text() const { return text_; }
@@ -27,10 +27,10 @@ public:
 
 private:
     void add(CheckCode severity,
-             std::string_view word,
-             std::string_view id,
-             std::string_view item,
-             std::string_view what);
+             const char* word,
+             const char* id,
+             const std::string& item,
+             const std::string& what);
 
     std::set<std::string> ignored_;
     std::string text_;

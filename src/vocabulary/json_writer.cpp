@@ -37,7 +37,7 @@ char shortEscape(char c) {
 
 }  // namespace
 
-void JsonWriter::open(char bracket, std::string_view key) {
+void JsonWriter::open(char bracket, const char* key) {
     const std::size_t start = text_.size();
     const bool wasOutsideEmpty = levels_.empty() || levels_.back().isEmpty;
     if (!levels_.empty()) {
@@ -62,21 +62,21 @@ void JsonWriter::close() {
     }
 }
 
-void JsonWriter::text(std::string_view key, std::string_view value) {
+void JsonWriter::text(const char* key, std::string_view value) {
     if (!value.empty()) {
         beginEntry(key);
         quote(value);
     }
 }
 
-void JsonWriter::number(std::string_view key, long long value) {
+void JsonWriter::number(const char* key, long long value) {
     if (value != 0) {
         beginEntry(key);
         text_.append(std::to_string(value));
     }
 }
 
-void JsonWriter::flag(std::string_view key, bool value) {
+void JsonWriter::flag(const char* key, bool value) {
     if (value) {
         beginEntry(key);
         text_.append("true");
@@ -88,13 +88,13 @@ void JsonWriter::element(std::string_view value) {
     quote(value);
 }
 
-void JsonWriter::beginEntry(std::string_view key) {
+void JsonWriter::beginEntry(const char* key) {
     if (!levels_.back().isEmpty) {
         text_ += ',';
     }
     levels_.back().isEmpty = false;
     beginLine();
-    if (!key.empty()) {
+    if (key != nullptr) {
         quote(key);
         text_.append(": ");
     }

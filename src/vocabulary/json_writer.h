@@ -17,12 +17,12 @@ class JsonWriter {
 public:
     // The bracket with which an object or a list begins; no key where it stands in a list, or is
     // the whole.
-    void open(char bracket, std::string_view key = {});
+    void open(char bracket, const char* key = nullptr);
     void close();
 
-    void text(std::string_view key, std::string_view value);
-    void number(std::string_view key, long long value);
-    void flag(std::string_view key, bool value);
+    void text(const char* key, std::string_view value);
+    void number(const char* key, long long value);
+    void flag(const char* key, bool value);
 
     // In a list, also when it is empty.
     void element(std::string_view value);
@@ -38,7 +38,7 @@ private:
         bool wasOutsideEmpty;  // what holds it, before
     };
 
-    void beginEntry(std::string_view key);
+    void beginEntry(const char* key);
     void beginLine();
     void quote(std::string_view value);
     std::size_t writeSpecial(std::string_view value);

@@ -6,6 +6,7 @@ here=$(cd "$(dirname "${BASH_SOURCE[0]}")" && pwd)
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 export CMAKE_GENERATOR=Ninja
+export SOURCE_DATE_EPOCH=0  # of the manual pages
 
 fail() {
     echo "package: $*" >&2
@@ -50,11 +51,32 @@ found_by_cmake() {
     local build=$work/by-cmake
     rm -rf "$build"
     quietly cmake -S "$here" -B "$build" -DCMAKE_CXX_COMPILER="$1" -DCMAKE_BUILD_TYPE=Release \
-        -DCMAKE_PREFIX_PATH="$2"
+        -DCMAKE_PREFIX_PATH="$2" -Dbaseline="$work/baseline.json"
     quietly cmake --build "$build"
     try_tool "$build/consumer"
     quietly cmake --install "$build" --prefix "$work/tools"
     comes_with_its_files "$work/tools" "$build/consumer"
+    comes_with_its_pages "$work/tools" "$build/consumer" "$2/bin/zarn-vocabulary"
+    is_held_to_its_promises "$build"
+}
+
+# is_held_to_its_promises BUILD: the tests that zarn_tool adds pass, until the tool lacks something
+# of its baseline; then they say how to accept that.
+is_held_to_its_promises() {
+    local baseline=$work/baseline.json
+    "$1/consumer" --zarn-answer describe >"$baseline"
+    quietly ctest --test-dir "$1" -R '^consumer\.(check|baseline)$' --no-tests=error
+    grep -q '100% tests passed, 0 tests failed out of 2' "$work/log" || fail "zarn_tool adds no tests"
+    sed -i 's/"tone"/"tune"/' "$baseline"
+    ! ctest --test-dir "$1" -R baseline --output-on-failure >"$work/log" 2>&1 ||
+        fail "what is gone is not missed"
+    grep -qF "breaking item-gone 'tune'" "$work/log" ||
+        fail "the baseline test does not say what is gone: $(cat "$work/log")"
+    # The way out that it names.
+    eval "$(grep -o "cmake -E copy '.*" "$work/log")"
+    quietly ctest --test-dir "$1" -R baseline
+    rm "$baseline"
+    quietly grep -F 'There is no file' <(ctest --test-dir "$1" -R baseline --output-on-failure 2>&1)
 }
 
 # comes_with_its_files PREFIX TOOL: the description installed in PREFIX is what the tool answers, and
@@ -70,6 +92,16 @@ comes_with_its_files() {
             "$share/$script" || fail "$script is not the script of this tool"
         rm "$share/$script"
     done
+}
+
+# comes_with_its_pages PREFIX TOOL PROGRAM: the pages installed in PREFIX are those that the program
+# makes of what the tool answers. Takes them away.
+comes_with_its_pages() {
+    "$2" --zarn-answer describe >"$work/consumer.json"
+    diff "$1/share/man/man1/consumer.1" <("$3" --man "$work/consumer.json") &&
+        diff "$1/share/doc/consumer/consumer.md" <("$3" --markdown "$work/consumer.json") ||
+        fail "the installed pages are not those of this tool"
+    rm "$1/share/man/man1/consumer.1" "$1/share/doc/consumer/consumer.md"
 }
 
 # found_by_pkg_config COMPILER PREFIX [FLAG...]: the same with a bare call of the compiler.

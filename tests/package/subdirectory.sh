@@ -8,11 +8,14 @@ source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
 build_dir=$1
 compiler=$2
 
-# installed_into LIBDIR INCLUDEDIR PREFIX: the directories are those of the configuration.
+# installed_into LIBDIR INCLUDEDIR PREFIX PROGRAMS: the directories are those of the configuration;
+# PROGRAMS says whether zarn-vocabulary is built.
 installed_into() {
     quietly cmake -S "$here/subdirectory" -B "$build_dir" -DCMAKE_CXX_COMPILER="$compiler" \
         -DCMAKE_CXX_FLAGS=-O0 -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_PREFIX="$work/first" \
-        -DCMAKE_INSTALL_LIBDIR="$1" -DCMAKE_INSTALL_INCLUDEDIR="$2"
+        -DCMAKE_INSTALL_LIBDIR="$1" -DCMAKE_INSTALL_INCLUDEDIR="$2" \
+        -DZARN_BUILD_PROGRAMS="$4" -Dbaseline="$work/baseline.json"
+    cp "$work/log" "$work/configured"
     quietly cmake --build "$build_dir"
     quietly cmake --install "$build_dir" --prefix "$3"
 }
@@ -27,9 +30,11 @@ is_a_good_part() {
         fail "a library offers what it has inside"
 }
 
-installed_into "$work/first/lib" "$work/first/headers" "$work/second"
+installed_into "$work/first/lib" "$work/first/headers" "$work/second" ON
 try_tool "$build_dir/consumer"
 comes_with_its_files "$work/second" "$build_dir/consumer"
+comes_with_its_pages "$work/second" "$build_dir/consumer" "$build_dir/zarn/zarn-vocabulary"
+is_held_to_its_promises "$build_dir"
 [[ ! -e $build_dir/zarn/tests && ! -e $build_dir/zarn/examples ]] ||
     fail "more than the library is built by those who did not ask"
 mv "$work/second" "$work/moved"
@@ -39,6 +44,11 @@ found_by_cmake "$compiler" "$work/moved"
 found_by_pkg_config "$compiler" "$work/moved"
 is_a_good_part
 
-installed_into "$work/outside/lib" "$work/outside/include" "$work/third"
+installed_into "$work/outside/lib" "$work/outside/include" "$work/third" OFF
+grep -q "no pages about 'consumer', since there is no zarn-vocabulary" "$work/configured" &&
+    [[ ! -e $work/third/share/man && ! -e $work/third/share/doc/consumer ]] ||
+    fail "pages come from nowhere"
+grep -q "'consumer' is not compared with its baseline" "$work/configured" ||
+    fail "nobody hears that nothing is compared"
 found_by_pkg_config "$compiler" "$work/outside"
 echo "$compiler: the library serves as a part of another project"

@@ -122,8 +122,6 @@ void checkWriting(Number number) {
     require(textFromNumber(number) == stream.str(), "what a number is written as");
 }
 
-template void checkWriting(int);
-template void checkWriting(unsigned);
 template void checkWriting(long long);
 template void checkWriting(unsigned long long);
 template void checkWriting(double);

@@ -1,0 +1,30 @@
+// Occurrences, which hardly any tool asks for: values by themselves are what counts.
+
+#include <iterator>
+
+#include "modern/outcome.h"
+
+namespace zarn_3_3::internal {
+
+// A value belongs to the last occurrence before it. What is there already stays.
+void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& occurrences) const {
+    const ItemRecord& item = vocabulary_.require(name);
+    const StoredOption* const entry = result_.find(name);
+    if (entry == nullptr) {
+        return;
+    }
+    std::map<int, Occurrence> found;
+    for (const int position : entry->positions) {
+        found.emplace(position, Occurrence{name, position, {}});
+    }
+    for (const StoredValue& value : entry->values) {
+        const auto owner = found.upper_bound(value.position);
+        if (owner != found.begin()) {
+            std::prev(owner)->second.values.push_back(
+                item.replaced({value.text, value.value, value.position}));
+        }
+    }
+    occurrences.merge(found);
+}
+
+}  // namespace zarn_3_3::internal

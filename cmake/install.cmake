@@ -49,7 +49,11 @@ configure_file(cmake/zarn.pc.in zarn.pc @ONLY)
 install(FILES ${PROJECT_BINARY_DIR}/zarn.pc DESTINATION ${libdir}/pkgconfig COMPONENT development)
 
 # The pages keep their places among each other, so that their links hold.
-install(FILES README.md CHANGELOG.md DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(FILES README.md CHANGELOG.md CONTRIBUTING.md
+    DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
+install(FILES benchmarks/RESULTS.md benchmarks/results.svg
+    DESTINATION ${CMAKE_INSTALL_DOCDIR}/benchmarks COMPONENT development)
+install(DIRECTORY examples DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development)
 install(DIRECTORY docs DESTINATION ${CMAKE_INSTALL_DOCDIR} COMPONENT development
     FILES_MATCHING PATTERN "*.md" PATTERN "*.schema.json" PATTERN "docs/samples/*"
     PATTERN docs/tools EXCLUDE

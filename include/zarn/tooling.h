@@ -175,6 +175,7 @@ enum DiagnosticKind : std::int32_t {
     optionsExclude = 29,      // "... does not go with ..."
     optionNeeded = 30,        // "... requires option ..."
     lineRefused = 31,         // the reason of a check of the whole line
+    valuesDiffer = 32,        // "... takes one value, not ... and ..."
 };
 
 // How a parse has failed. Texts are never null; those that say nothing for a kind are empty.

@@ -78,8 +78,9 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
     const TypedOption cut(failure.argument);
     const KeptTexts& forms = registry.names().forms();
     Nearest nearest(cut.dashes.empty() ? std::string_view() : cut.name);
-    const auto written = [&cut](std::string_view name) {
-        return filled("{}{}{}", {cut.dashes, name, cut.rest});
+    const auto written = [&](std::string_view name) {
+        const bool isLong = failure.isShortBehindDash && cut.dashes == "-" && name.size() > 1;
+        return filled("{}{}{}{}", {isLong ? "-" : "", cut.dashes, name, cut.rest});
     };
     for (std::uint32_t number = 0; number < forms.size(); ++number) {
         const std::string_view form = forms[number];
@@ -133,7 +134,8 @@ Texts joined(const Failure& failure,
         registry.findBeginning(next.name).first != KeptTexts::none) {
         return {};
     }
-    const bool isOpen = !TypedOption(failure.argument).rest.empty();
+    const TypedOption cut(failure.argument);
+    const bool isOpen = !cut.rest.empty() || (failure.isGluedBehindDash && cut.dashes == "-");
     return {filled("{}{}{}", {failure.argument, isOpen ? "" : "=", failure.value})};
 }
 

@@ -5,6 +5,7 @@
 #include <utility>
 
 #include "modern/messages.h"
+#include "modern/once.h"
 #include "recognizers/messages.h"
 #include "text/filled.h"
 
@@ -185,7 +186,8 @@ int checkRules(StoredOutcome& outcome, std::string& error) {
             return resultRuleBroken;
         }
     }
-    return resultOk;
+    error = differing(outcome);
+    return error.empty() ? resultOk : resultRuleBroken;
 }
 
 }  // namespace zarn_3_3::internal

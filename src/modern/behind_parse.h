@@ -18,6 +18,8 @@ bool isAloneGiven(const StoredOutcome& outcome);
 int readEnvironment(StoredOutcome& outcome, std::string& error);
 
 int checkRequired(StoredOutcome& outcome, std::string& error);
+
+// Those of the parser, then whether values differ that must not.
 int checkRules(StoredOutcome& outcome, std::string& error);
 
 }  // namespace zarn_3_3::internal

@@ -112,7 +112,7 @@ std::unique_ptr<StoredOutcome> parseUnwritten(Vocabulary& vocabulary, CommandLin
         std::string error = outcome->text;
         quoteTyped(error, words);
         // What was parsed is not what was typed.
-        retype(vocabulary.plain().failure(), words);
+        retype(vocabulary, words);
         outcome->end(outcome->code, std::move(error));
     }
     return outcome;
@@ -261,15 +261,23 @@ Outcome* runLine(Vocabulary* vocabulary,
     }
     if (found) {
         answer = std::move(*found);
-        return outcome.release();
-    }
-    // Not where help was asked for: the tool ends, and its checks have nothing to look at.
-    writeVariables(*outcome);
-    if (outcome->code != resultOk) {
-        answer.error = filled("{}: {}\n", {tool, visible(toldInFull(*vocabulary, outcome->text))});
-        answer.exitCode = exitCodeFor(outcome->code);
     }
     return outcome.release();
+}
+
+void finishRun(Outcome* outcome, Answer& answer) {
+    // Where help was asked for the tool ends, and its checks have nothing to look at.
+    if (answer.exitCode) {
+        return;
+    }
+    Vocabulary& vocabulary = stored(outcome).vocabulary();
+    writeVariables(stored(outcome));
+    if (outcome->code != resultOk) {
+        answer.error = filled(
+            "{}: {}\n",
+            {nameOfTool(vocabulary, {0, nullptr}), visible(toldInFull(vocabulary, outcome->text))});
+        answer.exitCode = exitCodeFor(outcome->code);
+    }
 }
 
 void releaseOutcome(Outcome* outcome) noexcept { delete &stored(outcome); }

@@ -36,12 +36,15 @@ void retype(Failure& failure, const std::string& typed) {
     failure.argument = typed;
 }
 
-void retype(FailureNote& note, const std::vector<Word>& words) {
-    Failure* const failure = note.get();
+void retype(Vocabulary& vocabulary, const std::vector<Word>& words) {
+    Failure* const failure = vocabulary.plain().failure().get();
     // What has no place on the command line, as in an option file, was not adapted.
     if (failure == nullptr || failure->index == 0) {
         return;
     }
+    // What is suggested has to be an argument that these habits take.
+    failure->isShortBehindDash = (vocabulary.habits() & shortNames) != 0;
+    failure->isGluedBehindDash = areLettersGlued(vocabulary.habits());
     const Word& word = words[static_cast<std::size_t>(failure->index) - 1];
     failure->index = word.index;
     if (!word.typed.empty()) {

@@ -15,8 +15,8 @@ namespace zarn_3_3::internal {
 // The failure is about an argument that was typed so, and parsed as another.
 void retype(Failure& failure, const std::string& typed);
 
-// The same for a failure of one of these words.
-void retype(FailureNote& note, const std::vector<Word>& words);
+// The same for a failure of one of these words, in the habits of the vocabulary.
+void retype(Vocabulary& vocabulary, const std::vector<Word>& words);
 
 // The plain parser knows that a value was refused; `told`, which may be null, why.
 void refine(FailureNote& note, const Failure* told);

@@ -108,11 +108,12 @@ private:
             }
             std::string text = filled("-{}", {letter});
             if (item->takesValue() && !rest.empty()) {
-                // A "=" behind a letter attaches the value in every habit.
-                if (rest[0] != '=' && !has(gluedValues)) {
+                // Where letters alone stand behind a dash, "=" is a byte of the value as any other.
+                const bool isAttached = rest[0] == '=' && !areLettersGlued(vocabulary_.habits());
+                if (!isAttached && !has(gluedValues)) {
                     return false;
                 }
-                text.append("=").append(rest.substr(rest[0] == '=' ? 1 : 0));
+                text.append("=").append(rest.substr(isAttached ? 1 : 0));
                 rest = {};
             } else if (item->hasOptionalValue()) {
                 text = withImplied(text, *item);

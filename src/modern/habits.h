@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "modern/arguments.h"
+#include "zarn/typed/parser.h"
 
 namespace zarn_3_3::internal {
 
@@ -16,6 +17,11 @@ struct Word {
     std::string typed;
     int index = 0;  // in argv; of several arguments the first
 };
+
+// Whether what stands behind a letter is its value, whatever it begins with.
+constexpr bool areLettersGlued(unsigned habits) {
+    return (habits & gluedValues) != 0 && (habits & shortNames) != 0;
+}
 
 // The arguments behind the first, taken apart by the habits that the vocabulary accepts.
 std::vector<Word> adaptArguments(const Vocabulary& vocabulary, CommandLine line);

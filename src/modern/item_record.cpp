@@ -8,6 +8,7 @@
 #include <new>
 
 #include "modern/messages.h"
+#include "text/number_text.h"
 #include "text/typed_form.h"
 #include "zarn/typed/declaration.h"
 
@@ -47,6 +48,13 @@ bool hasBounds(const Extras& extras) { return isGiven(extras.least) || isGiven(e
 bool isNegated(const ItemRecord& item, const Value& value) {
     return (item.type == vtU32 || item.type == vtU64) && value.text != nullptr &&
            *value.text == '-';
+}
+
+// The plain interface does not look at what follows the digits of this type: "4x" is 4 there.
+bool isCutShort(const ItemRecord& item, const Value& value) {
+    return item.type == vtU64 && value.text != nullptr && *value.text != '\0' &&
+           !isHexadecimal(value.text) &&
+           !numberFromText<unsigned long long>(value.text, Trailing::refused, globalTextLocale());
 }
 
 bool isWithin(const ItemRecord& item, const Value& value) {
@@ -141,6 +149,10 @@ bool ItemRecord::holds(const Value& value, bool isLasting, std::string& reason) 
         reason = !hasBounds(extras()) || isNegated(*this, value)
                      ? boundsText()
                      : internal::boundsText(extras().least, extras().greatest);
+        return false;
+    }
+    if (isCutShort(*this, value)) {
+        reason = messages::noNumber;
         return false;
     }
     for (const Check* check = checks; check != nullptr; check = check->next) {

@@ -27,6 +27,7 @@ inline std::string wholeNumberOf(std::string_view unit) {
 }
 constexpr const char* noDuration = "it must be a number with a unit, as in 250ms, 10s, 5m or 1.5h";
 constexpr const char* noBytes = "it must be a number of bytes, as in 4096, 64K, 2MiB or 1.5GB";
+constexpr const char* noNumber = "it must be a number, as in 31, 0x1F or 1fh";
 constexpr const char* noBoolean = "it must be 1, true, yes, on, 0, false, no or off";
 
 inline std::string withReason(std::string_view message, std::string_view reason) {
@@ -74,6 +75,9 @@ inline std::string oneRequired(std::string_view names) {
 }
 inline std::string exclude(const ItemRecord& item, const ItemRecord& other) {
     return filled("{} does not go with {}", {first(item), second(other)});
+}
+inline std::string differ(const ItemRecord& item, std::string_view one, std::string_view other) {
+    return filled("{} takes one value, not '{}' and '{}'", {first(item), one, other});
 }
 inline std::string needs(const ItemRecord& item, const ItemRecord& other) {
     return filled("{} requires {}", {first(item), second(other)});

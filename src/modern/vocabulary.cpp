@@ -59,6 +59,10 @@ void Vocabulary::showVariable(ItemRecord& item) const {
         return;
     }
     const variant_t shown = item.target->current(item.variable);
+    // No default, and a query would look for one.
+    if (shown.type() == vtString && *get_variant_value(shown, "x") == '\0') {
+        return;
+    }
     // One that was asked for by name and is refused is a mistake, told below; one that is only
     // offered is let go.
     if (item.showsTarget || (shown.type() != vtNull && whyRefused(item, shown).empty())) {

@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "modern/behind_parse.h"
+#include "parser/guarded.h"
 #include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
@@ -74,14 +75,14 @@ private:
     bool isUndone_ = false;
 };
 
-// Whether a check of the whole line refuses it; why, in `reason`.
-bool isLineRefused(const StoredOutcome& outcome, std::string& reason) {
+// What the checks of the whole line say: a code, and in `reason` why.
+int checkLine(const StoredOutcome& outcome, std::string& reason) {
     // Asked with the variables written: that is what its author wants to look at.
     const Check* check = isAloneGiven(outcome) ? nullptr : outcome.vocabulary().lineChecks();
     while (check != nullptr && check->holds(Value(), reason)) {
         check = check->next;
     }
-    return check != nullptr;
+    return check == nullptr ? resultOk : resultRuleBroken;
 }
 
 }  // namespace
@@ -99,13 +100,15 @@ void writeVariables(StoredOutcome& outcome) {
     // Everything that can throw lies behind us, but for the author's own checks.
     writing.write();
     std::string reason;
-    if (!isLineRefused(outcome, reason)) {
+    // As what the check of a value throws: users can bring it about.
+    const int code = guarded(reason, [&] { return checkLine(outcome, reason); });
+    if (code == resultOk) {
         writing.keep();
         return;
     }
     BasicParser& plain = outcome.vocabulary().plain();
     plain.failure().make(lineRefused);
-    outcome.end(plain.ended(resultRuleBroken), std::move(reason));
+    outcome.end(plain.ended(code), std::move(reason));
 }
 
 }  // namespace zarn_3_3::internal

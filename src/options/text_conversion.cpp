@@ -15,21 +15,6 @@ namespace {
 
 using namespace internal;
 
-constexpr const char* hexadecimalDigits = "1234567890ABCDEFabcdef";
-
-bool isHexadecimal(std::string_view text) {
-    // A text with neither mark is decimal, also where all its digits could be hexadecimal ones.
-    // "0x" alone passes here, and fails where it is read.
-    const auto areDigits = [&text](std::size_t from, std::size_t to) {
-        return text.find_first_not_of(hexadecimalDigits, from) >= to;
-    };
-    // An empty text has no last character and ends here with the standard out-of-range error.
-    const std::string_view last = text.substr(text.size() - 1);
-    const std::string_view first = text.substr(0, 2);
-    return ((first == "0x" || first == "0X") && areDigits(2, text.size())) ||
-           ((last == "h" || last == "H") && areDigits(0, text.size() - 1));
-}
-
 // Reads a text as the type that execute is called with.
 struct OperationFromString {
     std::string_view text;

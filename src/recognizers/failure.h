@@ -30,6 +30,8 @@ struct Failure {
     std::string value;
     std::size_t valueAt = elsewhere;  // in the argument
     std::string candidates;           // one a line, when they are not worked out of the rest
+    bool isShortBehindDash = false;   // one dash is in front of letters alone
+    bool isGluedBehindDash = false;   // and what stands behind one may be its value
 };
 
 // Holds the last failure. Made where something fails, and nowhere else: a parse that goes well asks

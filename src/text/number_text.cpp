@@ -154,6 +154,18 @@ std::optional<T> numberFromText(std::string_view text, Trailing trailing, TextLo
     return numberFromStream<T>(text, trailing, false);
 }
 
+bool isHexadecimal(std::string_view text) {
+    // "0x" alone passes here, and fails where it is read.
+    const auto areDigits = [&text](std::size_t from, std::size_t to) {
+        return text.find_first_not_of("1234567890ABCDEFabcdef", from) >= to;
+    };
+    // An empty text has no last character and ends here with the standard out-of-range error.
+    const std::string_view last = text.substr(text.size() - 1);
+    const std::string_view first = text.substr(0, 2);
+    return ((first == "0x" || first == "0X") && areDigits(2, text.size())) ||
+           ((last == "h" || last == "H") && areDigits(0, text.size() - 1));
+}
+
 std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale) {
     if (locale == TextLocale::classic) {
         Integer integer;

@@ -24,6 +24,10 @@ enum class Trailing {
 template <typename T>
 std::optional<T> numberFromText(std::string_view text, Trailing trailing, TextLocale locale);
 
+// Whether a text, which is not empty, has one of the marks of hexadecimal numbers: "0x1F", "1fh".
+// One without is decimal, also where all its digits could be hexadecimal ones.
+bool isHexadecimal(std::string_view text);
+
 // The same read as hexadecimal, with or without "0x" in front; what follows is ignored.
 std::optional<unsigned long long> hexadecimalFromText(std::string_view text, TextLocale locale);
 

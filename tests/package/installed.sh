@@ -31,7 +31,13 @@ refused_by_zarn_tool() {
     grep -qF "refused $3" "$work/log" || fail "zarn_tool does not say '$3': $(cat "$work/log")"
 }
 
-[[ -s $work/moved/share/doc/zarn/docs/guide/index.md ]] || fail "there is no guide"
+# Links of the installed pages, code apart, lead to what is installed.
+pages=$work/moved/share/doc/zarn
+[[ -s $pages/docs/guide/index.md ]] || fail "there is no guide"
+while IFS=: read -r page link; do
+    [[ -e $(dirname "$page")/$link ]] || fail "${page#"$pages"/} leads to $link, which is not installed"
+done < <(find "$pages" -name '*.md' -exec sed -i '/^```/,/^```$/d' {} + \
+    -exec grep -oP '\]\(\K(?!https?:)[^)# ]+(?=[)#])' /dev/null {} +)
 echo 'int main() { return 2; }' >"$work/mute.cpp"
 refused_by_zarn_tool "$work/mute.cpp" '' \
     "does not answer '--zarn-answer describe' (it ended with 2)."

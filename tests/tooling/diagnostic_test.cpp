@@ -387,6 +387,14 @@ TEST(Diagnoses, TellOfACheckOfTheLine) {
     EXPECT_EQ(told(*parser.operator->()), "31 2");
 }
 
+TEST(Diagnoses, TellOfValuesThatDiffer) {
+    Parser parser;
+    parser.declare({option<int>("level", "").once()});
+    const char* const argv[] = {"tool", "--level=1", "--level=2"};
+    EXPECT_EQ(parser.parse(3, argv).code(), resultRuleBroken);
+    EXPECT_EQ(told(*parser.operator->()), "32 2 level=2");
+}
+
 TEST(Diagnoses, TellOfOneArgumentTooMany) {
     Parser parser;
     std::string file;

@@ -40,7 +40,9 @@ a signed number may not fit this option|zarn::option<unsigned>("x", "").byDefaul
 the values of this option are numbers|zarn::option<int>("x", "").byDefault("3");
 the values of this option are whole numbers|zarn::option<int>("x", "").atLeast(3.5);
 the values of this option are texts|zarn::option<std::string>("x", "").allow({1});
-the type it is declared with|zarn::option<zarn::Bytes>("x", "").byDefault("3");
+the type it is declared with|zarn::option<E>("x", "").byDefault("a");
+write zarn::Bytes{64 << 10}|zarn::option<zarn::Bytes>("x", "").atLeast(64 << 10);
+write std::chrono::seconds(5)|zarn::option<std::chrono::minutes>("x", "").between(1, 60);
 a switch takes no value|zarn::option("x", "").byDefault(true);
 for a switch a bool or an integer|int i; zarn::option<bool>("x", "").into(i);
 an enumeration allows the names of its table|zarn::option<E>("x", "").allow({E::a});
@@ -50,11 +52,15 @@ only texts and paths name files|zarn::option<int>("x", "").existingFile();
 taken from the environment: use option<bool>|zarn::option("x", "").fromEnvironment("X");
 a boolean takes no value|zarn::option<bool>("x", "").withoutValue(true);
 stores() is for switches|int i; zarn::option<int>("x", "").stores(i, 1);
+which a vector is not|std::vector<E> v; zarn::option("x", "").stores(v, E::a);
+a constant of the type of its variable|int i; zarn::option("x", "").stores(i, "x");
+a switch has no value to check|zarn::option("x", "").check([](int) { return true; }, "");
+a check keeps no state|zarn::option<int>("x", "").check([n = 0](int) mutable { return ++n < 3; }, "");
 a check of the command line is called without|zarn::Parser().check([](int) { return true; }, "");
 a positional item takes values|zarn::positional<bool>("x", "");
 a check is called with a value|zarn::option<int>("x", "").check([](std::string) { return true; }, "");
 nodiscard|zarn::Parser().parse(0, nullptr);'
-code=('#include <zarn/typed.h>' 'enum class E { a };'
+code=('#include <zarn/typed.h>' '#include <chrono>' 'enum class E { a };'
     'template <> struct zarn::Names<E> { static constexpr zarn::Name<E> table[] = {{"a", E::a}}; };')
 while IFS='|' read -r _ statement; do
     code+=("void mistake${#code[@]}() { $statement }")

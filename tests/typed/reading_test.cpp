@@ -114,6 +114,7 @@ TEST(Conversions, OfQuantitiesAreExact) {
     using Real = std::chrono::duration<double>;
     constexpr const char* noDuration =
         "it must be a number with a unit, as in 250ms, 10s, 5m or 1.5h";
+    constexpr const char* noNumber = "it must be a number, as in 31, 0x1F or 1fh";
     constexpr const char* noBytes = "it must be a number of bytes, as in 4096, 64K, 2MiB or 1.5GB";
     const struct {
         std::string (*read)(const char* text);
@@ -155,6 +156,11 @@ TEST(Conversions, OfQuantitiesAreExact) {
         {readAs<Bytes>,       "1KiBi",                 noBytes                                   },
         {readAs<Bytes>,       "1Z",                    noBytes                                   },
         {readAs<Bytes>,       "K",                     noBytes                                   },
+        {readAs<std::size_t>, "12abc",                 noNumber                                  },
+        {readAs<std::size_t>, "4 ",                    "4"                                       },
+        {readAs<std::size_t>, "0x1F",                  "31"                                      },
+        {readAs<std::size_t>, "1fh",                   "31"                                      },
+        {readAs<std::size_t>, "1fhx",                  noNumber                                  },
     };
     for (const auto& row : rows) {
         EXPECT_EQ(row.read(row.text), row.expected) << row.text;

@@ -135,8 +135,45 @@ TEST_F(Run, TellsWhyItEnds) {
                   exitUsage,
                   "sonde: Help for no\\x0awhere not available.Please use one of the following "
                   "topics:\n    list   Look.\n    pack   Make an archive.\n");
+    // A check of the line may ask what the run has found so far, and its exceptions are told.
+    parser.check(
+        [&] { return parser.result().isGiven("pack") || !parser.result().get<double>("no-such"); },
+        "it has to be packed");
+    expectFailure(
+        {"--list"}, exitInternal, "sonde: zarn: 'no-such': no option of this name is declared\n");
     const OnValue failing(parser, [](const char*, const Value&) { throw std::bad_alloc(); });
     expectFailure({"--jobs=3"}, exitInternal, "sonde: std::bad_alloc\n");
+}
+
+TEST(RunOf, AToolHasAResult) {
+    Parser parser({"tool"});
+    EXPECT_THROW(static_cast<void>(parser.result()), std::logic_error);
+    parser.declare({option("quiet,q", "")});
+    parser.check([&] { return !parser.result().isGiven("quiet"); }, "it is loud");
+    EXPECT_EQ(run(parser, {"-q"}).error, "tool: it is loud\n");
+    EXPECT_EQ(parser.result().code(), resultRuleBroken);
+    EXPECT_EQ(run(parser, {}).code, std::nullopt);
+}
+
+TEST(RunOf, AToolSuggestsWhatItsHabitsTake) {
+    const struct {
+        unsigned habits;
+        Line line;
+        const char* suggestion;
+    } rows[] = {
+        {unixHabits,              {"-filf=x"},      "-file=x"  },
+        {unixHabits | shortNames, {"-filf=x"},      "--file=x" },
+        {unixHabits | shortNames, {"-t", "-x"},     "-t-x"     },
+        {shortNames,              {"-t", "-x"},     "-t=-x"    },
+        {unixHabits | shortNames, {"--text", "-x"}, "--text=-x"},
+    };
+    for (const auto& row : rows) {
+        Parser parser;
+        parser.accept(row.habits);
+        parser.declare({option<std::string>("file", ""), option<std::string>("text,t", "")});
+        EXPECT_THAT(run(parser, row.line).error,
+                    testing::EndsWith(std::string(" Did you mean '") + row.suggestion + "'?\n"));
+    }
 }
 
 TEST(RunOf, AToolTellsWhatWasProbablyMeant) {

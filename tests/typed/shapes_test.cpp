@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 
+#include <fstream>
 #include <string>
 
 #include "typed/tool_under_test.h"
@@ -21,9 +22,10 @@ struct Sorting {
     std::string color = "never";
     int depth = 3;
     int jobs = 0;
+    std::string separator;
     std::string list() const {
         return Names<Order>::table[static_cast<int>(order)] + (" " + color) + " " +
-               std::to_string(depth);
+               std::to_string(depth) + (separator.empty() ? "" : " ") + separator;
     }
 };
 
@@ -39,6 +41,7 @@ void declareSorting(Parser& parser, Sorting& sorting) {
             .into(sorting.color),
         option<int>("depth,d", "How deep.").withoutValue(9).into(sorting.depth),
         option<int>("jobs", "How many.").atLeast(1).into(sorting.jobs),
+        option<std::string>("separator,t", "What is between.").into(sorting.separator),
         option("about", "What it is.").alone(),
         positional("FILE", "What to sort."),
     });
@@ -79,6 +82,17 @@ TEST(Shapes, OfOptionsBeyondOneValueEach) {
         {{"-ra"},                      unixHabits | shortNames, "plain never 3 Unknown option: -ra"                                    },
         {{"-sort=random"},             shortNames,              "plain never 3 Unknown option: -sort=random"                           },
         {{"--sort=random"},            shortNames,              "random never 3"                                                       },
+        {{"-cu"},
+         unixHabits,                                            "plain never 3 Value validation problem in argument '-cu': Option 'color' does not allow "
+         "value 'u'. Possible values follows: 'always', 'never', 'auto'"                                           },
+        {{"-nt=", "-t==", "-tx=y"},    unixHabits | shortNames, "numeric never 3 x=y"                                                  },
+        {{"-nt="},                     unixHabits | shortNames, "numeric never 3 ="                                                    },
+        {{"-t=x"},                     unixHabits | shortNames, "plain never 3 =x"                                                     },
+        {{"-t", "="},                  unixHabits | shortNames, "plain never 3 ="                                                      },
+        {{"-t=x"},                     shortNames,              "plain never 3 x"                                                      },
+        {{"-t=x"},                     unixHabits,              "plain never 3 x"                                                      },
+        {{"-t="},
+         unixHabits,                                            "plain never 3 Option 'separator' requires a value in argument: '-t='" },
     };
     for (const SortingRow& row : rows) {
         Sorting sorting;
@@ -103,15 +117,80 @@ TEST(Shapes, ShowDefaultsThatTheyWouldTake) {
     EXPECT_THAT(help, testing::Not(testing::HasSubstr("(0)")));
     EXPECT_TRUE(parser.parse(0, nullptr));
     EXPECT_EQ(sorting.list(), "plain never 3");
+    // An empty text is no default, and none that a check of the vocabulary finds fault with.
+    EXPECT_EQ(parser.check("no-help,tie,own-tie"), "");
+}
+
+struct Single {
+    Order order = Order::plain;
+    Bytes size;
+    bool color = false;
+    int way = 0;
+};
+
+void declareSingle(Parser& parser, Single& single) {
+    parser.declare({
+        option<Order>("sort", "").into(single.order).once(),
+        option("numeric,n", "").stores(single.order, Order::numeric),
+        option("random,R", "").stores(single.order, Order::random),
+        option<Bytes>("size,s", "").into(single.size).once(),
+        option<bool>("color", "").into(single.color).once(),
+        option("up", "").stores(single.way, 1).once(),
+        option("down", "").stores(single.way, 2),
+        option<std::string>("name", "").once(),
+        option<int>("any", ""),
+        option("about", "").alone(),
+    });
+    parser.readOptionFiles("");
+}
+
+TEST(Shapes, OfWhatTakesOneValueHoweverOften) {
+    const std::string path = testing::TempDir() + "once.options";
+    std::ofstream(path) << "--name=b\n-R\n-n\n";
+    const std::string file = "--option-file=" + path;
+    const struct {
+        Line line;
+        const char* message;
+    } rows[] = {
+        {{"-n", "--sort=numeric", "-n"},             ""                                                      },
+        {{"-n", "-R"},                               "Option '--numeric' does not go with option '--random'" },
+        {{"--sort=random", "-n"},                    "Option '--sort' does not go with option '--numeric'"   },
+        {{"--sort=num", "--sort=ran"},
+         "Option '--sort' takes one value, not 'numeric' and 'random'"                                       },
+        {{"-s=64K", "-s=65536"},                     ""                                                      },
+        {{"-s=64K", "-s=65537"},                     "Option '--size' takes one value, not '64K' and '65537'"},
+        {{"--color", "--color"},                     ""                                                      },
+        {{"--color", "--no-color"},                  "Option '--color' takes one value, not '1' and '0'"     },
+        {{"--up", "--up"},                           ""                                                      },
+        {{"--down", "--up"},                         "Option '--down' does not go with option '--up'"        },
+        {{"--name=a", "--name=a"},                   ""                                                      },
+        {{"--name=a", "--name=b"},                   "Option '--name' takes one value, not 'a' and 'b'"      },
+        {{"--any=1", "--any=2"},                     ""                                                      },
+        {{"--name=a", "--name=b", "--about"},        ""                                                      },
+        {{"--name=a", "--sort=plain", file.c_str()}, ""                                                      },
+        {{file.c_str()},                             "Option '--random' does not go with option '--numeric'" },
+    };
+    for (const auto& row : rows) {
+        Single single;
+        Parser parser;
+        declareSingle(parser, single);
+        EXPECT_STREQ(parser.parse(row.line.argc(), row.line.argv()).text(), row.message);
+    }
 }
 
 TEST(Shapes, SetVariablesBackWhenACheckOfTheLineThrows) {
     Sorting sorting;
     Parser parser;
     declareSorting(parser, sorting);
-    parser.check([]() -> bool { throw std::runtime_error("no"); }, "");
+    bool isForeign = false;
+    parser.check([&]() -> bool { isForeign ? throw 1 : throw std::runtime_error("no"); }, "");
     const Line line{"-n", "-R"};
-    EXPECT_THROW(static_cast<void>(parser.parse(line.argc(), line.argv())), std::runtime_error);
+    const Result result = parser.parse(line.argc(), line.argv());
+    EXPECT_EQ(result.code(), resultException);
+    EXPECT_STREQ(result.text(), "no");
+    EXPECT_EQ(sorting.list(), "plain never 3");
+    isForeign = true;
+    EXPECT_THROW(static_cast<void>(parser.parse(line.argc(), line.argv())), int);
     EXPECT_EQ(sorting.list(), "plain never 3");
 }
 

@@ -24,6 +24,16 @@ public:
     }
 };
 
+// Whether a predicate answers true or false to these arguments. One that could, but not as const,
+// is refused here.
+template <typename Predicate, typename... Arguments>
+constexpr bool isPredicate() {
+    constexpr bool isAsked = std::is_invocable_r_v<bool, Predicate&, const Arguments&...>;
+    static_assert(!isAsked || std::is_invocable_r_v<bool, const Predicate&, const Arguments&...>,
+                  "a check keeps no state: it is called as const, which a mutable lambda is not");
+    return isAsked;
+}
+
 // That predicate(value as a T) is true.
 template <typename T, typename Predicate>
 class Holds final : public Check {

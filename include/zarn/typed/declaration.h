@@ -21,6 +21,7 @@
 
 #include "zarn/typed/checks.h"
 #include "zarn/typed/engine.h"
+#include "zarn/typed/quantities.h"
 #include "zarn/typed/target.h"
 #include "zarn/typed/value.h"
 
@@ -42,6 +43,10 @@ protected:
 namespace internal {
 
 inline constexpr const char* noValueBetween = "no value lies between its bounds";
+
+// What the code behind a failed assertion goes on with, so that the compiler says nothing else.
+template <typename T>
+T refusedAbove();
 
 // Throws std::logic_error: a number does not fit the item.
 [[noreturn]] inline void refuseNumber(const char* names,
@@ -100,11 +105,18 @@ public:
     //     zarn::option("random,R", "Shuffle.").stores(order, Order::random),
     template <typename V, typename U>
     Declaration&& stores(V& variable, U&& value) && {
+        constexpr bool isVector = internal::VariableOf<V>::isVector;
+        constexpr bool isFitting = !isVector && std::is_constructible_v<V, U>;
         static_assert(std::is_same_v<T, Switch>, "stores() is for switches, which take no value");
-        using Kind = internal::ConstantOf<V>;
-        extras().constant.hold(new V(std::forward<U>(value)), &Kind::release);
-        description_->target = &Kind::kind;
-        description_->variable = &variable;
+        static_assert(!isVector, "stores() wants a variable for one value, which a vector is not");
+        static_assert(isVector || isFitting,
+                      "stores() wants a constant of the type of its variable");
+        if constexpr (isFitting) {
+            using Kind = internal::ConstantOf<V>;
+            extras().constant.hold(new V(std::forward<U>(value)), &Kind::release);
+            description_->target = &Kind::kind;
+            description_->variable = &variable;
+        }
         return std::move(*this);
     }
 
@@ -127,6 +139,7 @@ public:
     }
 
     // Shows what the variable given to `into` holds when the item is declared, which stays in it.
+    // An empty text is none here, either.
     Declaration&& byDefault() && {
         static_assert(!std::is_same_v<T, Switch>, "a switch takes no value");
         static_assert(internal::isWritten<T>, "a default is shown by the write of its Conversion");
@@ -210,14 +223,18 @@ public:
 
     // Refuses values for which predicate(value), called with a T, is not true. `reason` is put
     // behind the message: "it must be even". Checks are asked in the order of the command line and,
-    // for one value, behind the bounds of a number, in the order in which they were chained.
+    // for one value, behind the bounds of a number, in the order in which they were chained. How
+    // often is not promised, and a predicate keeps no state.
     template <typename Predicate>
     Declaration&& check(Predicate predicate, std::string reason) && {
-        static_assert(std::is_invocable_r_v<bool, const Predicate&, const T&>,
+        static_assert(!std::is_same_v<T, Switch>, "a switch has no value to check");
+        static_assert(std::is_same_v<T, Switch> || internal::isPredicate<Predicate, T>(),
                       "a check is called with a value of the option and answers true or false");
-        internal::addCheck(
-            description_.get(),
-            new internal::Holds<T, Predicate>(std::move(predicate), std::move(reason)));
+        if constexpr (std::is_invocable_r_v<bool, const Predicate&, const T&>) {
+            internal::addCheck(
+                description_.get(),
+                new internal::Holds<T, Predicate>(std::move(predicate), std::move(reason)));
+        }
         return std::move(*this);
     }
 
@@ -244,6 +261,15 @@ public:
     // Refuses a command line without the item; for a modifier, one with an action of its own.
     Declaration&& required() && noexcept {
         description_->isRequired = true;
+        return std::move(*this);
+    }
+
+    // Refuses different values for its variable, of the item and of those that share the variable,
+    // of all of which it is then true. The same value may be given again. What counts less, as an
+    // option file beside the command line, is not compared. Without into and stores it is the item
+    // alone that is compared.
+    Declaration&& once() && noexcept {
+        description_->isOnce = true;
         return std::move(*this);
     }
 
@@ -276,6 +302,12 @@ private:
         } else if constexpr (internal::isText<T>) {
             static_assert(std::is_convertible_v<const U&, std::string_view>,
                           "the values of this option are texts");
+        } else if constexpr (std::is_same_v<T, Bytes>) {
+            static_assert(std::is_convertible_v<const U&, T>,
+                          "the values of this option are sizes: write zarn::Bytes{64 << 10}");
+        } else if constexpr (internal::isDuration<T>) {
+            static_assert(std::is_convertible_v<const U&, T>,
+                          "the values of this option are durations: write std::chrono::seconds(5)");
         } else {
             static_assert(std::is_convertible_v<const U&, T>,
                           "the values of this option have the type it is declared with");
@@ -297,8 +329,10 @@ private:
             return static_cast<T>(value);
         } else if constexpr (internal::isText<T>) {
             return std::string(value);
-        } else {
+        } else if constexpr (std::is_convertible_v<const U&, T>) {
             return T(value);
+        } else {
+            return internal::refusedAbove<T>();
         }
     }
 

@@ -166,6 +166,7 @@ struct ItemDescription {
     bool isRequired = false;
     bool isAlone = false;
     bool showsTarget = false;  // as its default
+    bool isOnce = false;       // for all that share its variable
 };
 
 enum class RuleKind : std::int32_t { exactlyOne, atMostOne, together, needs };
@@ -252,11 +253,17 @@ ZARN_EXPORT void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept
 // The outcomes are freed with releaseOutcome. They keep what they need of the vocabulary.
 ZARN_EXPORT Outcome* parseLine(Vocabulary* vocabulary, int argc, const char* const* argv);
 ZARN_EXPORT Outcome* parseText(Vocabulary* vocabulary, const char* text, Outcome* into);
+
+// Parses without writing variables; finishRun does that.
 ZARN_EXPORT Outcome* runLine(Vocabulary* vocabulary,
                              int argc,
                              const char* const* argv,
                              Answer& answer,
                              void (*fit)(HelpStyle&));
+
+// Apart from it, so that the checks of the line may look at the outcome. Nothing is done when there
+// is an answer already.
+ZARN_EXPORT void finishRun(Outcome* outcome, Answer& answer);
 ZARN_EXPORT void releaseOutcome(Outcome* outcome) noexcept;
 
 // `last` is the value that counts, not found when there is none; `all`, which may be null, receives

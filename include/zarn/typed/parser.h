@@ -43,7 +43,7 @@ enum ExitCode : int {
     exitAnswered = 0,    // help or the version was printed
     exitUsage = 2,       // the command line is wrong
     exitUnreadable = 3,  // an option file could not be read
-    exitInternal = 4,    // memory ran out, a handler threw, or help could not be written
+    exitInternal = 4,    // memory ran out, a handler or check threw, or help could not be written
 };
 
 // A vocabulary, and what it takes to parse command lines of it.
@@ -60,8 +60,8 @@ enum ExitCode : int {
 //
 // Mistakes of the author are a std::logic_error that says what and where, thrown when an item is
 // declared or, where that is too early, by the first parse. Exceptions beside it: std::bad_alloc
-// when memory runs out, what a handler throws that does not derive from std::exception, and what a
-// check of the whole line throws. With an exception no variable is written.
+// when memory runs out, and what a handler or a check throws that does not derive from
+// std::exception. With an exception no variable is written.
 class Parser final {
 public:
     // tool   who is parsing; what is left out is not shown
@@ -111,18 +111,20 @@ public:
     void showDefaults() noexcept { internal::showDefaults(vocabulary_.get()); }
 
     // Refuses a command line for which predicate() is not true. It is asked when everything else is
-    // right and the variables are written; they are then set back, also when it throws, which
-    // leaves the parse. `reason` is the message. Where an option that is alone() is given, nothing
-    // is asked.
+    // right and the variables are written; they are then set back, also when it throws, which ends
+    // the parse as a handler's exception does. `reason` is the message. Where an option that is
+    // alone() is given, nothing is asked.
     //
     //     parser.check([&] { return !isChecking || files.size() < 2; }, "--check takes one file");
     template <typename Predicate>
     void check(Predicate predicate, std::string reason) {
-        static_assert(std::is_invocable_r_v<bool, const Predicate&>,
+        static_assert(internal::isPredicate<Predicate>(),
                       "a check of the command line is called without arguments");
-        internal::addLineCheck(
-            vocabulary_.get(),
-            new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
+        if constexpr (std::is_invocable_r_v<bool, const Predicate&>) {
+            internal::addLineCheck(
+                vocabulary_.get(),
+                new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
+        }
     }
 
     // What checkVocabulary finds, one a line; for a test of the tool:
@@ -164,7 +166,7 @@ public:
     //   resultOk
     //   resultVetoed                a check or a handler refused a value
     //   resultRuleBroken            an argument, a value or a combination of options is wrong
-    //   resultException             a standard exception inside, thrown by a handler perhaps
+    //   resultException             a standard exception inside, thrown by a handler or a check
     //   resultOptionFileUnreadable  an option file could not be read
     Result parse(int argc, const char* const* argv) {
         return Result(internal::parseLine(vocabulary_.get(), argc, argv));
@@ -196,8 +198,10 @@ public:
     [[nodiscard]] std::optional<int> run(int argc, const char* const* argv) {
         try {
             internal::Answer answer;
-            result_.emplace(
-                internal::runLine(vocabulary_.get(), argc, argv, answer, &fitToTerminal));
+            internal::Outcome* const outcome =
+                internal::runLine(vocabulary_.get(), argc, argv, answer, &fitToTerminal);
+            result_.emplace(outcome);
+            internal::finishRun(outcome, answer);
             std::fflush(stdout);  // what a handler has said comes first
             const bool isPrinted = print(stdout, answer.output) && print(stderr, answer.error);
             return isPrinted ? answer.exitCode : exitInternal;
@@ -207,8 +211,14 @@ public:
         }
     }
 
-    // What the last run found; it must have been called, and answered nothing.
-    const Result& result() const noexcept { return *result_; }
+    // What the last run found. A check of the whole line may ask it, too, within `run`. A mistake,
+    // and a std::logic_error, where `run` was not called.
+    const Result& result() const {
+        if (!result_) {
+            internal::mistake("result()", "it is what run has found, and run was not called");
+        }
+        return *result_;
+    }
 
     // The help that formatHelp writes, of this tool; by default all of it in 80 columns. As run
     // prints it, it is fitted to the terminal:

@@ -26,6 +26,11 @@ struct Bytes {
 
 namespace internal {
 
+template <typename T, typename = void>
+inline constexpr bool isDuration = false;
+template <typename T>
+inline constexpr bool isDuration<T, std::void_t<typename T::rep, typename T::period>> = true;
+
 // Which unit the ticks of a duration count: its size in nanoseconds.
 template <typename Period>
 constexpr std::uint64_t tickOf() {
@@ -63,7 +68,7 @@ struct Conversion<Bytes> {
 // std::chrono::duration, without a need for its header. Typed as a number with a unit: ns, us, ms,
 // s, m or min, h, d. It is never negative, and exact: "1.5s" is no number of whole seconds.
 template <typename T>
-struct Conversion<T, std::void_t<typename T::rep, typename T::period>> {
+struct Conversion<T, std::enable_if_t<internal::isDuration<T>>> {
     static std::optional<T> read(const char* text, std::string& reason) {
         using Count = typename T::rep;
         constexpr std::uint64_t tick = internal::tickOf<typename T::period>();

@@ -65,10 +65,9 @@ bool isWithin(const ItemRecord& item, const Value& value) {
 
 }  // namespace
 
-const Extras& ItemRecord::extras() const {
-    // One for all: most items have nothing of them, and many tools have hundreds of items.
+const Extras& ItemRecord::noExtras() {
     static const Extras none;
-    return ownExtras != nullptr ? *ownExtras : none;
+    return none;
 }
 
 Extras& ItemRecord::changeableExtras() {

@@ -19,7 +19,7 @@ struct ItemRecord final : ItemDescription {
     ItemRecord& operator=(const ItemRecord&) = delete;
     ~ItemRecord();
 
-    const Extras& extras() const;
+    const Extras& extras() const { return ownExtras != nullptr ? *ownExtras : noExtras(); }
     Extras& changeableExtras();
 
     // Whether its values have to be parsed anew when they were stored for a group of positional
@@ -62,6 +62,10 @@ struct ItemRecord final : ItemDescription {
     const OptionDescription* plain = nullptr;  // as it was declared
     bool isAnswered = false;                   // without the tool, as help is
     bool isPlain = false;                      // declared with the plain interface
+
+private:
+    // One for all: most items have nothing of them, and many tools have hundreds of items.
+    static const Extras& noExtras();
 };
 
 // Puts the check at the end of those.

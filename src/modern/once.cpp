@@ -12,38 +12,14 @@
 namespace zarn_3_3::internal {
 namespace {
 
-// What takes one value: a variable, or an item that has none.
-struct Slot {
-    const void* key;
-    const ItemRecord* reader;  // the option whose values go there, where switches store constants
-};
-
 const void* keyOf(const ItemRecord& item) {
     return item.variable != nullptr ? item.variable : &item;
 }
 
-bool isBefore(const Slot& a, const Slot& b) { return std::less<>()(a.key, b.key); }
-
-// Null for an item that may be given with different values.
-Slot* slotOf(const ItemRecord& item, std::vector<Slot>& slots) {
-    const Slot wanted{keyOf(item), nullptr};
-    const auto found = std::lower_bound(slots.begin(), slots.end(), wanted, &isBefore);
-    return found != slots.end() && found->key == wanted.key ? &*found : nullptr;
-}
-
-std::vector<Slot> allSlots(const Vocabulary& vocabulary) {
-    std::vector<Slot> slots;
-    for (const auto& item : vocabulary.items()) {
-        if (item->isOnce) {
-            slots.push_back({keyOf(*item), nullptr});
-        }
-    }
-    heapSort(slots, &isBefore);
-    return slots;
-}
+bool storesConstant(const ItemRecord& item) { return item.extras().constant.value != nullptr; }
 
 struct GivenValue {
-    const Slot* slot;
+    const void* key;  // what takes one value: a variable, or an item that has none
     Origin origin;
     const ItemRecord* item;
     Value value;
@@ -51,15 +27,12 @@ struct GivenValue {
 
 // What counts most first, and of that the first that was given.
 bool isInFront(const GivenValue& a, const GivenValue& b) {
-    return std::tuple(a.slot, b.origin, a.value.position) <
-           std::tuple(b.slot, a.origin, b.value.position);
+    return std::tuple(a.key, b.origin, a.value.position) <
+           std::tuple(b.key, a.origin, b.value.position);
 }
 
 // Adds the values of the item from where the one that counts comes.
-void addGiven(const ItemRecord& item,
-              const Slot& slot,
-              StoredOutcome& outcome,
-              std::vector<GivenValue>& all) {
+void addGiven(const ItemRecord& item, StoredOutcome& outcome, std::vector<GivenValue>& all) {
     std::vector<Value> values;
     const Origin origin = outcome.find(item, &values).origin;
     if (origin <= Origin::byDefault) {
@@ -68,42 +41,58 @@ void addGiven(const ItemRecord& item,
     for (const Value& value : values) {
         const bool isFromFile = outcome.result().isFromFile(value.position);
         if (origin != Origin::commandLine || !isFromFile) {
-            all.push_back({&slot, origin, &item, value});
+            all.push_back({keyOf(item), origin, &item, value});
         }
     }
 }
 
-std::vector<GivenValue> allGiven(StoredOutcome& outcome, std::vector<Slot>& slots) {
+// Of the items that may be asked for one value.
+std::vector<GivenValue> allGiven(StoredOutcome& outcome) {
     std::vector<GivenValue> all;
     for (const auto& item : outcome.vocabulary().items()) {
-        if (Slot* const slot = slotOf(*item, slots)) {
-            if (item->target != nullptr && item->extras().constant.value == nullptr) {
-                slot->reader = item.get();
-            }
-            addGiven(*item, *slot, outcome, all);
+        if (item->isOnce || storesConstant(*item)) {
+            addGiven(*item, outcome, all);
         }
     }
     heapSort(all, &isInFront);
     return all;
 }
 
+// What fills one variable.
+struct Slot {
+    bool isOnce = false;
+    const ItemRecord* reader = nullptr;  // the option whose values go there, beside constants
+};
+
+Slot slotOf(const GivenValue& given, const Vocabulary& vocabulary) {
+    Slot slot;
+    for (const auto& item : vocabulary.items()) {
+        if (keyOf(*item) == given.key) {
+            slot.isOnce = slot.isOnce || item->isOnce;
+            slot.reader =
+                item->target != nullptr && !storesConstant(*item) ? item.get() : slot.reader;
+        }
+    }
+    return slot;
+}
+
 // What the variable would hold, as the reader shows it: "64K" for "65536". Empty when it cannot.
-variant_t shown(const GivenValue& given) {
-    if (given.slot->reader == nullptr) {
+variant_t shown(const GivenValue& given, const ItemRecord* reader) {
+    if (reader == nullptr) {
         return {};
     }
-    const TargetKind& kind = *given.slot->reader->target;
-    if (const void* const constant = given.item->extras().constant.value) {
-        return kind.current(constant);
+    const TargetKind& kind = *reader->target;
+    if (storesConstant(*given.item)) {
+        return kind.current(given.item->extras().constant.value);
     }
     const std::unique_ptr<void, decltype(kind.release)> made(
         kind.make({&given.value, 1, given.value, nullptr}), kind.release);
     return kind.current(made.get());
 }
 
-bool isSame(const GivenValue& a, const GivenValue& b) {
-    const variant_t one = shown(a);
-    const variant_t other = shown(b);
+bool isSame(const GivenValue& a, const GivenValue& b, const ItemRecord* reader) {
+    const variant_t one = shown(a, reader);
+    const variant_t other = shown(b, reader);
     return one.type() != vtNull && other.type() != vtNull
                ? one == other
                : a.item == b.item && a.value.value == b.value.value;
@@ -122,14 +111,20 @@ std::string told(const GivenValue& one, const GivenValue& other, FailureNote& no
 }  // namespace
 
 std::string differing(StoredOutcome& outcome) {
-    std::vector<Slot> slots = allSlots(outcome.vocabulary());
-    const std::vector<GivenValue> all =
-        slots.empty() ? std::vector<GivenValue>() : allGiven(outcome, slots);
+    const Vocabulary& vocabulary = outcome.vocabulary();
+    const auto& items = vocabulary.items();
+    if (std::none_of(items.begin(), items.end(), [](const auto& item) { return item->isOnce; })) {
+        return "";
+    }
+    const std::vector<GivenValue> all = allGiven(outcome);
     const GivenValue* first = nullptr;
+    Slot slot;
     for (const GivenValue& given : all) {
-        if (first == nullptr || given.slot != first->slot) {
+        if (first == nullptr || given.key != first->key) {
             first = &given;
-        } else if (given.origin == first->origin && !isSame(*first, given)) {
+            slot = slotOf(given, vocabulary);
+        } else if (slot.isOnce && given.origin == first->origin &&
+                   !isSame(*first, given, slot.reader)) {
             return told(*first, given, outcome.vocabulary().plain().failure());
         }
     }

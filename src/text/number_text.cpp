@@ -34,6 +34,9 @@ bool mayFollow(const char* at, const char* end, Trailing trailing) {
     return trailing == Trailing::ignored || skipSpace(at, end) == end;
 }
 
+constexpr int decimal = 10;
+constexpr int hexadecimal = 16;
+
 struct Integer {
     unsigned long long magnitude = 0;
     bool isNegative = false;
@@ -42,7 +45,8 @@ struct Integer {
 // Reading an integer, as formatted extraction does and std::from_chars alone does not: white space
 // in front, a plus sign, a minus sign of unsigned numbers, "0x" in front of hexadecimal ones. So
 // space and sign are read here, and the magnitude in the widest type.
-bool readInteger(std::string_view text, Trailing trailing, int base, Integer& integer) {
+template <int base>
+bool readInteger(std::string_view text, Trailing trailing, Integer& integer) {
     const char* const end = text.data() + text.size();
     const char* at = skipSpace(text.data(), end);
     integer.isNegative = at != end && *at == '-';
@@ -50,7 +54,7 @@ bool readInteger(std::string_view text, Trailing trailing, int base, Integer& in
         ++at;
     }
     // Also where no digit follows: "0x" is no number, though a "0" stands in it.
-    if (base == 16 && end - at >= 2 && at[0] == '0' && (at[1] == 'x' || at[1] == 'X')) {
+    if (base == hexadecimal && end - at >= 2 && at[0] == '0' && (at[1] == 'x' || at[1] == 'X')) {
         at += 2;
     }
     const auto [behind, problem] = std::from_chars(at, end, integer.magnitude, base);
@@ -121,8 +125,8 @@ Reading readByHand(std::string_view text, Trailing trailing, T& number) {
         return readDouble(text, trailing, number);
     } else {
         Integer integer;
-        return readInteger(text, trailing, 10, integer) ? asType(integer, number)
-                                                        : Reading::noNumber;
+        return readInteger<decimal>(text, trailing, integer) ? asType(integer, number)
+                                                             : Reading::noNumber;
     }
 }
 
@@ -170,7 +174,7 @@ std::optional<unsigned long long> hexadecimalFromText(std::string_view text, Tex
     if (locale == TextLocale::classic) {
         Integer integer;
         unsigned long long number = 0;
-        const bool isRead = readInteger(text, Trailing::ignored, 16, integer);
+        const bool isRead = readInteger<hexadecimal>(text, Trailing::ignored, integer);
         const Reading reading = isRead ? asType(integer, number) : Reading::noNumber;
         return answer(reading, number);
     }

@@ -288,20 +288,4 @@ Origin findValues(const Outcome* outcome, const char* name, Value& last, std::ve
     return found.origin;
 }
 
-std::vector<Occurrence> findOccurrences(const Outcome* outcome,
-                                        const char* const* names,
-                                        std::size_t count) {
-    // By position, which is also what makes two names of one option count once.
-    std::map<int, Occurrence> ordered;
-    for (std::size_t i = 0; i < count; ++i) {
-        stored(outcome).addOccurrences(names[i] == nullptr ? "" : names[i], ordered);
-    }
-    std::vector<Occurrence> found;
-    found.reserve(ordered.size());
-    for (auto& [position, occurrence] : ordered) {
-        found.push_back(std::move(occurrence));
-    }
-    return found;
-}
-
 }  // namespace zarn_3_3::internal

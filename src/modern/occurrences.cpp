@@ -1,6 +1,9 @@
 // Occurrences, which hardly any tool asks for: values by themselves are what counts.
 
 #include <iterator>
+#include <map>
+#include <utility>
+#include <vector>
 
 #include "modern/outcome.h"
 
@@ -25,6 +28,23 @@ void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& 
         }
     }
     occurrences.merge(found);
+}
+
+std::vector<Occurrence> findOccurrences(const Outcome* outcome,
+                                        const char* const* names,
+                                        std::size_t count) {
+    const auto& given = static_cast<const StoredOutcome&>(*outcome);
+    // By position, which is also what makes two names of one option count once.
+    std::map<int, Occurrence> ordered;
+    for (std::size_t i = 0; i < count; ++i) {
+        given.addOccurrences(names[i] == nullptr ? "" : names[i], ordered);
+    }
+    std::vector<Occurrence> found;
+    found.reserve(ordered.size());
+    for (auto& [position, occurrence] : ordered) {
+        found.push_back(std::move(occurrence));
+    }
+    return found;
 }
 
 }  // namespace zarn_3_3::internal

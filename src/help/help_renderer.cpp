@@ -98,7 +98,8 @@ bool isListedBefore(const Listed& a, const Listed& b) {
     if (a.item->section != b.item->section) {
         return a.item->section < b.item->section;
     }
-    return *a.item < *b.item || (!(*b.item < *a.item) && a.place < b.place);
+    const int order = a.item->compare(*b.item);
+    return order != 0 ? order < 0 : a.place < b.place;
 }
 
 std::vector<Listed> inOrder(const std::vector<const OptionDescription*>& items) {

@@ -1,11 +1,11 @@
 #include "help/help_renderer.h"
 
-#include <algorithm>
 #include <cstddef>
 
 #include "help/messages.h"
 #include "options/option_description.h"
 #include "options/section_list.h"
+#include "text/merge_sort.h"
 #include "text/paragraph.h"
 
 namespace zarn_3_3::internal {
@@ -87,47 +87,26 @@ void appendSectionHead(std::string& text, const Section& section) {
     }
 }
 
-struct Listed {
-    const OptionDescription* item;
-    std::size_t place;  // in the order of declaration
-};
-
-// By section first: one pass over the items then serves all sections. Items with one name stay in
-// the order of their declaration.
-bool isListedBefore(const Listed& a, const Listed& b) {
-    if (a.item->section != b.item->section) {
-        return a.item->section < b.item->section;
-    }
-    const int order = a.item->compare(*b.item);
-    return order != 0 ? order < 0 : a.place < b.place;
-}
-
-std::vector<Listed> inOrder(const std::vector<const OptionDescription*>& items) {
-    std::vector<Listed> listed;
-    listed.reserve(items.size());
-    for (const OptionDescription* const item : items) {
-        listed.push_back({item, listed.size()});
-    }
-    std::sort(listed.begin(), listed.end(), isListedBefore);
-    return listed;
-}
-
 std::string textFor(const SectionList& sections,
-                    const std::vector<const OptionDescription*>& items,
+                    std::vector<const OptionDescription*> items,
                     bool hidden) {
-    const std::vector<Listed> listed = inOrder(items);
+    // By section first: one pass over the items then serves all sections. Items with one name
+    // stay in the order of their declaration.
+    mergeSort(items, [](const OptionDescription* a, const OptionDescription* b) {
+        return a->section != b->section ? a->section < b->section : *a < *b;
+    });
     std::string text;
     std::string column;
-    auto each = listed.begin();
+    auto item = items.begin();
     for (std::size_t section = 0; section < sections.size(); ++section) {
         const bool isShown = isSectionVisible(sections[section].key, hidden);
         if (isShown) {
             appendSectionHead(text, sections[section]);
         }
         // The items of a section that is not shown are passed over here, too.
-        for (; each != listed.end() && each->item->section == section; ++each) {
-            if (isShown && !each->item->isPositional) {
-                appendEntry(text, column, *each->item);
+        for (; item != items.end() && (*item)->section == section; ++item) {
+            if (isShown && !(*item)->isPositional) {
+                appendEntry(text, column, **item);
             }
         }
         if (isShown) {

@@ -85,6 +85,10 @@ OptionDescription OptionDescription::forBinding() const {
     return copy;
 }
 
+bool OptionDescription::operator<(const OptionDescription& other) const {
+    return primaryName() < other.primaryName();
+}
+
 const std::string& OptionDescription::noName() {
     // Made when it is first asked for: a parser may itself be a static object.
     static const std::string empty;

@@ -57,10 +57,7 @@ public:
     OptionDescription forBinding() const;
 
     // By primary name, byte-wise: the order of the help.
-    int compare(const OptionDescription& other) const {
-        return primaryName().compare(other.primaryName());
-    }
-    bool operator<(const OptionDescription& other) const { return compare(other) < 0; }
+    bool operator<(const OptionDescription& other) const;
 
     // Whether it belongs to actions: any tag makes an option a modifier.
     bool isModifier() const { return kind != kindAction && !tags.empty(); }

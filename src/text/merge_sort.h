@@ -20,7 +20,11 @@ void mergeSort(std::vector<T>& items, IsLess isLess) {
             const auto middle = first + static_cast<std::ptrdiff_t>(std::min(width, left));
             const auto last = first + static_cast<std::ptrdiff_t>(std::min(2 * width, left));
             const auto out = merged.begin() + static_cast<std::ptrdiff_t>(i);
-            std::merge(first, middle, middle, last, out, isLess);
+            if (middle == last || !isLess(*middle, *(middle - 1))) {
+                std::copy(first, last, out);  // in order already, as names often are declared
+            } else {
+                std::merge(first, middle, middle, last, out, isLess);
+            }
         }
         items.swap(merged);
     }

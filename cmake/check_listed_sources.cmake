@@ -1,5 +1,5 @@
-# Fails when a .cpp file under src/, programs/ or tests/ belongs to no target: it would never be compiled, and
-# a test in it never run. A public header that is not listed would not be installed. The
+# Fails when a .cpp file under src/, programs/ or tests/ belongs to no target: it would never be
+# compiled, and a test in it never run. A public header that is not listed would not be installed. The
 # tools in tests/package/ and tests/shells/, and without PROGRAMS the programs, are built by some
 # builds alone.
 file(STRINGS ${LISTED} listed)

@@ -44,7 +44,8 @@ struct Integer {
 
 // Reading an integer, as formatted extraction does and std::from_chars alone does not: white space
 // in front, a plus sign, a minus sign of unsigned numbers, "0x" in front of hexadecimal ones. So
-// space and sign are read here, and the magnitude in the widest type.
+// space and sign are read here, and the magnitude in the widest type. With a base that the compiler
+// knows, each digit is cheaper.
 template <int base>
 bool readInteger(std::string_view text, Trailing trailing, Integer& integer) {
     const char* const end = text.data() + text.size();

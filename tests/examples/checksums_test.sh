@@ -7,30 +7,10 @@ if [[ $# -ne 1 || ! -x $1 ]]; then
     echo 'usage: checksums_test.sh <built checksums tool>' >&2
     exit 2
 fi
-tool=$(realpath "$1")
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-cd "$scratch" || exit 1
+program=$(realpath "$1")
+# What is printed has no place in the folders that are summed.
+source "$(dirname "$(realpath "$0")")/../support/program_rows.sh"
 
-failures=0
-
-fail() {
-    printf 'FAILED: checksums%s\n    %s\n' "$(printf " '%s'" "${arguments[@]}")" "$1"
-    failures=$((failures + 1))
-}
-
-# check <exit code> <argument ...>: leaves what was printed in ./stdout and ./stderr, which have
-# no place in the folders that are summed.
-check() {
-    local expected=$1 code=0
-    shift
-    arguments=("$@")
-    "$tool" "$@" >stdout 2>stderr </dev/null || code=$?
-    ((code == expected)) || fail "exit code $code, expected $expected; $(cat stderr)"
-}
-
-# prints <stdout|stderr> <text>: a line of the last command's output is exactly this text.
-prints() { grep -qxF -e "$2" "$1" || fail "$1 lacks the line: $2; it holds: $(cat "$1")"; }
 says() { grep -qF -e "$2" "$1" || fail "$1 lacks: $2; it holds: $(cat "$1")"; }
 is_silent() { [[ ! -s $1 ]] || fail "$1 should be empty; it holds: $(cat "$1")"; }
 
@@ -120,7 +100,7 @@ row 3 stderr 'checksums: data: is a folder' --verify --manifest=data
 row 3 stderr 'checksums: nowhere: No such file or directory' --verify --manifest=nowhere
 row 3 stderr 'checksums: no/x.txt: No such file or directory' --create --manifest=no/x.txt data
 row 3 stderr "checksums: Error reading option file 'nowhere'" --verify --option-file=nowhere
-"$tool" --help >/dev/full 2>stderr
+"$program" --help >/dev/full 2>stderr
 [[ $? == 4 ]] || fail 'a full output goes unnoticed'
 
 # Lines that are almost entries.

@@ -14,29 +14,17 @@ if [[ ${3-} == --renew ]]; then
     "$program" --markdown "$description" --output="$here/checksums.md"
     exit
 fi
-scratch=$(mktemp -d)
-trap 'rm -rf "$scratch"' EXIT
-cd "$scratch" || exit 1
+source "$here/../support/program_rows.sh"
 
-failures=0
-
-fail() {
-    printf 'FAILED: zarn-vocabulary%s\n    %s\n' "$(printf " '%s'" "${arguments[@]}")" "$1"
-    failures=$((failures + 1))
-}
-
-# row <exit code> <text on the standard error> <argument ...>: leaves what was printed in ./stdout.
+# row <exit code> <text on the standard error> <argument ...>
 row() {
-    local expected=$1 error=$2 code=0
+    local code=$1 error=$2
     shift 2
-    arguments=("$@")
-    "$program" "$@" >stdout 2>stderr </dev/null || code=$?
-    ((code == expected)) || fail "exit code $code, expected $expected; $(cat stderr)"
+    check "$code" "$@"
     [[ $(<stderr) == "$error" ]] || fail "says: $(<stderr)"
 }
 
 same() { cmp -s "$1" "$2" || fail "$(diff "$1" "$2")"; }
-says() { grep -qxF -e "$2" "$1" || fail "$1 lacks the line: $2; it holds: $(head "$1")"; }
 
 row 0 '' --man "$description"
 same "$here/checksums.1" stdout
@@ -45,13 +33,13 @@ same "$here/checksums.md" stdout
 
 # The date: what is asked for, else what the build says, else that of the file.
 row 0 '' --man "$description" --date=2024-02-29
-says stdout '.Dd February 29, 2024'
+prints stdout '.Dd February 29, 2024'
 SOURCE_DATE_EPOCH=1700000000 row 0 '' --man "$description"
-says stdout '.Dd November 14, 2023'
+prints stdout '.Dd November 14, 2023'
 cp "$description" old.json
 touch -d 2001-12-31T23:59:59Z old.json
 SOURCE_DATE_EPOCH='' row 0 '' --man old.json
-says stdout '.Dd December 31, 2001'
+prints stdout '.Dd December 31, 2001'
 for day in 2023-02-29 2024-13-01 2024-2-9 0000-01-01 20240229 2024-01-00 2024/01/01 x; do
     row 2 "zarn-vocabulary: Value '$day' is not valid for option 'date' in argument '--date=$day': it must be a day, as in 2026-01-31" --man "$description" --date=$day
 done
@@ -63,7 +51,7 @@ SOURCE_DATE_EPOCH=999999999999 row 3 'zarn-vocabulary: the second 999999999999 s
 # A tool that does not say its name has that of the file.
 echo '{"format": 1}' >nameless.json
 row 0 '' --man nameless.json
-says stdout '.Nm nameless'
+prints stdout '.Nm nameless'
 
 # Scripts are those that come with a tool that CMake builds.
 row 0 '' --script=bash checksums

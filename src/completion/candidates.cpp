@@ -14,7 +14,8 @@ namespace {
 // The allowed values of one item.
 class ValueChoice {
 public:
-    // `typed`: the value so far.
+    // `typed`: the value so far. Where it has no separator yet, rfind answers npos, and one more is
+    // 0: the list is empty.
     ValueChoice(const OptionDescription& item, std::string_view typed)
         : item_(item),
           list_(item.tokenizer == 0 ? "" : typed.substr(0, typed.rfind(item.tokenizer) + 1)),
@@ -62,6 +63,8 @@ public:
         : word_(word), place_(place), parser_(parser), registry_(parser.vocabulary()) {}
 
     Completion run() {
+        // In the order in which a parse decides: behind the options a dash means nothing, and where
+        // a value is waited for no name can stand.
         if (place_.isBehindOptions()) {
             offerRest();
         } else if (place_.waiting != NameIndex::none) {
@@ -87,6 +90,7 @@ private:
     }
 
     void offerNext() {
+        // With a dash in front a parse refuses it as a forgotten value, whatever it is.
         if (!isNoValue(word_)) {
             offerValues(registry_.items()[place_.waiting], "", word_);
         }
@@ -98,6 +102,7 @@ private:
         if (isCut && cut.hasValue) {
             offerAttached(cut);
         } else {
+            // A lone dash is no option to a parse, but the beginning of one here.
             const std::size_t nameAt = isCut ? word_.size() - cut.name.size() : word_.size();
             offerNames(std::string_view(word_).substr(0, nameAt), cut.name);
         }
@@ -106,6 +111,7 @@ private:
     void offerAttached(const CutOption& cut) {
         const std::size_t item = NamedItem(cut.name, registry_).item;
         if (cut.isNamed() && item != NameIndex::none && needsValue(registry_.items()[item])) {
+            // Shells replace the whole word, so the name goes along as it was typed.
             const std::string_view head(word_.data(), word_.size() - cut.value.size());
             offerValues(registry_.items()[item], head, cut.value);
         }
@@ -124,12 +130,14 @@ private:
                 --left;
             }
         }
+        // The one that takes the words for all has lost its own type and values by that.
         return registry_.asDeclared(number);
     }
 
     // `head`: what of the word stands in front of the value.
     void offerValues(const OptionDescription& item, std::string_view head, std::string_view typed) {
         if (item.allowedValues.empty()) {
+            // Any text may name a file; a number hardly does.
             completion_.takesFiles = item.type == vtString;
             return;
         }

@@ -16,6 +16,7 @@ public:
         : registry_(parser.vocabulary()), flags_(parser.creationFlags()) {}
 
     void take(const std::string& word) {
+        // In the order in which a parse decides.
         if (place_.isBehindOptions()) {
             ++place_.plainWords;
         } else if (!takeValue(word) && !takeTerminator(word) && !takeOption(word)) {
@@ -28,6 +29,7 @@ public:
 private:
     bool takeValue(const std::string& word) {
         const bool isTaken = place_.waiting != NameIndex::none && !isNoValue(word);
+        // A word with a dash shows that the value was forgotten, and is read as what it looks like.
         place_.waiting = NameIndex::none;
         return isTaken;
     }
@@ -43,13 +45,16 @@ private:
             return false;
         }
         const NamedItem match(cut.name, registry_);
+        // An ambiguous name is refused; one that nobody has may be a positional argument.
         if (match.item == NameIndex::none || !cut.isNamed()) {
             return match.isAmbiguous;
         }
         const OptionDescription& item = registry_.items()[match.item];
         if (item.kind == kindAction) {
+            // Whatever was typed: groups and modifiers name actions so.
             place_.given.insert(item.primaryName());
         }
+        // No value is empty: "--level=" looks for one in the next word too.
         if (waitsForValue(item) && cut.value.empty()) {
             place_.waiting = match.item;
         }
@@ -82,6 +87,7 @@ bool waitsForValue(const OptionDescription& item) {
 WordPlace placeBehind(const std::vector<std::string>& words, const BasicParser& parser) {
     LineWalk walk(parser);
     for (std::size_t i = 0; i < words.size(); ++i) {
+        // A parse takes the switch of the log out, when it is the first argument.
         if (i > 0 || !isLogSwitch(words[i])) {
             walk.take(words[i]);
         }

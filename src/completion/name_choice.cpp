@@ -18,6 +18,7 @@ bool isOnByDefault(const OptionDescription& item) {
     return item.hasDefault && item.defaultVal.get<bool>();
 }
 
+// Both ascend, as numbers of groups do.
 std::vector<std::size_t> inBoth(const std::vector<std::size_t>& a,
                                 const std::vector<std::size_t>& b) {
     std::vector<std::size_t> both;
@@ -31,6 +32,7 @@ NameChoice::NameChoice(const BasicParser& parser, const std::set<std::string>& g
     : registry_(parser.vocabulary()), groups_(parser.actionGroups()), given_(given) {
     for (const std::string& action : given) {
         const std::vector<std::size_t>& holding = groups_.holding(action);
+        // From the groups of the first one on: an empty list shares nothing with any other.
         commonGroups_ = &action == &*given.begin() ? holding : inBoth(commonGroups_, holding);
     }
 }
@@ -42,9 +44,11 @@ std::vector<Candidate> NameChoice::namesOf(std::string_view dashes, std::string_
     bool isFound = false;
     for (const std::size_t number : open) {
         const OptionDescription& item = registry_.items()[number];
+        // isFound is asked last: what stands behind a name that was found is added too.
         isFound = (!item.names.empty() && addName(number, item.names[0], true)) || isFound;
     }
-    // Synonyms are for those who know them: they would only lengthen the list.
+    // Synonyms are for those who know them: they would only lengthen the list. A "no-" form that
+    // was found keeps away none but theirs.
     const bool isAlone = found_.empty();
     for (std::size_t at = 0; !isFound && at < open.size(); ++at) {
         const OptionDescription& item = registry_.items()[open[at]];
@@ -89,6 +93,7 @@ bool NameChoice::goesWithGiven(const OptionDescription& item) const {
     if (item.kind == kindAction) {
         return given_.count(item.primaryName()) == 0 && isInCommonGroup(item.primaryName());
     }
+    // One of several actions is enough for a modifier, as it is for the rules.
     return item.tags.empty() || isIntersected(item.tags, given_);
 }
 
@@ -99,6 +104,7 @@ bool NameChoice::isInCommonGroup(const std::string& action) const {
 bool NameChoice::addName(std::size_t number, std::string_view name, bool withNoForm) {
     const bool isAdded = addForm(number, name);
     const OptionDescription& item = registry_.items()[number];
+    // Who has typed nothing yet sees those "no-" forms that would change something.
     if (withNoForm && item.type == vtBool && (!beginning_.empty() || isOnByDefault(item))) {
         addForm(number, std::string(noPrefix).append(name));
     }
@@ -119,6 +125,8 @@ bool NameChoice::addForm(std::size_t number, std::string_view form) {
         return false;
     }
     const OptionDescription& item = registry_.items()[number];
+    // No shell sets a blank behind "=", so the value follows in this word, where it may begin with
+    // a dash.
     word += waitsForValue(item) ? "=" : "";
     found_.push_back({std::move(word), item.description});
     return true;

@@ -49,6 +49,7 @@ std::optional<std::size_t> indexIn(std::size_t count, std::string_view text) {
 }
 
 std::optional<Request> requestIn(std::string_view question, std::size_t wordCount) {
+    // Of another protocol nothing is known, not even what its fields are.
     if (cutField(question) != "complete" || cutField(question) != "1") {
         return std::nullopt;
     }
@@ -68,9 +69,11 @@ bool isControl(char c) { return static_cast<unsigned char>(c) < 0x20 || c == 0x7
 bool hasControl(std::string_view text) { return std::any_of(text.begin(), text.end(), isControl); }
 
 void appendHelp(std::string& line, std::string_view help) {
+    // Shells give a candidate one line of the terminal: what goes beyond would not be seen.
     constexpr std::size_t longest = 200;
     help = help.substr(0, help.find('\n'));
     if (help.size() > longest) {
+        // A character that goes beyond is left out whole.
         const auto isInside = [](char c) { return (static_cast<unsigned char>(c) & 0xc0) == 0x80; };
         std::size_t end = longest;
         while (end > 0 && isInside(help[end])) {
@@ -96,6 +99,7 @@ std::string answerBash(const std::vector<BashWord>& words, const BasicParser& pa
     for (const Candidate& candidate : completion.candidates) {
         const std::optional<std::string> insertion = word.insertionFor(candidate.word);
         if (insertion && !hasControl(candidate.word)) {
+            // Readline inserts the line as it stands, so that there is no place for help.
             answer.append(*insertion).append("\n");
         }
     }
@@ -125,6 +129,7 @@ std::string answerCompletion(std::string_view question,
     if (!request) {
         return "";
     }
+    // What stands behind the cursor has no say: its user has come back to this word.
     const auto end = words.begin() + static_cast<std::ptrdiff_t>(request->index);
     if (request->shell != Shell::bash) {
         return answerOther({words.begin(), end}, parser);

@@ -27,9 +27,11 @@ std::string lines(const std::vector<std::string>& texts) {
 }
 
 Diagnostic recordOf(const Failure& failure, BasicParser& parser) {
+    // Where no single item failed, as in a rule on several, who refused has noted them.
     const std::string candidates = failure.candidates.empty()
                                        ? lines(candidatesOf(failure, parser.vocabulary()))
                                        : failure.candidates;
+    // Equal texts are kept once: asking again takes no memory.
     return {sizeof(Diagnostic),
             failure.kind,
             failure.code,
@@ -46,6 +48,7 @@ Diagnostic recordOf(const Failure& failure, BasicParser& parser) {
 }  // namespace
 
 int lastDiagnostic(IParser* parser, Diagnostic* diagnostic) {
+    // Refused as a null parser is.
     if (diagnostic == nullptr) {
         parser = nullptr;
     }
@@ -53,6 +56,7 @@ int lastDiagnostic(IParser* parser, Diagnostic* diagnostic) {
         const Failure none;
         const Failure* const failure = asked.failure().get();
         const Diagnostic record = recordOf(failure != nullptr ? *failure : none, asked);
+        // The caller may be older, with fewer fields, or newer, with more of them.
         const auto size = std::min<std::size_t>(diagnostic->size, sizeof record);
         // Behind the size, which stays the caller's.
         if (size > sizeof record.size) {

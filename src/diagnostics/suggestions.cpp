@@ -45,6 +45,7 @@ const OptionDescription* itemOf(const Failure& failure, const RegisteredOptionSt
     return isFound ? &registry.asDeclared(index) : nullptr;
 }
 
+// Who may not know of an item is not told its name by a mistake.
 bool isHidden(const OptionDescription& item, const RegisteredOptionStorage& registry) {
     return isSectionVisible(registry.sectionKey(item), true);
 }
@@ -77,13 +78,16 @@ Texts actionNames(const RegisteredOptionStorage& registry) {
 Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry) {
     const TypedOption cut(failure.argument);
     const KeptTexts& forms = registry.names().forms();
+    // Nothing is near to an empty text: a plain word was meant for no option.
     Nearest nearest(cut.dashes.empty() ? std::string_view() : cut.name);
     const auto written = [&](std::string_view name) {
+        // One dash has letters behind it in such a tool: a longer name needs two.
         const bool isLong = failure.isShortBehindDash && cut.dashes == "-" && name.size() > 1;
         return filled("{}{}{}{}", {isLong ? "-" : "", cut.dashes, name, cut.rest});
     };
     for (std::uint32_t number = 0; number < forms.size(); ++number) {
         const std::string_view form = forms[number];
+        // Few are: what costs more is only done for those.
         if (!nearest.isNear(form)) {
             continue;
         }
@@ -91,6 +95,7 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
         // A name with a dash in front or a "=" in it cannot be typed.
         const bool isTypable = TypedOption(argument).name == form;
         const OptionDescription& item = registry.items()[registry.names().firstWithForm(number)];
+        // What cannot be told is never taken: as the nearest it would put out the others.
         if (isTypable && !isHidden(item, registry) && !isGivenByPlace(item, registry)) {
             nearest.take(form);
         }
@@ -103,10 +108,12 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
 
 // Allowed values like the one that was typed, in the argument in which that stands.
 Texts valuesLike(const Failure& failure, const OptionDescription& item) {
+    // A value that does not stand in the argument leaves no place for another.
     const Texts allowed = failure.valueAt == elsewhere ? Texts() : allowedValues(item);
     Nearest nearest(failure.value);
     for (std::size_t i = 0; i < allowed.size(); ++i) {
         const std::string& value = allowed[i];
+        // A value that holds the separator would be cut when it is typed.
         const bool isCut = item.tokenizer != 0 && value.find(item.tokenizer) != std::string::npos;
         const bool isDeprecated = item.deprecatedValues.count(item.allowedValues[i]) != 0;
         if (!isCut && !isDeprecated && nearest.isNear(value)) {
@@ -135,6 +142,7 @@ Texts joined(const Failure& failure,
         return {};
     }
     const TypedOption cut(failure.argument);
+    // No second "=" behind one that is there, and none between a letter and its value.
     const bool isOpen = !cut.rest.empty() || (failure.isGluedBehindDash && cut.dashes == "-");
     return {filled("{}{}{}", {failure.argument, isOpen ? "" : "=", failure.value})};
 }
@@ -184,6 +192,7 @@ std::vector<std::string> candidatesOf(const Failure& failure,
 
 std::vector<std::string> suggestionsFor(const Failure& failure,
                                         const RegisteredOptionStorage& registry) {
+    // Nobody knows which item these are about.
     if (failure.kind == unknownArgument || failure.kind == malformedOption) {
         return namesLike(failure, registry);
     }

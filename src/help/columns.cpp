@@ -45,6 +45,7 @@ constexpr Range combining[] = {
 
 template <std::size_t count>
 bool isIn(const Range (&ranges)[count], char32_t codePoint) {
+    // The ranges ascend: only the first that does not end before the character can hold it.
     const Range* const found = std::lower_bound(
         std::begin(ranges), std::end(ranges), codePoint, [](const Range& range, char32_t value) {
             return range.last < value;
@@ -56,6 +57,7 @@ bool isIn(const Range (&ranges)[count], char32_t codePoint) {
 char32_t takeCharacter(std::string_view& text) {
     const std::size_t length = characterLength(text);
     const auto lead = static_cast<unsigned char>(text.front());
+    // As many ones as there are bytes stand in front, then a zero, then the bits that count.
     char32_t codePoint = length < 2 ? lead & 0x7FU : lead & (0x7FU >> length);
     for (std::size_t i = 1; i < length; ++i) {
         codePoint = codePoint << 6U | (static_cast<unsigned char>(text[i]) & 0x3FU);
@@ -69,6 +71,7 @@ std::size_t emphasisLength(std::string_view text) {
     if (text.substr(0, 2) != "\x1b[") {
         return 0;
     }
+    // Other sequences than those that end in "m" move the cursor, and are left as they are.
     const std::size_t end = text.find_first_not_of("0123456789;", 2);
     return end != std::string_view::npos && text[end] == 'm' ? end + 1 : 0;
 }
@@ -94,6 +97,7 @@ std::string withoutEmphasis(std::string_view text) {
     std::string plain;
     while (!text.empty()) {
         const std::size_t length = emphasisLength(text);
+        // From the second byte on: an escape in front may switch no emphasis, and is text then.
         const std::size_t end = std::min(text.find('\x1b', 1), text.size());
         plain.append(text.substr(length, end - length));
         text.remove_prefix(end);

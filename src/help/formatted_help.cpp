@@ -76,6 +76,7 @@ private:
 
     std::string finished() {
         text_.endLine();
+        // Taken out at the end: emphasis has no columns, so lines break alike with it and without.
         return look_.isEmphasized ? text_.take() : withoutEmphasis(text_.take());
     }
 
@@ -157,6 +158,7 @@ private:
     }
 
     void addBlocks(const ShownItem* action) {
+        // Items of one block keep the order in which they go in, that of their declaration.
         Blocks blocks;
         for (const ShownItem& shown : items_.all()) {
             if (isIn(shown, action) && (look_.showsHidden || !shown.isHidden)) {
@@ -169,6 +171,7 @@ private:
             if (before == nullptr || *before != place) {
                 addTitle(titleOf(*shown, action));
             }
+            // Where no title tells with which actions an item goes, its entry does.
             const bool tellsActions =
                 action == nullptr && groupOf(*shown, action) != optionsOfActions;
             addEntry(*shown, tellsActions ? items_.actionNames(*shown, messages::orElse) : "");
@@ -178,12 +181,15 @@ private:
 
     Group groupOf(const ShownItem& shown, const ShownItem* action) const {
         const Section& section = sections_[shown.item->section];
+        // A section is in its author's own order, and is not divided.
         if (shown.isHidden || !section.key.empty() || !section.title.empty()) {
             return commonOptions;
         }
         if (!shown.isOption()) {
             return shown.isAction() ? itsActions : itsArguments;
         }
+        // In the whole help, what goes with all visible actions is common; in that of one action,
+        // which says nothing of the others, it is still an option of that action.
         const bool isCommon =
             action != nullptr ? shown.actions.empty() : items_.actionNames(shown, "").empty();
         return isCommon ? commonOptions : optionsOfActions;
@@ -194,6 +200,7 @@ private:
         const bool isApart = group == optionsOfActions && action == nullptr;
         return placeAt(shown.isHidden ? sections_.size() : shown.item->section,
                        group,
+                       // Looks at all items, so only where it decides.
                        isApart ? firstWithActionsOf(shown) : 0);
     }
 
@@ -236,6 +243,7 @@ private:
     // Descriptions begin behind the widest of the heads that leave room for them.
     void chooseColumn(const Blocks& blocks) {
         const std::size_t furthest = look_.width * 2 / 5;
+        // Before any column is measured: one short name moves all heads that have none.
         for (const auto& [place, shown] : blocks) {
             hasShortNames_ = hasShortNames_ || shown->hasShortName();
         }

@@ -96,6 +96,7 @@ std::string textFor(const SectionList& sections,
         return a->section != b->section ? a->section < b->section : *a < *b;
     });
     std::string text;
+    // One for all entries, so that it keeps its room.
     std::string column;
     auto item = items.begin();
     for (std::size_t section = 0; section < sections.size(); ++section) {
@@ -118,6 +119,7 @@ std::string textFor(const SectionList& sections,
 
 }  // namespace
 
+// Help with hidden items shows those alone.
 bool isSectionVisible(const std::string& key, bool hidden) {
     return (key == "zarn_hidden") == hidden;
 }

@@ -67,10 +67,12 @@ HelpText HelpTopics::topic(const char* name, bool hidden) const {
     if (findOption(name, index, registry_) != resultSuccess) {
         return unknownTopic(name, hidden);
     }
+    // Kept: around the one entry stand the heads of all sections.
     return render({&registry_.items()[index]}, hidden);
 }
 
 HelpText HelpTopics::modifiersOf(const char* action, bool hidden) const {
+    // Kept: null asks for nothing here, and for the vocabulary as a topic.
     if (action == nullptr) {
         return {};
     }
@@ -81,6 +83,7 @@ HelpText HelpTopics::modifiersOf(const char* action, bool hidden) const {
     // Kept: any item passes for an action here, and lists what shares a tag with it.
     std::vector<const OptionDescription*> modifiers;
     findActionModifiers(index, registry_.items(), modifiers);
+    // Kept: without modifiers there are not even the heads of the sections.
     return modifiers.empty() ? HelpText() : render(modifiers, hidden);
 }
 

@@ -11,7 +11,8 @@
 namespace zarn_3_3::internal {
 namespace {
 
-// Marks of ShownItem::actions.
+// Marks of ShownItem::actions, which is equal for options of the same actions. Hidden ones have a
+// mark of their own, as they are never named.
 constexpr char isApart = '-';
 constexpr char isTogether = 'x';
 constexpr char isTogetherHidden = 'h';
@@ -19,6 +20,7 @@ constexpr char isTogetherHidden = 'h';
 bool isShort(std::string_view name) { return name.size() == 1; }
 
 std::string_view valueWord(const OptionDescription& item) {
+    // No option stands in front of an argument and says what it is.
     if (item.isPositional) {
         return item.primaryName();
     }
@@ -27,6 +29,7 @@ std::string_view valueWord(const OptionDescription& item) {
             return messages::anyText;
         case vtDouble:
             return messages::anyNumber;
+        // Also for switches and booleans, whose word nobody sees.
         default:
             return messages::anyInteger;
     }
@@ -34,6 +37,7 @@ std::string_view valueWord(const OptionDescription& item) {
 
 void appendName(std::string& text, const OptionDescription& item, std::string_view name) {
     std::string form = typedForm(name);
+    // Every name has its "no-" form: shown with each, it would only lengthen the head.
     if (item.type == vtBool && name == item.primaryName()) {
         form.insert(form.size() - name.size(), messages::eitherForm);
     }
@@ -41,6 +45,7 @@ void appendName(std::string& text, const OptionDescription& item, std::string_vi
 }
 
 void appendValue(std::string& text, const ShownItem& shown) {
+    // Such a value has to be attached: the next argument is never taken for it.
     if (shown.item->isValueOptional) {
         text.append("[=").append(shown.valueName).append("]");
     } else if (shown.item->type != vtNull && shown.item->type != vtBool) {
@@ -53,6 +58,7 @@ std::string valuesOf(const OptionDescription& item) {
     std::size_t left = item.allowedValues.size();
     for (const variant_t& allowed : item.allowedValues) {
         const std::string value = item.toString(allowed);
+        // An empty value would leave a hole in the list.
         appendListed(values, value.empty() ? "\"\"" : value, --left, messages::orElse);
     }
     return values;
@@ -110,6 +116,7 @@ std::string ShownItem::head() const {
         return bold(valueName);
     }
     std::string text;
+    // So that long names stand below each other, behind short ones or the room for one.
     for (const bool takesShort : {true, false}) {
         for (const std::string& name : item->names) {
             if (isShort(name) == takesShort) {
@@ -124,6 +131,7 @@ std::string ShownItem::head() const {
 
 std::string ShownItem::place(bool isRequired, bool isLast) const {
     std::string text(valueName);
+    // Arguments go by their places, and the last item takes all that are left.
     text.append(isLast && !item->takesOneValue ? "..." : "");
     return isRequired ? text : "[" + text + "]";
 }
@@ -135,6 +143,7 @@ std::string ShownItem::description(const std::string& actionNames) const {
     appendNote(notes, messages::byDefault, defaultOf(*item));
     appendNote(notes, messages::fromVariable, std::string(variable));
     std::string text(item->description);
+    // With nothing behind it the description stays as its author wrote it.
     const bool hasStop = !(values + notes).empty() && takeFullStop(text);
     if (!values.empty()) {
         text.append(text.empty() ? "" : ": ").append(values);
@@ -145,6 +154,7 @@ std::string ShownItem::description(const std::string& actionNames) const {
     return text.append(hasStop ? "." : "");
 }
 
+// The items are all there from the start, as pointers to actions among them are kept.
 ShownItems::ShownItems(const RegisteredOptionStorage& registry) : items_(registry.items().size()) {
     for (std::size_t i = 0; i < items_.size(); ++i) {
         ShownItem& shown = items_[i];
@@ -161,6 +171,7 @@ ShownItems::ShownItems(const RegisteredOptionStorage& registry) : items_(registr
             visibleActions_ += shown.isHidden ? 0 : 1;
         }
     }
+    // When all actions are known: an option may be declared in front of its actions.
     for (ShownItem& shown : items_) {
         readActions(shown);
     }
@@ -171,9 +182,11 @@ void ShownItems::readActions(ShownItem& shown) {
         return;
     }
     for (const ShownItem* const action : actions_) {
+        // By all names of the action, as the fixed texts of the help have it.
         const bool areTogether = isIntersected(shown.item->tags, action->item->tags);
         shown.actions += !areTogether ? isApart : action->isHidden ? isTogetherHidden : isTogether;
     }
+    // Of no action that there is: a check tells the author, and help shows it with those of all.
     if (shown.actions.find_first_not_of(isApart) == std::string::npos) {
         shown.actions.clear();
     } else if (shown.actions.find(isTogether) == std::string::npos) {
@@ -182,6 +195,7 @@ void ShownItems::readActions(ShownItem& shown) {
 }
 
 std::string ShownItems::actionNames(const ShownItem& shown, std::string_view lastSeparator) const {
+    // Hidden actions neither count nor are named.
     auto left = static_cast<std::size_t>(
         std::count(shown.actions.begin(), shown.actions.end(), isTogether));
     std::string names;

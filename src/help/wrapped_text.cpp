@@ -7,6 +7,7 @@
 namespace zarn_3_3::internal {
 
 void WrappedText::moveTo(std::size_t column) {
+    // A single blank would look like one between words.
     constexpr std::size_t leastGap = 2;
     if (columns_ + leastGap > column) {
         endLine();
@@ -21,6 +22,7 @@ void WrappedText::add(std::string_view text, std::size_t indent) {
         if (end > 0) {
             addWord(text.substr(0, end), indent);
         }
+        // Not by endLine, so that two line feeds leave an empty line.
         if (end < text.size() && text[end] == '\n') {
             breakLine();
         }
@@ -34,6 +36,7 @@ void WrappedText::addWord(std::string_view word, std::size_t indent) {
         endLine();
     }
     next_ = next_ == 0 ? indent : next_;
+    // Blanks come with the word behind them, so that none ends a line.
     text_.append(next_ - columns_, ' ').append(word);
     columns_ = next_ + columns;
     next_ = columns_ + 1;

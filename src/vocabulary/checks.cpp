@@ -29,6 +29,7 @@ std::string reasonOf(const Refusal& refusal, const RegisteredOptionStorage& regi
 }
 
 void checkItem(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
+    // What takes the words for several items has lost its own type and values by that.
     const OptionDescription& item = registry.asDeclared(number);
     checkNames(number, registry, findings);
     checkActions(item, registry, findings);
@@ -56,6 +57,8 @@ void checkGroup(const std::set<std::string>& group,
         if (action == nullptr) {
             findings.error("unknown-in-group", name, messages::unknownInGroup(names));
         } else if (action->primaryName() != name) {
+            // The rules look for primary names: a group with a synonym allows nothing to that
+            // action.
             findings.error(
                 "action-synonym", name, messages::actionSynonym(name, action->primaryName()));
         }
@@ -66,11 +69,14 @@ void checkGroup(const std::set<std::string>& group,
 
 void internal::checkVocabulary(const BasicParser& parser, Findings& findings) {
     const RegisteredOptionStorage& registry = parser.vocabulary();
+    // Between the items, where their author looks for them.
     auto refusal = registry.refusals().begin();
     const auto tellRefused = [&](std::size_t before) {
         for (; refusal != registry.refusals().end() && refusal->before <= before; ++refusal) {
             const std::string& names = refusal->names;
             findings.error("refused",
+                           // The first of its names, as for items, so that a finding can be ignored
+                           // by it.
                            names.substr(0, names.find(',')),
                            messages::declarationRefused(names, reasonOf(*refusal, registry)));
         }

@@ -19,6 +19,7 @@ namespace {
 // Readers skip keys that they do not know, so that this rises only when one changes its meaning.
 constexpr int format = 1;
 
+// Words of the format, as its keys are: readers compare them.
 const char* wordOf(RefusalReason reason) {
     switch (reason) {
         case RefusalReason::nameTaken:
@@ -49,6 +50,7 @@ const char* kindOf(const OptionDescription& item) {
 }
 
 void writeValues(JsonWriter& json, const OptionDescription& item) {
+    // What is empty or false leaves no key behind.
     json.text("default", item.hasDefault ? typedText(item.defaultVal) : "");
     json.open('[', "values");
     for (const variant_t& value : item.allowedValues) {
@@ -63,10 +65,12 @@ void writeValues(JsonWriter& json, const OptionDescription& item) {
         json.close();
     }
     json.close();
+    // A switch has a separator like every item, and no value to be cut.
     const bool isCut = item.type != vtNull && item.tokenizer != 0;
     json.text("separator", {&item.tokenizer, isCut ? 1U : 0U});
 }
 
+// Also an item of the tool's own with that name: it names the files then.
 bool namesOptionFiles(const BasicParser& parser, const OptionDescription& item) {
     return parser.readsOptionFiles() &&
            std::find(item.names.begin(), item.names.end(), optionFileName) != item.names.end();
@@ -74,6 +78,7 @@ bool namesOptionFiles(const BasicParser& parser, const OptionDescription& item) 
 
 void writeItem(JsonWriter& json, const BasicParser& parser, std::size_t number) {
     const RegisteredOptionStorage& registry = parser.vocabulary();
+    // Readers want to know what it takes, not that it takes the words for others.
     const OptionDescription& item = registry.asDeclared(number);
     const std::string& section = registry.sectionKey(item);
     json.open('{');
@@ -121,6 +126,7 @@ void writeGroups(JsonWriter& json, const ActionGroups& groups) {
 void writeRefused(JsonWriter& json, const RegisteredOptionStorage& registry) {
     json.open('[', "refused");
     for (const Refusal& refusal : registry.refusals()) {
+        // Cut as a declaration cuts them.
         std::vector<std::string> names;
         split(refusal.names, names);
         json.open('{');
@@ -151,6 +157,7 @@ std::string internal::descriptionOf(const BasicParser& parser, const ToolTexts& 
 }
 
 int describeVocabulary(IParser* parser, const ToolInfo* tool, const char** json) {
+    // Refused as a null parser is.
     if (tool == nullptr) {
         parser = nullptr;
     }

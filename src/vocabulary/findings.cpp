@@ -26,6 +26,7 @@ void Findings::add(CheckCode severity,
     const bool isIgnored =
         ignored_.count(id) != 0 || ignored_.count(filled("{}:{}", {id, item})) != 0;
     if (!isIgnored) {
+        // A name may hold a line feed, and a finding is one line.
         text_.append(visible(filled("{} {} '{}': {}", {word, id, item, what}))) += '\n';
         code_ = std::max(code_, severity);
     }

@@ -14,7 +14,7 @@ namespace {
 
 constexpr std::uint32_t leastWidth = 20;
 
-// `end`: behind the field.
+// `end`: behind the field, which a pointer to a member does not tell.
 template <typename Field>
 void take(Field HelpStyle::*field, std::size_t end, const HelpStyle& given, HelpStyle& style) {
     if (given.size >= end) {
@@ -22,7 +22,7 @@ void take(Field HelpStyle::*field, std::size_t end, const HelpStyle& given, Help
     }
 }
 
-// What a caller of another version has of it.
+// What a caller of another version has of it; the rest is as in a style that says nothing.
 HelpStyle known(const HelpStyle& given) {
     constexpr std::size_t number = sizeof(std::uint32_t);
     constexpr std::size_t pointer = sizeof(const void*);
@@ -58,6 +58,7 @@ std::optional<std::string> internal::helpInStyle(const HelpStyle& given,
 }
 
 int formatHelp(IParser* parser, const HelpStyle* style, const char** text) {
+    // Refused as a null parser is.
     if (style == nullptr) {
         parser = nullptr;
     }

@@ -23,6 +23,7 @@ bool isUtf8(std::string_view text) {
     return true;
 }
 
+// A value without a text reads as the empty one, which nothing is wrong with.
 bool isValueUtf8(const variant_t& value) { return isUtf8(plinth2::get_variant_value(value, "")); }
 
 bool hasOnlyUtf8(const OptionDescription& item) {
@@ -38,9 +39,11 @@ bool hasOnlyUtf8(const OptionDescription& item) {
 
 }  // namespace
 
-// An action is known to modifiers and groups by its primary name.
+// By a synonym too, so that a finding can name the primary name, by which alone modifiers and
+// groups know an action.
 const OptionDescription* findAction(std::string_view name,
                                     const RegisteredOptionStorage& registry) {
+    // A synonym gives one name to several items, of which any may be the action.
     const OptionDescription* found = nullptr;
     registry.names().isAnyNamed(name, [&](std::size_t number) {
         const OptionDescription& item = registry.items()[number];
@@ -53,6 +56,7 @@ const OptionDescription* findAction(std::string_view name,
 void checkActions(const OptionDescription& item,
                   const RegisteredOptionStorage& registry,
                   Findings& findings) {
+    // The tags of an action are its own names.
     if (item.kind == kindAction) {
         return;
     }
@@ -61,6 +65,8 @@ void checkActions(const OptionDescription& item,
         if (action == nullptr) {
             findings.error("unknown-action", item.primaryName(), messages::unknownAction(tag));
         } else if (action->primaryName() != tag) {
+            // Help finds the item by any name of the action, but the rules refuse it with that very
+            // one.
             findings.error("action-synonym",
                            item.primaryName(),
                            messages::actionSynonym(tag, action->primaryName()));
@@ -70,6 +76,7 @@ void checkActions(const OptionDescription& item,
 
 void checkTexts(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
     const OptionDescription& item = registry.asDeclared(number);
+    // A hidden item is for a few, who know what it does.
     if (item.description.empty() && isSectionVisible(registry.sectionKey(item), false)) {
         findings.warning("no-help", item.primaryName(), messages::noHelp);
     }

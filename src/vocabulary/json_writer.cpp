@@ -7,8 +7,10 @@
 namespace zarn_3_3::internal {
 namespace {
 
+// JSON is UTF-8 throughout, and tools may be declared in any bytes.
 constexpr std::string_view replacementCharacter = "\xEF\xBF\xBD";
 
+// From 0x80 on bytes are looked at as characters: they may be no UTF-8.
 bool isPlain(char c) {
     const auto byte = static_cast<unsigned char>(c);
     return byte >= ' ' && byte < 0x80 && c != '"' && c != '\\';
@@ -37,6 +39,7 @@ char shortEscape(char c) {
 
 }  // namespace
 
+// Written at once, and taken back by close when nothing was written in it: who opens need not know.
 void JsonWriter::open(char bracket, const char* key) {
     const std::size_t start = text_.size();
     const bool wasOutsideEmpty = levels_.empty() || levels_.back().isEmpty;
@@ -50,6 +53,7 @@ void JsonWriter::open(char bracket, const char* key) {
 void JsonWriter::close() {
     const Level closed = levels_.back();
     levels_.pop_back();
+    // The whole stays even when it is empty: no text is no JSON.
     if (closed.isEmpty && !levels_.empty()) {
         text_.resize(closed.start);
         levels_.back().isEmpty = closed.wasOutsideEmpty;
@@ -130,6 +134,7 @@ std::size_t JsonWriter::writeSpecial(std::string_view value) {
     } else {
         text_.append(length == 0 ? replacementCharacter : value.substr(0, length));
     }
+    // Of what is no character one byte alone: the next may begin one.
     return std::max<std::size_t>(length, 1);
 }
 
@@ -139,6 +144,7 @@ void JsonWriter::escape(char c) {
         text_ += '\\';
         text_ += letter;
     } else {
+        // Control characters of ASCII alone come here, for which two digits are enough.
         text_.append("\\u00");
         text_ += digits[c / 16];
         text_ += digits[c % 16];

@@ -16,6 +16,7 @@ namespace {
 
 using Names = std::vector<std::string>;
 
+// White space of the classic locale: what is found is not to depend on where it is looked for.
 bool isTypable(const std::string& name) {
     return !name.empty() && getDashLength(name, 0) == 0 &&
            name.find_first_of(" \t\n\v\f\r=") == std::string::npos;
@@ -41,7 +42,8 @@ std::string_view commonBeginning(std::string_view a, std::string_view b) {
     return a.substr(0, static_cast<std::size_t>(end.first - a.begin()));
 }
 
-// Whether nothing but the item begins so.
+// Whether nothing but the item begins so. The index of beginnings knows whether several forms do,
+// but not whether they are all of one item.
 bool belongsTo(std::size_t number,
                std::string_view beginning,
                const RegisteredOptionStorage& registry) {
@@ -60,6 +62,7 @@ void checkSpelling(const OptionDescription& item, Findings& findings) {
         if (!isTypable(name)) {
             findings.error("untypable-name", item.primaryName(), messages::untypableName(name));
         }
+        // A declaration would have cut it there: a synonym is taken as it is.
         if (name.find(',') != std::string::npos) {
             findings.error("comma-in-name", item.primaryName(), messages::commaInName(name));
         }
@@ -93,7 +96,9 @@ bool isTie(std::size_t number,
 
 void checkTies(std::size_t number, const RegisteredOptionStorage& registry, Findings& findings) {
     const OptionDescription& item = registry.items()[number];
+    // What has no letter in common is no tie. Three names may have one beginning, told once.
     std::set<std::string_view> seen{""};
+    // "no-" forms tie where their names do, and are not told once more.
     for (auto first = item.names.begin(); first != item.names.end(); ++first) {
         for (auto second = first + 1; second != item.names.end(); ++second) {
             const std::string_view common = commonBeginning(*first, *second);

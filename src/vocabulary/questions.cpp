@@ -24,7 +24,8 @@ struct Question {
     std::vector<std::string_view> words;
 };
 
-// Whether the line is "TOOL --zarn-answer QUESTION [-- WORD...]".
+// Whether the line is "TOOL --zarn-answer QUESTION [-- WORD...]": in full and in front alone, since
+// it may be a value of the tool elsewhere.
 bool isQuestion(int argc, const char* const* argv, Question& question) {
     constexpr int firstWord = 4;
     if (argc < 3 || argv[1] == nullptr || argv[1] != questionOption || argv[2] == nullptr) {
@@ -37,6 +38,7 @@ bool isQuestion(int argc, const char* const* argv, Question& question) {
     for (int i = firstWord; i < argc && argv[i] != nullptr; ++i) {
         question.words.emplace_back(argv[i]);
     }
+    // Anything else is no question, and the parse refuses the line.
     return std::string_view(argv[3]) == "--";
 }
 
@@ -57,6 +59,7 @@ std::string answerTo(const Question& question, const BasicParser& parser, const 
     if (kind == "check") {
         return findingsFor(question.text, parser);
     }
+    // Also what nobody here knows: it has no answer there either.
     return answerCompletion(question.text, question.words, parser);
 }
 
@@ -64,6 +67,7 @@ std::string answerTo(const Question& question, const BasicParser& parser, const 
 
 int answerQuestion(
     IParser* parser, const ToolInfo* tool, int argc, const char* const* argv, const char** answer) {
+    // Refused as a null parser is.
     if (tool == nullptr || (argv == nullptr && argc > 0)) {
         parser = nullptr;
     }

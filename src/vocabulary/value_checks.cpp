@@ -24,15 +24,18 @@ bool isNegative(const variant_t& value) {
 // Whether a whole number stays what it is when it is read as a T.
 template <typename T>
 bool isKeptAs(const variant_t& value) {
+    // Compared with a signed number, the largest unsigned one counts as -1: signs tell them apart.
     const variant_t read(value.get<T>());
     return read == value && isNegative(read) == isNegative(value);
 }
 
 // Whether a value can be read as the type of its item without becoming another one.
 bool isOfType(das_variant_type_t type, const variant_t& value) {
+    // Codes above that of the double are those of texts, and of what is no value.
     if (type == vtString || value.type() > vtDouble) {
         return type == vtString && isText(value);
     }
+    // A double reads every number, but nothing else reads a double, whole as it may be.
     if (type == vtDouble || value.type() == vtDouble) {
         return type == vtDouble;
     }
@@ -74,6 +77,7 @@ bool isAccepted(const OptionDescription& item, const variant_t& value) {
 void checkDefault(const OptionDescription& item, Findings& findings) {
     const std::string& name = item.primaryName();
     const variant_t& value = item.defaultVal;
+    // One finding for a default: a value of another type is not among the allowed ones either.
     if (item.type == vtNull) {
         findings.error("default-on-switch", name, messages::defaultOnSwitch);
     } else if (isEmpty(value)) {

@@ -11,6 +11,7 @@ namespace {
 
 // The shortest one that is read back as the same number.
 std::string exactText(double number) {
+    // No double takes more than twenty-four characters so.
     std::array<char, 32> text{};
     return {text.data(), std::to_chars(text.data(), text.data() + text.size(), number).ptr};
 }
@@ -48,6 +49,7 @@ std::string typedText(const variant_t& value) {
     if (type > vtDouble) {
         return get_variant_value(value, "");
     }
+    // std::to_string of a whole number asks no locale.
     const bool isUnsigned = type % 2 != 0;  // see das_variant_type_t
     return isUnsigned ? std::to_string(value.get<unsigned long long>())
                       : std::to_string(value.get<long long>());

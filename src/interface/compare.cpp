@@ -18,6 +18,7 @@ int notype_ptr_compare(const void* left, const void* right) noexcept {
     if (left == right) {
         return 0;
     }
+    // The operators order pointers into one object alone.
     return std::less<const void*>()(left, right) ? -1 : 1;
 }
 

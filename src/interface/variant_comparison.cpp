@@ -27,7 +27,8 @@ int compareBlobs(const void* left, const void* right) noexcept {
     const DataHeader* const rightHeader = headerOf(right);
     const std::uint64_t leftSize = leftHeader != nullptr ? leftHeader->size : 0;
     const std::uint64_t rightSize = rightHeader != nullptr ? rightHeader->size : 0;
-    // The shorter one is less, whatever it holds.
+    // The shorter one is less, whatever it holds. Without a byte there may be no block, and memcmp
+    // takes no null pointer.
     if (leftSize != rightSize || leftSize == 0) {
         return compareNumbers(leftSize, rightSize);
     }
@@ -53,6 +54,7 @@ int variant_t::compareSameKind(const variant_t& other) const noexcept {
         case vtNull:
             return 0;
         default:
+            // Numbers were compared before, and no other code is made.
             debugAssertionFailed("m_type == vtNull && var.m_type == vtNull");
             return 1;
     }

@@ -2,7 +2,8 @@
 
 namespace zarn_3_3::internal {
 
-// Makes room first: when memory runs out, no action is in the group.
+// Makes room first: when memory runs out, no action is in the group. More than is needed, as
+// reserve adds nothing of its own and would copy the list for each group.
 void ActionGroups::add(const std::set<std::string>& actions) {
     for (const std::string& action : actions) {
         std::vector<std::size_t>& groups = groupsByAction_[action];
@@ -16,6 +17,8 @@ void ActionGroups::add(const std::set<std::string>& actions) {
     ++groupCount_;
 }
 
+// Put together when somebody wants to see them: a parse asks for the groups of an action. In sets,
+// as the table has no order that is the same in every build.
 std::vector<std::set<std::string>> ActionGroups::all() const {
     std::vector<std::set<std::string>> groups(groupCount_);
     for (const auto& [action, numbers] : groupsByAction_) {

@@ -70,6 +70,7 @@ void BasicParser::passOn(EventKind kind, const char* text, const Value* value, T
     });
 }
 
+// Kept: an option cannot be refused, whatever a handler answers; its values can.
 bool BasicParser::onOptionParse(const char* name) {
     passOn(EventKind::option, name, nullptr, [](EventHandler& handler, const char* kept) {
         handler.onOptionParse(kept);
@@ -235,6 +236,7 @@ bool BasicParser::allowSimultaneousActions(const std::set<std::string>& actions)
 int BasicParser::parseVector(std::vector<std::string>& args, IParseResult* result) {
     ParseResult& filled = ownResult(result);
     const int code = parse_phase_one(endOfOptions, args, result, lastError);
+    // Phase one has seen to its failure itself.
     if (code != resultOk) {
         return code;
     }

@@ -10,6 +10,8 @@
 namespace zarn_3_3::internal {
 namespace {
 
+// A file may be named twice by another, that one twice by a third: a few short files without a
+// cycle would be read almost for ever.
 constexpr std::size_t mostFiles = 1000;
 constexpr std::size_t mostBytes = std::size_t{256} * 1024 * 1024;
 
@@ -74,7 +76,10 @@ int OptionFileWalk::read(const std::string& path, std::size_t namedIn) {
 }
 
 int OptionFileWalk::parse(const std::string& content, const std::string& path) {
+    // So that it can be told later what a file says: the modern face lets the command line overrule
+    // it.
     const ParseResult::FromFile numbers(result_);
+    // No handler can get at this text, so that none of it is copied.
     TextArguments arguments(content, TextArguments::Owner::library, path);
     const int code = driver_.parseOptions(endOfOptions, arguments);
     return code != resultOk ? code : driver_.collectNonparsingArguments(endOfOptions, arguments);

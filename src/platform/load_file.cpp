@@ -89,6 +89,7 @@ Outcome load(const ustring8& path, ustring8& content) {
     if (!file.isOpen() || !file.readStatus(status) || !isLoadable(status)) {
         return Outcome::failed;
     }
+    // A pipe has no size, and that of a file is a hint alone.
     content.reserve(S_ISREG(status.st_mode) ? static_cast<std::size_t>(status.st_size) : 0);
     return readAll(file, content);
 }

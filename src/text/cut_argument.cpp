@@ -49,6 +49,7 @@ std::string_view withoutDashes(std::string_view argument) {
     return argument;
 }
 
+// A template, so that the test for the classic locale, which costs little, is part of the loop.
 template <typename IsSpace>
 bool splitAt(const std::string& argument,
              std::string_view* name,

@@ -8,7 +8,8 @@ std::uint32_t KeptTexts::keep(std::string_view text) {
     if (known != none) {
         return known;
     }
-    // Everything that can fail comes before the table knows of the text.
+    // Everything that can fail comes before the table knows of the text. The arena comes last of
+    // that: nothing can be given back to it.
     table_.makeRoom(1);
     texts_.emplace_back();
     try {

@@ -50,6 +50,7 @@ bool NumberStream::isRead() const {
 
 bool NumberStream::isAtEnd() {
     char following = 0;
+    // Reading a character passes over what the locale calls white space.
     const bool isThere = static_cast<bool>(stream_ >> following);
     throwIfOutOfMemory(stream_);
     return !isThere;

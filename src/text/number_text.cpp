@@ -103,6 +103,7 @@ const char* endOfDouble(const char* at, const char* end) {
 Reading readDouble(std::string_view text, Trailing trailing, double& number) {
     const char* const end = text.data() + text.size();
     const char* at = skipSpace(text.data(), end);
+    // The sign stands apart, since std::from_chars takes no plus.
     const bool isNegative = at != end && *at == '-';
     if (at != end && isSign(*at)) {
         ++at;
@@ -175,6 +176,7 @@ std::optional<unsigned long long> hexadecimalFromText(std::string_view text, Tex
     if (locale == TextLocale::classic) {
         Integer integer;
         unsigned long long number = 0;
+        // What follows the digits is the "h" of "1fh".
         const bool isRead = readInteger<hexadecimal>(text, Trailing::ignored, integer);
         const Reading reading = isRead ? asType(integer, number) : Reading::noNumber;
         return answer(reading, number);

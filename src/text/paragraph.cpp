@@ -48,6 +48,7 @@ std::size_t enterColumn(std::string& out,
                         std::size_t length,
                         std::size_t indent,
                         std::size_t width) {
+    // With the blank that goes in front, a line behind a head is as long as the others.
     const std::size_t longest = indent + width - 2;
     // A head that fills its line stands alone. One that only reaches into the column leaves it what
     // is left.
@@ -80,6 +81,7 @@ void appendParagraph(std::string& out,
     std::size_t length = head.size();
     while (!text.empty()) {
         text = withoutLeadingSeparators(text);
+        // Kept: also where nothing but separators was left, which makes a line of blanks.
         const std::size_t limit = enterColumn(out, length, indent, width);
         const std::size_t chunk = chunkLength(text, limit);
         out += text.substr(0, chunk);

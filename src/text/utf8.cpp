@@ -7,6 +7,8 @@ std::size_t lengthBehind(unsigned lead) {
     if (lead < 0x80) {
         return 1;
     }
+    // Up to 0xBF bytes go on with a character; 0xC0 and 0xC1 would begin ASCII in two bytes, and
+    // above 0xF4 Unicode has ended.
     if (lead < 0xC2 || lead > 0xF4) {
         return 0;
     }
@@ -24,6 +26,8 @@ bool canFollow(unsigned lead, unsigned second) {
 }  // namespace
 
 std::size_t characterLength(std::string_view text) {
+    // Behind the end a NUL is read, which goes on with no character: one that is cut off needs no
+    // test of its own.
     const auto byte = [text](std::size_t i) {
         return i < text.size() ? static_cast<unsigned char>(text[i]) : 0U;
     };

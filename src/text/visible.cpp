@@ -12,6 +12,8 @@ void appendEscaped(std::string& text, unsigned char byte) {
 
 }  // namespace
 
+// Terminals obey control characters from U+0080 on like those of ASCII. Everything else is text of
+// some kind, and stays.
 std::string visible(const std::string& text) {
     std::string shown;
     for (std::size_t i = 0; i < text.size(); ++i) {

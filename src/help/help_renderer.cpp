@@ -129,8 +129,8 @@ HelpText renderOptions(const SectionList& sections,
                        bool hidden) {
     try {
         return {textFor(sections, items, hidden)};
-        // Whatever it was: who asks for help shall get an answer, and no other failure.
     } catch (...) {
+        // Whatever it was: who asks for help shall get an answer, and no other failure.
         return {messages::unknownError, true};
     }
 }

@@ -20,6 +20,7 @@ std::ostream& ZarnLog::discardingStream() {
 std::ostream& zarnLog() {
     // Made when it is first needed: most processes never look at the log.
     static ZarnLog log;
+    // Another thread may have switched it off since the line was found worth writing.
     return isLogOn() ? TROV_2_18::strings::pl2::ucout : log.discardingStream();
 }
 

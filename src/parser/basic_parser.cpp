@@ -61,6 +61,7 @@ BasicParser::BasicParser(int creationFlags) : flags(creationFlags) {
 // a parser can be a handler of another one.
 template <typename Tell>
 void BasicParser::passOn(EventKind kind, const char* text, const Value* value, Tell tell) {
+    // Most tools have none, and then no text of an event is kept either.
     if (handlers.isEmpty()) {
         return;
     }

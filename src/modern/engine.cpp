@@ -171,7 +171,7 @@ ItemDescription* beginItem(Role role,
                            const char* names,
                            const char* actions,
                            const char* description) {
-    auto* const item = new ItemRecord();
+    auto* const item = new ItemRecord;
     item->role = role;
     item->type = type;
     item->names = names;

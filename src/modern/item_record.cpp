@@ -71,10 +71,11 @@ const Extras& ItemRecord::noExtras() {
 }
 
 Extras& ItemRecord::changeableExtras() {
-    if (ownExtras == nullptr) {
-        ownExtras = std::make_unique<Extras>();
+    if (ownExtras_ == nullptr) {
+        ownExtras_ = std::make_unique<Extras>();
+        extras_ = ownExtras_.get();
     }
-    return *ownExtras;
+    return *ownExtras_;
 }
 
 ItemRecord::~ItemRecord() { release(checks); }
@@ -100,10 +101,17 @@ std::string ItemRecord::called() const {
 }
 
 void ItemRecord::configure(IOption& item) const {
-    // The plain settings take what they can and say nothing: what is lost is found at the end.
     if (role == Role::positional) {
         item.positional();
     }
+    if (hasExtras()) {
+        configureValues(item);
+    }
+    item.tokenize(separator);  // last: allowValue has values cut at ','
+}
+
+void ItemRecord::configureValues(IOption& item) const {
+    // The plain settings take what they can and say nothing: what is lost is found at the end.
     const std::vector<AllowedValue>& allowed = extras().allowed;
     for (const AllowedValue& each : allowed) {
         if (isGiven(each.replacement)) {
@@ -115,7 +123,6 @@ void ItemRecord::configure(IOption& item) const {
     if (isGiven(extras().defaultValue)) {
         item.defaultValue(extras().defaultValue);
     }
-    item.tokenize(separator);  // last: allowValue has values cut at ','
     const auto& made = static_cast<const OptionDescription&>(item);
     const auto isTaken = [&](const AllowedValue& each) {
         return !isGiven(each.replacement) ||
@@ -200,6 +207,9 @@ void requireNames(const ItemRecord& item) {
     std::array<std::string_view, 3> names;
     std::size_t count = 0;
     for (const char* next = item.names; next != nullptr; ++count) {
+        if (count == names.size()) {
+            refuse(messages::tooManyNames);
+        }
         const std::string_view name(next, std::strcspn(next, ",= \t\n\v\f\r"));
         const char end = next[name.size()];
         // The plain interface takes such names, and no command line ever reaches them.
@@ -210,18 +220,13 @@ void requireNames(const ItemRecord& item) {
             refuse(messages::nameEmpty);
         }
         // The plain interface looks at the names of other items only.
-        for (std::size_t i = 0; i < std::min(count, names.size()); ++i) {
+        for (std::size_t i = 0; i < count; ++i) {
             if (names[i] == name) {
                 refuse(messages::nameTwice(name));
             }
         }
-        if (count < names.size()) {
-            names[count] = name;
-        }
+        names[count] = name;
         next = end == ',' ? next + name.size() + 1 : nullptr;
-    }
-    if (count > names.size()) {
-        refuse(messages::tooManyNames);
     }
     // It would be refused there too, without a word.
     if (names[2].size() > 2) {
@@ -234,7 +239,7 @@ void requireSettings(const ItemRecord& item) {
     if (item.showsTarget && item.takesMany()) {
         mistake(item.names, messages::noVariable);
     }
-    if (item.ownExtras == nullptr) {
+    if (!item.hasExtras()) {
         return;
     }
     if (isGiven(extras.least) && isGiven(extras.greatest) && extras.greatest < extras.least) {

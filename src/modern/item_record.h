@@ -19,7 +19,8 @@ struct ItemRecord final : ItemDescription {
     ItemRecord& operator=(const ItemRecord&) = delete;
     ~ItemRecord();
 
-    const Extras& extras() const { return ownExtras != nullptr ? *ownExtras : noExtras(); }
+    const Extras& extras() const { return *extras_; }
+    bool hasExtras() const { return ownExtras_ != nullptr; }
     Extras& changeableExtras();
 
     // Whether its values have to be parsed anew when they were stored for a group of positional
@@ -57,15 +58,19 @@ struct ItemRecord final : ItemDescription {
     // A deprecated value as what it is read as.
     Value replaced(const Value& value) const;
 
-    std::unique_ptr<Extras> ownExtras;         // null: nothing of them was said
     Check* checks = nullptr;                   // owned, and those behind it
     const OptionDescription* plain = nullptr;  // as it was declared
     bool isAnswered = false;                   // without the tool, as help is
     bool isPlain = false;                      // declared with the plain interface
 
 private:
+    void configureValues(IOption& item) const;
+
     // One for all: most items have nothing of them, and many tools have hundreds of items.
     static const Extras& noExtras();
+
+    std::unique_ptr<Extras> ownExtras_;   // null: nothing of them was said
+    const Extras* extras_ = &noExtras();  // those, or none
 };
 
 // Puts the check at the end of those.

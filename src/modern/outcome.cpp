@@ -100,6 +100,9 @@ Found StoredOutcome::choose(std::string_view name,
     const bool isFromOutside = own.size() + share.size() == 0;
     if (isFromOutside) {
         own = aside(item, Origin::environment);
+        if (own.size() == 0) {
+            return chooseDefault(entry, all);
+        }
     }
     Found found;
     for (const Values& values : {share, own}) {
@@ -111,9 +114,6 @@ Found StoredOutcome::choose(std::string_view name,
         if (found.last.status != statusFound || counts(last.position, found.last.position)) {
             found.last = item.replaced(last);
         }
-    }
-    if (found.count == 0) {
-        return chooseDefault(entry, all);
     }
     if (all != nullptr) {
         appendInOrder(share, own, item, *all);

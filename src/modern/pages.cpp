@@ -2,8 +2,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <new>
 #include <string_view>
+#include <utility>
 
+#include "help/help_topics.h"
 #include "text/filled.h"
 #include "text/visible.h"
 #include "vocabulary/help_in_style.h"
@@ -26,6 +29,16 @@ std::uint32_t numberFrom(const char* text) {
     return read.ec == std::errc() && read.ptr == digits.data() + digits.size() ? number : 0;
 }
 
+// What there is to say of a topic that is none.
+std::string plainHelp(Vocabulary& vocabulary, const char* topic) {
+    HelpText help = HelpTopics(vocabulary.plain().vocabulary()).topic(topic, false);
+    // The plain interface hands out what it could still write.
+    if (help.isFailure) {
+        throw std::bad_alloc();
+    }
+    return std::move(help.text);
+}
+
 Answer answerFor(const ItemRecord& item,
                  Vocabulary& vocabulary,
                  const Teller& teller,
@@ -43,9 +56,7 @@ Answer answerFor(const ItemRecord& item,
     }
     // It goes to a terminal.
     const std::string quoted = visible(topic);
-    return {"",
-            filled("{}: {}", {tool, vocabulary.plain().getDescription(quoted.c_str(), false)}),
-            exitUsage};
+    return {"", filled("{}: {}", {tool, plainHelp(vocabulary, quoted.c_str())}), exitUsage};
 }
 
 // What stands behind "--help", without dashes: attached, or as the next argument when that is a
@@ -140,9 +151,8 @@ std::string pageOf(Vocabulary& vocabulary, const std::string& tool, HelpStyle st
     style.topic = isEmpty(style.topic) ? nullptr : style.topic;
     const Tool& about = vocabulary.tool();
     const ToolInfo info{sizeof info, tool.c_str(), about.version, about.summary};
-    // The plain help knows what to say of a topic that is none.
     const auto help = helpInStyle(style, vocabulary.plain(), ToolTexts(info));
-    return help ? *help : vocabulary.plain().getDescription(style.topic, false);
+    return help ? *help : plainHelp(vocabulary, style.topic);
 }
 
 void fitStyle(HelpStyle& style, const TerminalFacts& facts) noexcept {

@@ -1,16 +1,15 @@
 // What can be asked of a vocabulary only when everything is declared: in front of a parse.
 
-#include <algorithm>
-#include <functional>
+#include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <new>
 #include <utility>
-#include <vector>
 
 #include "modern/messages.h"
 #include "modern/vocabulary.h"
 #include "options/registered_option_storage.h"
-#include "text/heap_sort.h"
+#include "text/text_table.h"
 
 namespace zarn_3_3::internal {
 namespace {
@@ -20,6 +19,12 @@ Role roleOf(const OptionDescription& plain) {
         return Role::action;
     }
     return plain.isPositional ? Role::positional : Role::option;
+}
+
+// Spreads what stands side by side.
+std::uint32_t hashOf(const void* variable) {
+    return static_cast<std::uint32_t>(
+        reinterpret_cast<std::uintptr_t>(variable) * 0x9e3779b97f4a7c15 >> 32);
 }
 
 }  // namespace
@@ -49,19 +54,15 @@ void Vocabulary::settle() {
 // What the face itself declares has its record already.
 void Vocabulary::takeInPlainItems() {
     const OptionList& plainItems = plain_->vocabulary().items();
-    byIndex_.resize(plainItems.size());
-    for (std::size_t i = 0; i < plainItems.size(); ++i) {
-        if (byIndex_[i] == nullptr) {
-            // So that rules and queries need not know by whom an item was declared.
-            auto item = std::make_unique<ItemRecord>();
-            item->role = roleOf(plainItems[i]);
-            item->type = plainItems[i].type;
-            item->separator = plainItems[i].tokenizer;
-            item->plain = &plainItems[i];
-            item->isPlain = true;
-            items_.push_back(std::move(item));
-            byIndex_[i] = items_.back().get();
-        }
+    for (std::size_t i = items_.size(); i < plainItems.size(); ++i) {
+        // So that rules and queries need not know by whom an item was declared.
+        auto item = std::make_unique<ItemRecord>();
+        item->role = roleOf(plainItems[i]);
+        item->type = plainItems[i].type;
+        item->separator = plainItems[i].tokenizer;
+        item->plain = &plainItems[i];
+        item->isPlain = true;
+        items_.push_back(std::move(item));
     }
 }
 
@@ -79,23 +80,21 @@ void Vocabulary::requireActions(const ItemRecord& item) const {
 
 // The values of two items for one variable would overwrite each other.
 void Vocabulary::requireOwnTargets() const {
-    // Sorted, since a tool of a thousand options would feel a look at each pair.
-    std::vector<std::pair<const void*, std::size_t>> owners;
-    owners.reserve(items_.size());
-    for (std::size_t i = 0; i < items_.size(); ++i) {
+    // A table, since a tool of a thousand options would feel a look at each pair.
+    TextTable owners;
+    owners.makeRoom(items_.size());
+    for (std::uint32_t i = 0; i < items_.size(); ++i) {
+        const ItemRecord& item = *items_[i];
         // Constants are meant to share: what was given last counts.
-        if (items_[i]->target != nullptr && items_[i]->extras().constant.value == nullptr) {
-            owners.emplace_back(items_[i]->variable, i);
+        if (item.target == nullptr || item.extras().constant.value != nullptr) {
+            continue;
         }
-    }
-    heapSort(owners, std::less<>());
-    const auto shared =
-        std::adjacent_find(owners.begin(), owners.end(), [](const auto& a, const auto& b) {
-            return a.first == b.first;
+        const std::uint32_t owner = owners.findOrAdd(hashOf(item.variable), i, [&](auto other) {
+            return items_[other]->variable == item.variable;
         });
-    if (shared != owners.end()) {
-        mistake(items_[(shared + 1)->second]->allNames().c_str(),
-                messages::variableTaken(items_[shared->second]->allNames()));
+        if (owner != i) {
+            mistake(item.allNames().c_str(), messages::variableTaken(items_[owner]->allNames()));
+        }
     }
 }
 

@@ -15,12 +15,16 @@
 namespace zarn_3_3::internal {
 namespace {
 
+constexpr std::size_t usualItems = 32;
+
 const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
 }  // namespace
 
 Vocabulary::Vocabulary(const Tool& tool, int flags)
-    : tool_(tool), flags_(flags), plain_(std::make_unique<BasicParser>(flags)), watch_(*this) {}
+    : tool_(tool), flags_(flags), plain_(std::make_unique<BasicParser>(flags)), watch_(*this) {
+    items_.reserve(usualItems);
+}
 
 void Vocabulary::release() noexcept {
     if (--owners_ == 0) {
@@ -31,14 +35,15 @@ void Vocabulary::release() noexcept {
 ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
     // The face has promised that the item is taken, also when one of the next lines throws.
     std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
-    for (const char** text : {&item->names, &item->actions, &item->description, &item->shownName}) {
-        *text = orEmpty(*text);
-    }
+    item->names = orEmpty(item->names);
+    item->actions = orEmpty(item->actions);
+    item->description = orEmpty(item->description);
+    item->shownName = orEmpty(item->shownName);
     showVariable(*item);
     requireNames(*item);
     requireSettings(*item);
-    // Before the plain declaration, which cannot be taken back: behind that nothing may fail for
-    // want of memory, or a plain item would be left without its record.
+    takeInPlainItems();
+    // Before the plain declaration, which cannot be taken back.
     items_.push_back(std::move(item));
     try {
         requireSameActions(*items_.back());
@@ -47,7 +52,6 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
         items_.pop_back();
         throw;
     }
-    impliesValues_ = impliesValues_ || items_.back()->hasOptionalValue();
     return *items_.back();
 }
 
@@ -78,7 +82,6 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
     const RegisteredOptionStorage& registry = plain_->vocabulary();
     const std::size_t index = registry.items().size();
     // Room first, as far as it can be had.
-    byIndex_.resize(index + 1);
     if (item.role == Role::positional) {
         positionals_.reserve(positionals_.size() + 1);
     }
@@ -92,18 +95,19 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
         throw std::bad_alloc();
     }
     item.configure(made);
-    keepTexts(item, index);
+    keepTexts(item);
     describe(index, item);
     if (item.role == Role::positional) {
         addPositional(item);
     }
-    byIndex_[index] = &item;  // last: nothing fails behind it
 }
 
 // What help shows of the item beyond its plain declaration.
 void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
     RegisteredOptionStorage& registry = plain_->vocabulary();
-    registry.expect(index, item.isRequired, !item.takesMany(), item.hasOptionalValue());
+    const bool impliesValue = item.hasOptionalValue();
+    impliesValues_ = impliesValues_ || impliesValue;
+    registry.expect(index, item.isRequired, !item.takesMany(), impliesValue);
     if (*item.shownName != '\0') {
         registry.nameValue(index, item.shownName);
     }
@@ -113,15 +117,15 @@ void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
 }
 
 // The author's texts live until the item is declared.
-void Vocabulary::keepTexts(ItemRecord& item, std::size_t index) {
+void Vocabulary::keepTexts(ItemRecord& item) {
     // It stays where it is: the list of items never moves them.
-    item.plain = &plain_->vocabulary().items()[index];
+    item.plain = &plain_->vocabulary().items().back();
     item.names = "";
     item.actions = "";
     item.description = item.plain->description.data();
     item.shownName = *item.shownName == '\0' ? "" : plain_->keep(item.shownName);
-    if (item.ownExtras != nullptr) {
-        const char*& environment = item.ownExtras->environment;
+    if (item.hasExtras()) {
+        const char*& environment = item.changeableExtras().environment;
         environment = plain_->keep(orEmpty(environment));
     }
 }
@@ -135,7 +139,7 @@ void Vocabulary::addPositional(const ItemRecord& item) {
         const std::size_t first = indexOf(positionals_[0]->primaryName());
         registry.takeAnyText(first);
         // Checks and values go by what its author declared.
-        byIndex_[first]->plain = &registry.asDeclared(first);
+        items_[first]->plain = &registry.asDeclared(first);
     }
     positionals_.push_back(&item);
 }
@@ -181,7 +185,7 @@ std::size_t Vocabulary::indexOf(std::string_view form) const {
 }
 
 ItemRecord* Vocabulary::recordAt(std::size_t index) const {
-    return index < byIndex_.size() ? byIndex_[index] : nullptr;
+    return index < items_.size() ? items_[index].get() : nullptr;
 }
 
 const ItemRecord* Vocabulary::find(std::string_view name) const {

@@ -49,7 +49,7 @@ public:
     int flags() const { return flags_; }
     unsigned habits() const { return habits_; }
     bool has(ParserFlag flag) const { return (flags_ & flag) != 0; }
-    // Those declared plainly come in when the vocabulary is settled.
+    // Those declared plainly come in with the next of ours, or when the vocabulary is settled.
     const std::vector<std::unique_ptr<ItemRecord>>& items() const { return items_; }
     const std::vector<const ItemRecord*>& positionals() const { return positionals_; }
     // Of several positional items the first, under which all arguments are stored; else null.
@@ -84,7 +84,7 @@ public:
 private:
     void showVariable(ItemRecord& item) const;
     void declarePlainly(const char* section, ItemRecord& item);
-    void keepTexts(ItemRecord& item, std::size_t index);
+    void keepTexts(ItemRecord& item);
     void describe(std::size_t index, const ItemRecord& item);
     void addPositional(const ItemRecord& item);
     void takeInPlainItems();
@@ -103,8 +103,7 @@ private:
     unsigned habits_ = 0;
     std::size_t owners_ = 1;
     std::unique_ptr<BasicParser> plain_;
-    std::vector<std::unique_ptr<ItemRecord>> items_;
-    std::vector<ItemRecord*> byIndex_;  // by the index of the item in the plain parser
+    std::vector<std::unique_ptr<ItemRecord>> items_;  // each where it stands in the plain parser
     std::vector<const ItemRecord*> positionals_;
     std::vector<Rule> rules_;
     Check* lineChecks_ = nullptr;

@@ -15,7 +15,7 @@ namespace {
 // Values that are made, each for the variable of an item.
 class Writing {
 public:
-    Writing() = default;
+    explicit Writing(std::size_t most) { made_.reserve(most); }
     Writing(const Writing&) = delete;
     Writing& operator=(const Writing&) = delete;
     ~Writing() {
@@ -91,8 +91,9 @@ void writeVariables(StoredOutcome& outcome) {
     if (outcome.code != resultOk) {
         return;
     }
-    Writing writing;
-    for (const auto& item : outcome.vocabulary().items()) {
+    const auto& items = outcome.vocabulary().items();
+    Writing writing(items.size());
+    for (const auto& item : items) {
         if (item->target != nullptr) {
             writing.make(*item, outcome);
         }

@@ -46,7 +46,8 @@ write std::chrono::seconds(5)|zarn::option<std::chrono::minutes>("x", "").betwee
 a switch takes no value|zarn::option("x", "").byDefault(true);
 for a switch a bool or an integer|int i; zarn::option<bool>("x", "").into(i);
 an enumeration allows the names of its table|zarn::option<E>("x", "").allow({E::a});
-no values have this type|zarn::option<char>("x", "");
+no values have this type|zarn::option<wchar_t>("x", "");
+the values of this option are characters|zarn::option<char>("x", "").byDefault(65);
 bounds are for numbers|zarn::option<std::string>("x", "").between("a", "b");
 only texts and paths name files|zarn::option<int>("x", "").existingFile();
 taken from the environment: use option<bool>|zarn::option("x", "").fromEnvironment("X");

@@ -107,7 +107,7 @@ TEST(Conversions, HoldWhatTheirTypesHold) {
     }
 }
 
-TEST(Conversions, OfQuantitiesAreExact) {
+TEST(Conversions, OfQuantitiesAndCharactersAreExact) {
     using Days = std::chrono::duration<int, std::ratio<86400>>;
     using Nanoseconds = std::chrono::nanoseconds;
     using Seconds = std::chrono::duration<long, std::ratio<1>>;
@@ -121,6 +121,8 @@ TEST(Conversions, OfQuantitiesAreExact) {
         const char* text;
         const char* expected;
     } rows[] = {
+        {readAs<char>,        "\xE9",                  "\xE9"                                    },
+        {readAs<char>,        "\xC3\xA9",              "it must be one ASCII character"          },
         {readAs<Seconds>,     "0s",                    "0s"                                      },
         {readAs<Seconds>,     "1.5h",                  "5400s"                                   },
         {readAs<Seconds>,     "1.250min",              "75s"                                     },

@@ -257,21 +257,26 @@ TEST(RunOf, AToolAnswersQuestionsFirst) {
 
 TEST(RunOf, AToolWithoutMemoryAnswersNothing) {
     Parser parser({"sonde", "2.1", nullptr});
-    const Line line{"--zarn-answer", "describe"};
-    long n = 0;
-    for (bool hasStruck = true; hasStruck; ++n) {
-        testing::internal::CaptureStdout();
-        testing::internal::CaptureStderr();
-        memory.left = n + 1;
-        const std::optional<int> code = parser.run(line.argc(), line.argv());
-        memory.left = 0;
-        hasStruck = std::exchange(memory.hasStruck, false);
-        EXPECT_EQ(testing::internal::GetCapturedStdout().empty(), hasStruck) << "allocation " << n;
-        EXPECT_EQ(testing::internal::GetCapturedStderr(),
-                  hasStruck ? "sonde: out of memory\n" : "");
-        EXPECT_EQ(code, hasStruck ? exitInternal : exitAnswered);
+    for (const Line& line : {
+             Line{"--zarn-answer", "describe"},
+             Line{"--help=nothing"              }
+    }) {
+        long n = 0;
+        for (bool hasStruck = true; hasStruck; ++n) {
+            testing::internal::CaptureStdout();
+            testing::internal::CaptureStderr();
+            memory.left = n + 1;
+            const std::optional<int> code = parser.run(line.argc(), line.argv());
+            memory.left = 0;
+            hasStruck = std::exchange(memory.hasStruck, false);
+            const std::string said =
+                testing::internal::GetCapturedStdout() + testing::internal::GetCapturedStderr();
+            EXPECT_EQ(said == "sonde: out of memory\n", hasStruck) << said << n;
+            EXPECT_EQ(code == exitInternal, hasStruck) << n;
+            EXPECT_THAT(said, testing::EndsWith("\n"));
+        }
+        EXPECT_GT(n, 10);
     }
-    EXPECT_GT(n, 10);
 }
 
 TEST(RunOf, AToolThatTakesTheRestLeavesItsArgumentsAlone) {

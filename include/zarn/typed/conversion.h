@@ -1,4 +1,4 @@
-// Values that are made of texts: enumerations, paths, and types of your own.
+// Values that are made of texts: enumerations, paths, characters, and types of your own.
 
 #ifndef ZARN_TYPED_CONVERSION_H
 #define ZARN_TYPED_CONVERSION_H
@@ -91,6 +91,19 @@ template <typename T>
 struct Conversion<T, std::enable_if_t<internal::isPath<T>>> {
     static std::optional<T> read(const char* text, std::string& /*reason*/) { return T(text); }
     static std::string write(const T& path) { return path.string(); }
+};
+
+// One byte, which may be any.
+template <>
+struct Conversion<char> {
+    static std::optional<char> read(const char* text, std::string& reason) {
+        if (std::strlen(text) == 1) {
+            return *text;
+        }
+        reason = "it must be one ASCII character";
+        return std::nullopt;
+    }
+    static std::string write(char character) { return std::string(1, character); }
 };
 
 // Enumerations with a table.

@@ -302,6 +302,8 @@ private:
         } else if constexpr (internal::isText<T>) {
             static_assert(std::is_convertible_v<const U&, std::string_view>,
                           "the values of this option are texts");
+        } else if constexpr (std::is_same_v<T, char>) {
+            static_assert(std::is_same_v<U, char>, "the values of this option are characters");
         } else if constexpr (std::is_same_v<T, Bytes>) {
             static_assert(std::is_convertible_v<const U&, T>,
                           "the values of this option are sizes: write zarn::Bytes{64 << 10}");

@@ -36,8 +36,8 @@ constexpr bool canBeValue() {
 template <typename T>
 constexpr das_variant_type_t typeCode() {
     static_assert(canBeValue<T>(),
-                  "no values have this type: a character is a std::string of one, an enumeration "
-                  "needs a table zarn::Names<E>, another type of your own a zarn::Conversion<T>");
+                  "no values have this type: an enumeration needs a table zarn::Names<E>, another "
+                  "type of your own a zarn::Conversion<T>");
     if constexpr (std::is_same_v<T, Switch>) {
         return vtNull;
     } else if constexpr (std::is_same_v<T, bool>) {

@@ -126,6 +126,7 @@ struct Single {
     Bytes size;
     bool color = false;
     int way = 0;
+    std::string mark;
 };
 
 void declareSingle(Parser& parser, Single& single) {
@@ -137,6 +138,8 @@ void declareSingle(Parser& parser, Single& single) {
         option<bool>("color", "").into(single.color).once(),
         option("up", "").stores(single.way, 1).once(),
         option("down", "").stores(single.way, 2),
+        option("dot", "").stores(single.mark, ".").once(),
+        option<std::string>("mark", "").into(single.mark),
         option<std::string>("name", "").once(),
         option<int>("any", ""),
         option("about", "").alone(),
@@ -163,6 +166,10 @@ TEST(Shapes, OfWhatTakesOneValueHoweverOften) {
         {{"--color", "--no-color"},                  "Option '--color' takes one value, not '1' and '0'"     },
         {{"--up", "--up"},                           ""                                                      },
         {{"--down", "--up"},                         "Option '--down' does not go with option '--up'"        },
+        {{"--dot", "--mark=."},                      ""                                                      },
+        {{"--dot", "--mark=x"},                      "Option '--dot' does not go with option '--mark'"       },
+        {{"--mark=x", "--dot"},                      "Option '--mark' does not go with option '--dot'"       },
+        {{"--mark=x", "--mark=y"},                   "Option '--mark' takes one value, not 'x' and 'y'"      },
         {{"--name=a", "--name=a"},                   ""                                                      },
         {{"--name=a", "--name=b"},                   "Option '--name' takes one value, not 'a' and 'b'"      },
         {{"--any=1", "--any=2"},                     ""                                                      },

@@ -21,8 +21,9 @@
 namespace zarn_3_3 {
 
 // What most tools with file names want: an argument that nothing declared takes is an error; a
-// positional argument does not begin with a dash, so that a misspelt option is not taken for one,
-// but behind "--" it may; the paths of option files hold commas.
+// positional argument does not begin with a dash (of a Parser with any of those that introduce
+// options, not the hyphen alone), so that a misspelt option is not taken for one, but behind "--"
+// it may; the paths of option files hold commas.
 constexpr int usualFlags = flagUnknownIsError | flagPositionalWithoutDash |
                            flagPositionalBehindTerminator | flagValuesStayWhole;
 

@@ -47,6 +47,9 @@ void declareSorting(Parser& parser, Sorting& sorting) {
     });
     parser.check([&sorting] { return sorting.order != Order::random || sorting.depth < 9; },
                  "what is shuffled is not that deep");
+    parser.check([&sorting] {
+        return sorting.jobs < 9 ? "" : std::to_string(sorting.jobs) + " jobs are too many";
+    });
 }
 
 struct SortingRow {
@@ -72,6 +75,8 @@ TEST(Shapes, OfOptionsBeyondOneValueEach) {
         {{"-d4n"},
          unixHabits,                                            "plain never 3 Value validation problem in argument '-d4n': Option "
          "'depth' can not parse '4n' value, requires a type 'integer' here."                                       },
+        {{"-n", "--jobs=8"},           0,                       "numeric never 3"                                                      },
+        {{"-n", "--jobs=9"},           0,                       "plain never 3 9 jobs are too many"                                    },
         {{"-d4", "-c"},                unixHabits,              "plain always 4"                                                       },
         {{"-R", "-d"},                 0,                       "plain never 3 what is shuffled is not that deep"                      },
         {{"-R", "-d", "--about"},      0,                       "random never 9"                                                       },

@@ -195,7 +195,7 @@ public:
         }
     }
 
-    // Refuses values below the bound.
+    // Refuses values below the bound. A number that does not fit the type is a mistake.
     template <typename U>
     Declaration&& atLeast(const U& least) && {
         const T low = bound(least);

@@ -33,6 +33,8 @@ struct TypedOption {
     }
     TypedOption(std::string&&) = delete;  // the views would dangle
 
+    bool hasOneDash() const { return leadingDashLength(dashes) == dashes.size(); }
+
     std::string_view dashes;
     std::string_view name;
     std::string_view rest;  // the value, and what stands between
@@ -82,8 +84,8 @@ Texts namesLike(const Failure& failure, const RegisteredOptionStorage& registry)
     Nearest nearest(cut.dashes.empty() ? std::string_view() : cut.name);
     const auto written = [&](std::string_view name) {
         // One dash has letters behind it in such a tool: a longer name needs two.
-        const bool isLong = failure.isShortBehindDash && cut.dashes == "-" && name.size() > 1;
-        return filled("{}{}{}{}", {isLong ? "-" : "", cut.dashes, name, cut.rest});
+        const bool isLong = failure.isShortBehindDash && cut.hasOneDash() && name.size() > 1;
+        return filled("{}{}{}{}", {isLong ? cut.dashes : "", cut.dashes, name, cut.rest});
     };
     for (std::uint32_t number = 0; number < forms.size(); ++number) {
         const std::string_view form = forms[number];
@@ -143,7 +145,7 @@ Texts joined(const Failure& failure,
     }
     const TypedOption cut(failure.argument);
     // No second "=" behind one that is there, and none between a letter and its value.
-    const bool isOpen = !cut.rest.empty() || (failure.isGluedBehindDash && cut.dashes == "-");
+    const bool isOpen = !cut.rest.empty() || (failure.isGluedBehindDash && cut.hasOneDash());
     return {filled("{}{}{}", {failure.argument, isOpen ? "" : "=", failure.value})};
 }
 

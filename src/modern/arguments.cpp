@@ -16,7 +16,9 @@ bool isAtArgument(CommandLine line, int index) {
 }
 
 bool isBundle(std::string_view argument) {
-    return argument.size() > 2 && argument[0] == '-' && argument[1] != '-';
+    const std::size_t dash = leadingDashLength(argument);
+    argument.remove_prefix(dash);
+    return dash != 0 && argument.size() > 1 && leadingDashLength(argument) == 0;
 }
 
 namespace {

@@ -160,7 +160,12 @@ std::string boundsText(const variant_t& least, const variant_t& greatest) {
     return messages::numberBetween(textOfNumber(least), textOfNumber(greatest));
 }
 
-Vocabulary* createVocabulary(const Tool& tool, int flags) { return new Vocabulary(tool, flags); }
+Vocabulary* createVocabulary(const Tool& tool, int flags) {
+    auto* const made = new Vocabulary(tool, flags);
+    // Whoever copies a misspelt option out of a document has misspelt it all the same.
+    made->plain().vocabulary().refuseEveryDash();
+    return made;
+}
 
 void releaseVocabulary(Vocabulary* vocabulary) noexcept { vocabulary->release(); }
 

@@ -1,6 +1,7 @@
 #include "modern/habits.h"
 
 #include "modern/messages.h"
+#include "text/cut_argument.h"
 #include "text/filled.h"
 #include "text/number_text.h"
 #include "zarn/typed/parser.h"
@@ -98,7 +99,7 @@ private:
         }
         // All of them or none: an argument of which only a part is taken could do anything.
         std::vector<Word> letters;
-        std::string_view rest = std::string_view(argument).substr(1);
+        std::string_view rest = std::string_view(argument).substr(leadingDashLength(argument));
         while (!rest.empty()) {
             const std::string_view letter = rest.substr(0, 1);
             const ItemRecord* const item = vocabulary_.find(letter);

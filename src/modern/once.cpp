@@ -46,11 +46,11 @@ void addGiven(const ItemRecord& item, StoredOutcome& outcome, std::vector<GivenV
     }
 }
 
-// Of the items that may be asked for one value.
+// Of the items that may be asked for one value, or share the variable of one that is.
 std::vector<GivenValue> allGiven(StoredOutcome& outcome) {
     std::vector<GivenValue> all;
     for (const auto& item : outcome.vocabulary().items()) {
-        if (item->isOnce || storesConstant(*item)) {
+        if (item->isOnce || !item->takesMany()) {
             addGiven(*item, outcome, all);
         }
     }
@@ -122,9 +122,12 @@ std::string differing(StoredOutcome& outcome) {
     for (const GivenValue& given : all) {
         if (first == nullptr || given.key != first->key) {
             first = &given;
+            continue;
+        }
+        if (&given == first + 1) {  // most variables are given one value
             slot = slotOf(given, vocabulary);
-        } else if (slot.isOnce && given.origin == first->origin &&
-                   !isSame(*first, given, slot.reader)) {
+        }
+        if (slot.isOnce && given.origin == first->origin && !isSame(*first, given, slot.reader)) {
             return told(*first, given, outcome.vocabulary().plain().failure());
         }
     }

@@ -1,6 +1,8 @@
 #include "modern/parse_watch.h"
 
 #include <algorithm>
+#include <cstdlib>
+#include <cstring>
 #include <new>
 #include <utility>
 
@@ -30,11 +32,15 @@ private:
     const ItemRecord& item_;
 };
 
-// Whether a text that is no number of its type looks like one, and so is beyond its bounds.
-bool looksLikeNumber(std::string_view text) {
-    text.remove_prefix(text.find_first_not_of("+-") == 1 ? 1 : 0);
-    return !text.empty() && text[0] >= '0' && text[0] <= '9' &&
-           text.find_first_not_of("0123456789.e+-") == std::string_view::npos;
+// Whether what stands here, up to a quote, looks like a number of this type, though it is none: it
+// is then beyond its bounds.
+bool looksLikeNumber(const char* text, das_variant_type_t type) {
+    text += std::strspn(text, "+-") == 1 ? 1 : 0;
+    const char* const marks = type == vtDouble ? "0123456789.eE+-" : "0123456789";
+    const char* const end = text + std::strspn(text, marks);
+    char* read = nullptr;
+    std::strtod(text, &read);
+    return end != text && read == end && *end == '\'';
 }
 
 }  // namespace
@@ -127,10 +133,9 @@ std::string ParseWatch::explained(std::string message) const {
     const std::size_t first = name + beforeName.size();
     const ItemRecord* const item =
         vocabulary_.find(std::string_view(message).substr(first, end - first));
-    const std::string_view value = std::string_view(message).substr(end + beforeValue.size());
+    const char* const value = message.c_str() + end + beforeValue.size();
     // A word is told that a number is wanted; a number that does not fit, which ones do.
-    if (item != nullptr && item->isBounded() &&
-        looksLikeNumber(value.substr(0, value.find('\'')))) {
+    if (item != nullptr && item->isBounded() && looksLikeNumber(value, item->type)) {
         message.pop_back();  // its full stop
         return messages::withReason(message, item->boundsText());
     }

@@ -82,6 +82,11 @@ public:
     // The character at which the items declared from now on cut their values.
     void setSeparator(char c) { separator = c; }
 
+    // Has flagPositionalWithoutDash speak of all the dashes that introduce options. By itself it
+    // speaks of the hyphen alone, as tools have known it.
+    void refuseEveryDash() { isEveryDashRefused_ = true; }
+    bool isEveryDashRefused() const { return isEveryDashRefused_; }
+
     const OptionList& items() const { return options; }
 
     // The first of those that were refused, in order, each once.
@@ -126,6 +131,7 @@ private:
     [[gnu::cold]] void note(Refusal&& refusal);
 
     char separator = ',';
+    bool isEveryDashRefused_ = false;
     OptionList options;
     internal::TextArena descriptions_;
     SectionList sections;

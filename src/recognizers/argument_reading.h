@@ -84,7 +84,8 @@ inline bool isNoValue(const std::string& next) { return !next.empty() && next.fr
     // Without the flag every argument is taken that is no option: the recogniser of options, which
     // is asked as well, takes precedence.
     const bool isRefused =
-        (flags & flagPositionalWithoutDash) != 0 && !argument.empty() && argument[0] == '-';
+        (flags & flagPositionalWithoutDash) != 0 && !argument.empty() &&
+        (argument[0] == '-' || (registry.isEveryDashRefused() && leadingDashLength(argument) != 0));
     return !isRefused && registry.firstPositional() != NameIndex::none;
 }
 

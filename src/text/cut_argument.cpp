@@ -32,6 +32,8 @@ std::size_t longDashLength(std::string_view text) {
     return 0;
 }
 
+}  // namespace
+
 std::size_t leadingDashLength(std::string_view text) {
     if (text.empty()) {
         return 0;
@@ -41,6 +43,8 @@ std::size_t leadingDashLength(std::string_view text) {
     }
     return text[0] == longDashLead ? longDashLength(text) : 0;
 }
+
+namespace {
 
 // Two leading dashes at most are taken off, a third belongs to the name.
 std::string_view withoutDashes(std::string_view argument) {

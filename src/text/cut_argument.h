@@ -15,6 +15,9 @@ namespace zarn_3_3 {
 // Throws std::out_of_range when `pos` lies behind the end.
 std::size_t getDashLength(const std::string& text, std::size_t pos);
 
+// That of the dash in front.
+std::size_t leadingDashLength(std::string_view text);
+
 // Cuts an argument into its name, without leading dashes, and an attached value; both point into
 // it. Whether a value is attached; without one `*value` is left as it was.
 bool splitOptionValue(const std::string& argument,

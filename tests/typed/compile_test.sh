@@ -58,6 +58,7 @@ a constant of the type of its variable|int i; zarn::option("x", "").stores(i, "x
 a switch has no value to check|zarn::option("x", "").check([](int) { return true; }, "");
 a check keeps no state|zarn::option<int>("x", "").check([n = 0](int) mutable { return ++n < 3; }, "");
 a check of the command line is called without|zarn::Parser().check([](int) { return true; }, "");
+a check without a reason returns one|zarn::Parser().check([] { return true; });
 a positional item takes values|zarn::positional<bool>("x", "");
 a check is called with a value|zarn::option<int>("x", "").check([](std::string) { return true; }, "");
 nodiscard|zarn::Parser().parse(0, nullptr);'

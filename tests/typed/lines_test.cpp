@@ -213,7 +213,7 @@ TEST(Rules, AreAskedBehindTheParse) {
              option<int>("left", "").byDefault(1),
              option<int>("right", "")});
         parser.exactlyOne({"quiet", "verbose"});
-        parser.atMostOne({"size", "level"});
+        parser.atMostOne({"size", "level", "file"});
         parser.together({"left", "right"});
         parser.needs("pack", {"file", "ratio"});
     };
@@ -227,12 +227,15 @@ TEST(Rules, AreAskedBehindTheParse) {
              "Option '--quiet' does not go with option '--verbose'|"                                             },
             {{"--list", "--deep", "--must=1", "-v", "-s=1", "-l=1"},
              "Option '--size' does not go with option '--level'|"                                                },
+            {{"--list", "--deep", "--must=1", "-v", "-s=1", "a"},
+             "Option '--size' does not go with argument 'FILE'|"                                                 },
             {{"--list", "--deep", "--must=1", "-v", "--right=1"},
              "Option '--right' requires option '--left'|"                                                        },
             {{"-p", "--deep", "--must=1", "-v", "--ratio=1"},
              "Action '--pack' requires argument 'FILE'|"                                                         },
             {{"-p", "--deep", "--must=1", "-v", "--ratio=1", "a"},   "verbosity=1 ratio=1 file=a "               },
-            {{"--must=1", "-v"},                                     "No action defined.|"                       },
+            {{"-s=1", "a"},                                          "No action defined.|"                       },
+            {{"--list", "--deep", "-s=1"},                           "Option '--must' is required|"              },
             {{"--about", "-v"},                                      "verbosity=1 "                              },
     },
         0,

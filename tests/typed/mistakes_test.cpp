@@ -47,6 +47,13 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
         {[](Parser& p) {
              p.declare({option<int>("a", "").allow({1, 2}).byDefault(3)});
          },                                                                       "'a': its default is refused: it is not among its allowed values"},
+        {[](Parser& p) {
+             static Mode mode;
+             mode = static_cast<Mode>(7);
+             p.declare({option<Mode>("a", "").into(mode).byDefault()});
+         },                                                                       "'a': its default is refused: it is not among its allowed values"},
+        {[](Parser& p) { p.declare({option<unsigned>("a", "").atLeast(-3)}); },
+         "'a': a number of its declaration does not fit: it must be between 0 and 4294967295"                                                               },
         {[](Parser& p) { p.declare({option<int>("a", "").between(1, 2).byDefault(3)}); },
          "'a': its default is refused: it must be between 1 and 2"                                                                                          },
         {[](Parser& p) { p.declare({option<int>("a", "").between(2, 1)}); },

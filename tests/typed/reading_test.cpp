@@ -170,6 +170,27 @@ TEST(Conversions, OfQuantitiesAndCharactersAreExact) {
     EXPECT_STREQ(internal::unitOf(7), "");
 }
 
+// Of what is no number at all the range has nothing to say.
+TEST(Conversions, TellTheRangeOfNumbersAlone) {
+    const struct {
+        std::string (*read)(const char* text);
+        const char* text;
+        const char* type;
+    } rows[] = {
+        {readAs<int>,    "1.5",    "integer"},
+        {readAs<int>,    "1e3",    "integer"},
+        {readAs<int>,    "1-2",    "integer"},
+        {readAs<double>, "1.2.3",  "double" },
+        {readAs<double>, "1-2",    "double" },
+        {readAs<double>, "1e999x", "double" },
+    };
+    for (const auto& row : rows) {
+        EXPECT_EQ(row.read(row.text),
+                  std::string("Option 'x' can not parse '") + row.text +
+                      "' value, requires a type '" + row.type + "' here.");
+    }
+}
+
 class Reading : public testing::Test {
 protected:
     Reading() {

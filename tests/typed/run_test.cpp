@@ -161,11 +161,13 @@ TEST(RunOf, AToolSuggestsWhatItsHabitsTake) {
         Line line;
         const char* suggestion;
     } rows[] = {
-        {unixHabits,              {"-filf=x"},      "-file=x"  },
-        {unixHabits | shortNames, {"-filf=x"},      "--file=x" },
-        {unixHabits | shortNames, {"-t", "-x"},     "-t-x"     },
-        {shortNames,              {"-t", "-x"},     "-t=-x"    },
-        {unixHabits | shortNames, {"--text", "-x"}, "--text=-x"},
+        {unixHabits,              {"-filf=x"},       "-file=x"           },
+        {unixHabits | shortNames, {"-filf=x"},       "--file=x"          },
+        {unixHabits | shortNames, {"\u2013filf=x"},  "\u2013\u2013file=x"},
+        {unixHabits | shortNames, {"\u2013t", "-x"}, "\u2013t-x"         },
+        {unixHabits | shortNames, {"-t", "-x"},      "-t-x"              },
+        {shortNames,              {"-t", "-x"},      "-t=-x"             },
+        {unixHabits | shortNames, {"--text", "-x"},  "--text=-x"         },
     };
     for (const auto& row : rows) {
         Parser parser;

@@ -47,6 +47,9 @@ void declareSorting(Parser& parser, Sorting& sorting) {
     });
     parser.check([&sorting] { return sorting.order != Order::random || sorting.depth < 9; },
                  "what is shuffled is not that deep");
+    parser.check([&sorting] {
+        return sorting.jobs < 9 ? "" : std::to_string(sorting.jobs) + " jobs are too many";
+    });
 }
 
 struct SortingRow {
@@ -72,9 +75,17 @@ TEST(Shapes, OfOptionsBeyondOneValueEach) {
         {{"-d4n"},
          unixHabits,                                            "plain never 3 Value validation problem in argument '-d4n': Option "
          "'depth' can not parse '4n' value, requires a type 'integer' here."                                       },
+        {{"-n", "--jobs=8"},           0,                       "numeric never 3"                                                      },
+        {{"-n", "--jobs=9"},           0,                       "plain never 3 9 jobs are too many"                                    },
         {{"-d4", "-c"},                unixHabits,              "plain always 4"                                                       },
         {{"-R", "-d"},                 0,                       "plain never 3 what is shuffled is not that deep"                      },
         {{"-R", "-d", "--about"},      0,                       "random never 9"                                                       },
+        {{"\u2013nu"},                 unixHabits,              "numeric never 3"                                                      },
+        {{"\u2014d4", "\u2013ra"},     unixHabits,              "random never 4"                                                       },
+        {{"\u2013nt=", "-R"},          unixHabits | shortNames, "random never 3 ="                                                     },
+        {{"\u2013ra"},                 unixHabits | shortNames, "plain never 3 Unknown option: \u2013ra"                               },
+        {{"\u2013nz"},                 unixHabits,              "plain never 3 Unknown option: \u2013nz"                               },
+        {{"\u2013z"},                  0,                       "plain never 3 Unknown option: \u2013z"                                },
         {{"-nu"},                      unixHabits,              "numeric never 3"                                                      },
         {{"-nu"},                      unixHabits | shortNames, "numeric never 3"                                                      },
         {{"-un"},                      unixHabits | shortNames, "numeric never 3"                                                      },
@@ -126,6 +137,7 @@ struct Single {
     Bytes size;
     bool color = false;
     int way = 0;
+    std::string mark;
 };
 
 void declareSingle(Parser& parser, Single& single) {
@@ -137,6 +149,8 @@ void declareSingle(Parser& parser, Single& single) {
         option<bool>("color", "").into(single.color).once(),
         option("up", "").stores(single.way, 1).once(),
         option("down", "").stores(single.way, 2),
+        option("dot", "").stores(single.mark, ".").once(),
+        option<std::string>("mark", "").into(single.mark),
         option<std::string>("name", "").once(),
         option<int>("any", ""),
         option("about", "").alone(),
@@ -163,6 +177,10 @@ TEST(Shapes, OfWhatTakesOneValueHoweverOften) {
         {{"--color", "--no-color"},                  "Option '--color' takes one value, not '1' and '0'"     },
         {{"--up", "--up"},                           ""                                                      },
         {{"--down", "--up"},                         "Option '--down' does not go with option '--up'"        },
+        {{"--dot", "--mark=."},                      ""                                                      },
+        {{"--dot", "--mark=x"},                      "Option '--dot' does not go with option '--mark'"       },
+        {{"--mark=x", "--dot"},                      "Option '--mark' does not go with option '--dot'"       },
+        {{"--mark=x", "--mark=y"},                   "Option '--mark' takes one value, not 'x' and 'y'"      },
         {{"--name=a", "--name=a"},                   ""                                                      },
         {{"--name=a", "--name=b"},                   "Option '--name' takes one value, not 'a' and 'b'"      },
         {{"--any=1", "--any=2"},                     ""                                                      },

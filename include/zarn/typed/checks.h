@@ -75,6 +75,21 @@ private:
     std::string reason_;
 };
 
+// That finder() has nothing to say.
+template <typename Finder>
+class FindsNoneInLine final : public Check {
+public:
+    explicit FindsNoneInLine(Finder finder) : finder_(std::move(finder)) {}
+
+    bool holds(const Value& /*value*/, std::string& reason) const override {
+        reason = finder_();
+        return reason.empty();
+    }
+
+private:
+    Finder finder_;
+};
+
 // That the text is the path of an existing file, or folder. What a link leads to counts.
 class Exists final : public Check {
 public:

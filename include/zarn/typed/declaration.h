@@ -195,7 +195,7 @@ public:
         }
     }
 
-    // Refuses values below the bound.
+    // Refuses values below the bound. A number that does not fit the type is a mistake.
     template <typename U>
     Declaration&& atLeast(const U& least) && {
         const T low = bound(least);
@@ -265,9 +265,9 @@ public:
     }
 
     // Refuses different values for its variable, of the item and of those that share the variable,
-    // of all of which it is then true. The same value may be given again. What counts less, as an
-    // option file beside the command line, is not compared. Without into and stores it is the item
-    // alone that is compared.
+    // of all of which it is then true, whichever of them it is said of. The same value may be given
+    // again. What counts less, as an option file beside the command line, is not compared. Without
+    // into and stores it is the item alone that is compared.
     Declaration&& once() && noexcept {
         description_->isOnce = true;
         return std::move(*this);

@@ -9,6 +9,7 @@
 #include <new>
 #include <optional>
 #include <string>
+#include <type_traits>
 #include <utility>
 #include <vector>
 
@@ -21,8 +22,9 @@
 namespace zarn_3_3 {
 
 // What most tools with file names want: an argument that nothing declared takes is an error; a
-// positional argument does not begin with a dash, so that a misspelt option is not taken for one,
-// but behind "--" it may; the paths of option files hold commas.
+// positional argument does not begin with a dash (of a Parser with any of those that introduce
+// options, not the hyphen alone), so that a misspelt option is not taken for one, but behind "--"
+// it may; the paths of option files hold commas.
 constexpr int usualFlags = flagUnknownIsError | flagPositionalWithoutDash |
                            flagPositionalBehindTerminator | flagValuesStayWhole;
 
@@ -124,6 +126,21 @@ public:
             internal::addLineCheck(
                 vocabulary_.get(),
                 new internal::HoldsForLine<Predicate>(std::move(predicate), std::move(reason)));
+        }
+    }
+
+    // The same with a reason that is made: finder() answers a text, what is wrong, which is empty
+    // where nothing is.
+    //
+    //     parser.check([&] { return isThere(a) ? "" : a + ": it is not there"; });
+    template <typename Finder,
+              typename = std::enable_if_t<!std::is_convertible_v<Finder, const char*>>>
+    void check(Finder finder) {
+        constexpr bool isFinder = std::is_invocable_r_v<std::string, const Finder&>;
+        static_assert(isFinder, "a check without a reason returns one, called without arguments");
+        if constexpr (isFinder) {
+            internal::addLineCheck(vocabulary_.get(),
+                                   new internal::FindsNoneInLine<Finder>(std::move(finder)));
         }
     }
 

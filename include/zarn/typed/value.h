@@ -93,6 +93,11 @@ template <typename T>
 variant_t plainValue(const T& value) {
     if constexpr (std::is_same_v<T, std::string_view>) {
         return variant_t(std::string(value));
+    } else if constexpr (isNamed<T>) {
+        // A value outside of its table has no name, and an empty text would be no setting at all:
+        // this is one, which the item refuses.
+        const std::string name = Conversion<T>::write(value);
+        return variant_t(name.empty() ? std::string("?") : name);
     } else if constexpr (isConverted<T>) {
         return variant_t(std::string(Conversion<T>::write(value)));
     } else if constexpr (isNumber<T>) {

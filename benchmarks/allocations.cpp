@@ -101,4 +101,7 @@ void operator delete(void* pointer) noexcept {
 
 void operator delete(void* pointer, std::size_t) noexcept { operator delete(pointer); }
 
-int main() { zarn_benchmarks::countAll(1000000); }
+// As many arguments as asked for.
+int main(int argc, char** argv) {
+    zarn_benchmarks::countAll(argc > 1 ? std::strtoul(argv[1], nullptr, 10) : 1000000);
+}

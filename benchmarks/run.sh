@@ -46,13 +46,25 @@ beside_peers() {
     cat "$1/RESULTS.md"
 }
 
+# Whether it still builds and runs: on the library that the tests use, without optimising, and far too
+# short to measure anything.
+smoke() {
+    {
+        cmake -S "$root" --preset dev -DZARN_BUILD_BENCHMARKS=ON
+        cmake --build "$root/build/dev" --target timings allocations
+    } >&2
+    "$root/build/dev/benchmarks/allocations" 1000
+    "$root/build/dev/benchmarks/timings" --benchmark_filter="-/[0-9]{4,}/" --benchmark_min_time=0
+}
+
 # A quick run is smaller, and leaves its results in the build directory.
 case ${1-} in
     "") beside_peers "$here" . 5 3 200 ;;
     --quick) beside_peers "$build" "-(/1000000/|/10000/(argp|CLI11|TCLAP|Boost)/)" 3 1 50 ;;
+    --smoke) smoke ;;
     --against) against "${2:?of which revision?}" "${@:3}" ;;
     *)
-        echo "Usage: ./dev bench [--quick | --against REVISION [--help | OPTIONS] [ROWS]]" >&2
+        echo "Usage: ./dev bench [--quick | --smoke | --against REVISION [--help | OPTIONS] [ROWS]]" >&2
         exit 2
         ;;
 esac

@@ -10,10 +10,6 @@ namespace {
 
 constexpr std::u32string_view marks = U"\\`*_[]<>&|~$#";
 
-bool isOneOf(char32_t character, std::u32string_view set) {
-    return set.find(character) != std::u32string_view::npos;
-}
-
 // Running text, with blanks and line ends collapsed.
 std::string prose(std::string_view text) {
     std::string written;

@@ -18,10 +18,6 @@ constexpr std::size_t longestMacro = 3;
 
 constexpr const char* nothing = "\\&";
 
-bool isOneOf(char32_t character, std::u32string_view set) {
-    return set.find(character) != std::u32string_view::npos;
-}
-
 bool isDelimiter(char character) {
     return std::string_view(".,:;?!()[]| ").find(character) != std::string_view::npos;
 }

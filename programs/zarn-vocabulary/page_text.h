@@ -12,6 +12,10 @@ namespace vocabulary {
 // The characters of a text in UTF-8. A byte that is part of none is U+FFFD.
 std::u32string decoded(std::string_view text);
 
+inline bool isOneOf(char32_t character, std::u32string_view set) {
+    return set.find(character) != std::u32string_view::npos;
+}
+
 void appendEncoded(std::string& text, char32_t character);
 
 // The characters, with control characters written as "\x1b".

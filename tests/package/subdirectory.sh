@@ -12,9 +12,9 @@ compiler=$2
 # PROGRAMS says whether zarn-vocabulary is built.
 installed_into() {
     quietly cmake -S "$here/subdirectory" -B "$build_dir" -DCMAKE_CXX_COMPILER="$compiler" \
-        -DCMAKE_CXX_FLAGS=-O0 -DBUILD_SHARED_LIBS=OFF -DCMAKE_INSTALL_PREFIX="$work/first" \
-        -DCMAKE_INSTALL_LIBDIR="$1" -DCMAKE_INSTALL_INCLUDEDIR="$2" \
-        -DZARN_BUILD_PROGRAMS="$4" -Dbaseline="$work/baseline.json"
+        -DCMAKE_CXX_FLAGS=-O0 -DCMAKE_UNITY_BUILD=ON -DBUILD_SHARED_LIBS=OFF \
+        -DCMAKE_INSTALL_PREFIX="$work/first" -DCMAKE_INSTALL_LIBDIR="$1" \
+        -DCMAKE_INSTALL_INCLUDEDIR="$2" -DZARN_BUILD_PROGRAMS="$4" -Dbaseline="$work/baseline.json"
     cp "$work/log" "$work/configured"
     quietly cmake --build "$build_dir"
     quietly cmake --install "$build_dir" --prefix "$3"

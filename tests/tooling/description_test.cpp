@@ -186,7 +186,7 @@ const CharacterRow characters[] = {
     {"",                 0},
     {"a",                1},
     {"\x80",             0},
-    {"\xC3\xA9",         2},
+    {"\xC2\x80",         2}, // the first that takes two
     {"\xC1\xBF",         0}, // 7F in two bytes
     {"\xE2\x82\xAC",     3},
     {"\xE2\x82",         0},

@@ -389,10 +389,16 @@ TEST(Diagnoses, TellOfACheckOfTheLine) {
 
 TEST(Diagnoses, TellOfValuesThatDiffer) {
     Parser parser;
-    parser.declare({option<int>("level", "").once()});
+    int way = 0;
+    parser.declare({option<int>("level", "").once(),
+                    option("up", "").stores(way, 1).once(),
+                    option("down", "").stores(way, 2)});
     const char* const argv[] = {"tool", "--level=1", "--level=2"};
     EXPECT_EQ(parser.parse(3, argv).code(), resultRuleBroken);
     EXPECT_EQ(told(*parser.operator->()), "32 2 level=2");
+    const char* const both[] = {"tool", "--down", "--up"};
+    EXPECT_EQ(parser.parse(3, both).code(), resultRuleBroken);
+    EXPECT_EQ(told(*parser.operator->()), "29 2 down=up");
 }
 
 TEST(Diagnoses, TellOfOneArgumentTooMany) {

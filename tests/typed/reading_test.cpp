@@ -105,6 +105,11 @@ TEST(Conversions, HoldWhatTheirTypesHold) {
         EXPECT_EQ(width.read(width.tooSmall), range) << width.tooSmall;
         EXPECT_EQ(width.read(width.tooGreat), range) << width.tooGreat;
     }
+    // Read as the greatest number: "at most 8" would confuse who has written -1.
+    Parser parser;
+    parser.declare({option<unsigned>("x", "").atMost(8)});
+    EXPECT_THAT(std::string(parse(parser, {"-x=-1"}).text()),
+                testing::EndsWith("it must be between 0 and 8"));
 }
 
 TEST(Conversions, OfQuantitiesAndCharactersAreExact) {

@@ -135,7 +135,10 @@ private:
         const void* pointer;  // shared kinds: just behind the header of the data
     };
 
-    friend variant_t ownedText(std::string_view text);  // inside the library
+    // Inside the library.
+    friend class SharedTexts;
+    friend variant_t ownedText(std::string_view text);
+    friend const char* heldText(const variant_t& value) noexcept;
 
     variant_t(das_variant_type_t type, const void* pointer) noexcept;
 

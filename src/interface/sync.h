@@ -30,15 +30,20 @@ inline void sync_inc(std::atomic<std::int32_t>& count) noexcept {
     }
 }
 
-// Returns the new count. At zero, everything that the other owners did has happened before.
-inline std::int32_t sync_dec(std::atomic<std::int32_t>& count) noexcept {
-    // A last owner is alone too, and nobody else can become one.
+// Takes away as many owners as the caller stands for, and returns the new count. At zero,
+// everything that the other owners did has happened before.
+inline std::int32_t sync_sub(std::atomic<std::int32_t>& count, std::int32_t owners) noexcept {
+    // Who stands for all that are left is alone too, and nobody else can become an owner.
     const std::int32_t before = count.load(std::memory_order_acquire);
-    if (before == 1 || isSingleThreaded()) {
-        count.store(before - 1, std::memory_order_relaxed);
-        return before - 1;
+    if (before == owners || isSingleThreaded()) {
+        count.store(before - owners, std::memory_order_relaxed);
+        return before - owners;
     }
-    return count.fetch_sub(1, std::memory_order_acq_rel) - 1;
+    return count.fetch_sub(owners, std::memory_order_acq_rel) - owners;
+}
+
+inline std::int32_t sync_dec(std::atomic<std::int32_t>& count) noexcept {
+    return sync_sub(count, 1);
 }
 
 }  // namespace plinth2

@@ -23,7 +23,7 @@ void* allocateData(std::size_t size, std::size_t capacity) {
         throw std::bad_alloc();
     }
     void* const block = ::operator new(sizeof(DataHeader) + capacity);
-    return new (block) DataHeader{size, {1}} + 1;
+    return new (block) DataHeader{size, {1}, 0} + 1;
 }
 
 // A null text becomes a block of size 0; it has a terminator all the same, so that it can be read.
@@ -61,8 +61,7 @@ void releaseData(const void* data) noexcept {
     }
     DataHeader* const header = headerOf(data);
     if (header != nullptr && sync_dec(header->owners) == 0) {
-        header->~DataHeader();
-        ::operator delete(header);
+        freeData(header);
     }
 }
 

@@ -17,14 +17,14 @@ void StoredOutcome::addOccurrences(const char* name, std::map<int, Occurrence>& 
         return;
     }
     std::map<int, Occurrence> found;
-    for (const int position : entry->positions) {
+    for (std::size_t i = 0; i < entry->occurrences(); ++i) {
+        const int position = entry->occurrence(i);
         found.emplace(position, Occurrence{name, position, {}});
     }
-    for (const StoredValue& value : entry->values) {
-        const auto owner = found.upper_bound(value.position);
+    for (std::size_t i = 0; i < entry->size(); ++i) {
+        const auto owner = found.upper_bound(entry->positionOf(i));
         if (owner != found.begin()) {
-            std::prev(owner)->second.values.push_back(
-                item.replaced({value.text, value.value, value.position}));
+            std::prev(owner)->second.values.push_back(item.replaced((*entry)[i]));
         }
     }
     occurrences.merge(found);

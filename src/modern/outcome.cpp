@@ -19,23 +19,22 @@ void StoredOutcome::end(int resultCode, std::string message) {
 
 int StoredOutcome::Values::positionOf(std::size_t index) const {
     const std::size_t at = begin + index;
-    return entry->values.empty() ? entry->positions[at] : entry->values[at].position;
+    return entry->size() == 0 ? entry->occurrence(at) : entry->positionOf(at);
 }
 
 Value StoredOutcome::Values::operator[](std::size_t index) const {
     // An occurrence of a switch: found, and true when it is read as a bool.
-    if (entry->values.empty()) {
+    if (entry->size() == 0) {
         return {nullptr, variant_t(), positionOf(index)};
     }
-    const StoredValue& value = entry->values[begin + index];
-    return {value.text, value.value, value.position};
+    return (*entry)[begin + index];
 }
 
 StoredOutcome::Values StoredOutcome::valuesOf(const StoredOption* entry) {
     if (entry == nullptr) {
         return {};
     }
-    return {entry, 0, entry->values.empty() ? entry->positions.size() : entry->values.size()};
+    return {entry, 0, entry->size() == 0 ? entry->occurrences() : entry->size()};
 }
 
 StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin) const {

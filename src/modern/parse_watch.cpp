@@ -108,7 +108,7 @@ ParseWatch::Session::Session(ParseWatch& watch,
     // A text that is parsed into a result goes on with the places behind those that are taken.
     const StoredOption* const given =
         positionals.empty() ? nullptr : result.find(positionals[0]->primaryName());
-    watch.parse_.positionalCount = given == nullptr ? 0 : given->values.size();
+    watch.parse_.positionalCount = given == nullptr ? 0 : given->size();
 }
 
 std::string ParseWatch::explained(std::string message) const {

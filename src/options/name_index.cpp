@@ -2,6 +2,8 @@
 
 #include <string>
 
+#include "text/make_room.h"
+
 namespace zarn_3_3::internal {
 
 void NameIndex::catchUp(const OptionList& options) {
@@ -41,6 +43,7 @@ void NameIndex::add(const OptionDescription& item, std::uint32_t itemIndex, std:
 NameIndex::Entry& NameIndex::findOrAdd(std::string_view form, std::uint32_t itemIndex) {
     const std::uint32_t number = texts_.keep(form);
     if (number == entries_.size()) {  // new, or kept when there was no memory for its entry
+        makeRoom(entries_, entries_.size() + 1, 16);
         entries_.push_back({itemIndex, noItem});
     }
     return entries_[number];

@@ -11,6 +11,8 @@
 #include <string_view>
 #include <vector>
 
+#include "interface/shared_texts.h"
+#include "options/name_list.h"
 #include "text/status.h"
 #include "text/text_locale.h"
 #include "zarn/option.h"
@@ -29,7 +31,7 @@ class OptionDescription final : public IOption {
 public:
     result_t result = resultSuccess;
     std::uint32_t section = 0;       // index of its pair in the registry's sections
-    std::vector<std::string> names;  // the primary name first; without dashes
+    internal::NameList names;        // the primary name first; without dashes
     std::set<std::string> tags;      // what ties modifiers to actions
     std::string_view description;    // kept by the registry
     bool isPositional = false;
@@ -65,17 +67,21 @@ public:
     // The primary name; empty for an item without names.
     const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 
-    // Whether `text` is a value of the item: converts it into `converted`, checks it against the
+    // Whether `text` is a value of the item: converts it into `converted`, which is vtNull, checks it against the
     // allowed values and completes an abbreviated one: `text` then points into `converted`.
     // noFailure; or what is wrong, with its text in `error`, and `text` is as it was. Warns of a
-    // deprecated value on the error stream.
+    // deprecated value on the error stream. Values that are texts are kept in `texts`.
     DiagnosticKind validate(std::string_view& text,
                             variant_t& converted,
                             std::string& error,
-                            internal::TextLocale locale) const;
+                            internal::TextLocale locale,
+                            plinth2::SharedTexts& texts) const;
 
-    // `text` as a value of the declared type; vtNull when it is none.
-    variant_t fromString(std::string_view text, internal::TextLocale locale) const;
+    // Sets `converted`, which is vtNull, to `text` as a value of the declared type, if it is one.
+    void fromString(std::string_view text,
+                    variant_t& converted,
+                    internal::TextLocale locale,
+                    plinth2::SharedTexts& texts) const;
 
     // The text of `value`, read as the declared type.
     std::string toString(const variant_t& value) const;

@@ -8,6 +8,7 @@
 #include <vector>
 
 #include "options/option_description.h"
+#include "text/make_room.h"
 
 namespace zarn_3_3 {
 
@@ -31,6 +32,7 @@ public:
     // Throws std::bad_alloc and changes nothing then.
     OptionDescription& add() {
         if (count_ == blocks_.size() * ofBlock) {
+            internal::makeRoom(blocks_, blocks_.size() + 1, 16);
             blocks_.push_back(std::make_unique<OptionDescription[]>(ofBlock));
         }
         last_ = &blocks_[count_ / ofBlock][count_ % ofBlock];

@@ -70,14 +70,14 @@ IOption& RegisteredOptionStorage::modifier(const char* names,
 IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     // Kept: a declaration that is refused opens its section, and help shows it without items.
     const std::uint32_t section = sections.findOrAdd(given.section);
-    std::vector<std::string> nameList;
+    GivenNames nameList;
     split(given.names, nameList);
     if (validateName(nameList) != resultSuccess) {
         return nameList.size() > mostNames
                    ? refused(RefusalReason::tooManyNames, given.names)
-                   : refused(RefusalReason::longThirdName, given.names, nameList.back());
+                   : refused(RefusalReason::longThirdName, given.names, nameList[2]);
     }
-    if (const std::string* const taken = findTaken(nameList)) {
+    if (const std::string_view* const taken = findTaken(nameList)) {
         // Whoever declares has no code to look at, only a handle.
         trace(messages::nameIsTaken, given.names);
         return refused(RefusalReason::nameTaken, given.names, *taken);
@@ -85,10 +85,10 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     // The handle of the item before ends here: whether that became positional is known now, and
     // nobody looks at it again.
     firstPositional();
-    // What can fail comes first, on an item that is taken back then. Behind it nothing does: names
-    // are moved, and numbers set.
+    // What can fail comes first, on an item that is taken back then. Behind it nothing does.
     OptionDescription& item = options.add();
     try {
+        split(given.names, item.names);
         item.description = descriptions_.keep(given.description);
         split(given.actionNames, item.tags);
         // The tags of an action are its names: that is how its modifiers name it.
@@ -100,7 +100,6 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
         throw;
     }
     item.section = section;
-    item.names = std::move(nameList);
     item.kind = given.isAction ? kindAction : kindOption;
     item.type = given.type;
     item.tokenizer = separator;
@@ -109,16 +108,15 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
 }
 
 // As a name or as the "no-" form of a boolean.
-const std::string* RegisteredOptionStorage::findTaken(
-    const std::vector<std::string>& nameList) const {
-    const auto taken =
-        std::find_if(nameList.begin(), nameList.end(), [this](const std::string& name) {
+const std::string_view* RegisteredOptionStorage::findTaken(const GivenNames& nameList) const {
+    const auto* const taken =
+        std::find_if(nameList.begin(), nameList.end(), [this](std::string_view name) {
             return names().first(name) != NameIndex::none;
         });
-    return taken != nameList.end() ? &*taken : nullptr;
+    return taken != nameList.end() ? taken : nullptr;
 }
 
-result_t validateName(const std::vector<std::string>& names) {
+result_t validateName(const GivenNames& names) {
     const bool isRefused = names.size() > mostNames ||
                            (names.size() == mostNames && names[2].size() > longestThirdName);
     return isRefused ? resultFailure : resultSuccess;

@@ -124,7 +124,7 @@ private:
 
     std::string_view helpName(std::size_t number, std::string HelpNames::*which) const;
     IOption& declare(const Declaration& given);
-    const std::string* findTaken(const std::vector<std::string>& nameList) const;
+    const std::string_view* findTaken(const internal::GivenNames& nameList) const;
     [[gnu::cold]] IOption& refused(RefusalReason reason,
                                    std::string_view names,
                                    std::string_view name = {}) noexcept;
@@ -145,7 +145,7 @@ private:
 
 // Refuses (resultFailure) four names and more, and three of which the third has more than two
 // characters.
-result_t validateName(const std::vector<std::string>& names);
+result_t validateName(const internal::GivenNames& names);
 
 // The first item that has the name, or is a boolean of which it is the "no-" form: its index in
 // `index`, or resultFailure.

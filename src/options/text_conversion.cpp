@@ -6,7 +6,6 @@
 #include <type_traits>
 #include <utility>
 
-#include "interface/owned_text.h"
 #include "options/option_description.h"
 #include "text/number_text.h"
 
@@ -19,7 +18,8 @@ using namespace internal;
 struct OperationFromString {
     std::string_view text;
     TextLocale locale;
-    variant_t result;
+    plinth2::SharedTexts& texts;
+    variant_t& result;
 
     template <typename T>
     void execute() {
@@ -42,7 +42,7 @@ void OperationFromString::execute<unsigned long long>() {
 
 template <>
 void OperationFromString::execute<const char*>() {
-    result = plinth2::ownedText(text);
+    result = texts.keep(text);
 }
 
 // Writes a value read as the type that execute is called with, whatever its own kind.
@@ -139,10 +139,12 @@ void executeAs(das_variant_type_t type, Operation& operation) {
 
 }  // namespace
 
-variant_t OptionDescription::fromString(std::string_view text, TextLocale locale) const {
-    OperationFromString operation{text, locale, {}};
+void OptionDescription::fromString(std::string_view text,
+                                   variant_t& converted,
+                                   TextLocale locale,
+                                   plinth2::SharedTexts& texts) const {
+    OperationFromString operation{text, locale, texts, converted};
     executeAs(type, operation);
-    return std::move(operation.result);
 }
 
 std::string OptionDescription::toString(const variant_t& value) const {

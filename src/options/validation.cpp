@@ -84,8 +84,9 @@ void warnIfDeprecated(const OptionDescription& option,
 DiagnosticKind OptionDescription::validate(std::string_view& text,
                                            variant_t& converted,
                                            std::string& error,
-                                           internal::TextLocale locale) const {
-    converted = fromString(text, locale);
+                                           TextLocale locale,
+                                           plinth2::SharedTexts& texts) const {
+    fromString(text, converted, locale, texts);
     if (converted.type() == vtNull) {
         error = messages::notOfItsType(primaryName(), text, getTypeName());
         return valueOfOtherType;

@@ -138,7 +138,7 @@ private:
     int checkModifiers(const std::vector<GivenItem>& given) {
         for (const GivenItem& one : given) {
             const OptionDescription& item = *one.item;
-            if (item.isModifier() && !one.entry->positions.empty() &&
+            if (item.isModifier() && one.entry->occurrences() != 0 &&
                 !isIntersected(item.tags, actions_)) {
                 const std::string& name = item.primaryName();
                 const std::string& action = firstAction_->primaryName();

@@ -32,13 +32,11 @@ CommandLineArguments::CommandLineArguments(int argc, const char* const* argv) {
     end_ = argv + argc;
 }
 
-bool CommandLineArguments::next(std::string& argument) {
+bool CommandLineArguments::peek(std::string_view& argument) {
     if (at_ == end_ || *at_ == nullptr) {
         return false;
     }
-    // Into the memory of the argument before, mostly: no allocation for each.
     argument = *at_;
-    ++at_;
     return true;
 }
 
@@ -64,12 +62,11 @@ VectorArguments::~VectorArguments() {
     all_.erase(all_.begin(), all_.begin() + static_cast<std::ptrdiff_t>(taken));
 }
 
-bool VectorArguments::next(std::string& argument) {
+bool VectorArguments::peek(std::string_view& argument) {
     if (read_ == all_.size()) {
         return false;
     }
     argument = all_[read_];
-    ++read_;
     return true;
 }
 
@@ -82,7 +79,7 @@ Place VectorArguments::placeOf(std::size_t age) const {
 TextArguments::TextArguments(std::string_view text, Owner owner, std::string_view file)
     : rest_{text == "-1" ? "?" : text, 1}, owner_(owner), file_(file) {}
 
-bool TextArguments::next(std::string& argument) {
+bool TextArguments::peek(std::string_view& argument) {
     if (position_ == lines_.size()) {
         lines_.clear();
         position_ = 0;
@@ -93,10 +90,13 @@ bool TextArguments::next(std::string& argument) {
         }
     }
     argument = lines_[position_].argument;
+    return true;
+}
+
+void TextArguments::skip() {
     lineBefore_ = lastLine_;
     lastLine_ = lines_[position_].line;
     ++position_;
-    return true;
 }
 
 // From the first argument that was not given out yet. A text of the library's own is safe as it is.

@@ -20,7 +20,8 @@ public:
     CommandLineArguments(int argc, const char* const* argv);
 
 private:
-    bool next(std::string& argument) override;
+    bool peek(std::string_view& argument) override;
+    void skip() override { ++at_; }
     void copyRest() override;
     Place placeOf(std::size_t age) const override;
 
@@ -42,7 +43,8 @@ public:
     ~VectorArguments();
 
 private:
-    bool next(std::string& argument) override;
+    bool peek(std::string_view& argument) override;
+    void skip() override { ++read_; }
     void copyRest() override {}
     Place placeOf(std::size_t age) const override;
 
@@ -75,7 +77,8 @@ public:
     TextArguments(std::string_view read, Owner owner, std::string_view file = {});
 
 private:
-    bool next(std::string& argument) override;
+    bool peek(std::string_view& argument) override;
+    void skip() override;
     void copyRest() override;
     Place placeOf(std::size_t age) const override;
 

@@ -33,10 +33,10 @@ int OptionFileWalk::run() {
     // By index, and found anew each time: every file may add values.
     for (std::size_t i = 0;; ++i) {
         entry = result_.find(optionFileName);
-        if (entry == nullptr || i >= entry->values.size()) {
+        if (entry == nullptr || i >= entry->size()) {
             return resultOk;
         }
-        const int code = read(entry->values[i].text, valueNamedIn_[i]);
+        const int code = read(entry->textOf(i), valueNamedIn_[i]);
         if (code != resultOk) {
             return code;
         }
@@ -107,8 +107,8 @@ bool OptionFileWalk::isBeingRead(const TROV_2_18::system::FileIdentity& identity
 
 void OptionFileWalk::noteNewValues(std::size_t namedIn) {
     const StoredOption* const entry = result_.find(optionFileName);
-    if (entry != nullptr && entry->values.size() > valueNamedIn_.size()) {
-        valueNamedIn_.resize(entry->values.size(), namedIn);
+    if (entry != nullptr && entry->size() > valueNamedIn_.size()) {
+        valueNamedIn_.resize(entry->size(), namedIn);
     }
 }
 

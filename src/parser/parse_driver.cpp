@@ -30,6 +30,11 @@ void removeLogSwitch(Arguments& arguments) {
 
 }  // namespace
 
+struct ParseDriver::Recognizers {
+    PositionalOptionsParser positional;
+    AbbreviationParser abbreviation;
+};
+
 std::atomic<int> ParseDriver::depth_{0};
 
 ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
@@ -58,9 +63,12 @@ int ParseDriver::parseOptions(const std::string& terminator, Arguments& argument
     if (isObserved()) {
         arguments.secure();
     }
-    PositionalOptionsParser positional(audience_, arguments, flags_);
-    AbbreviationParser abbreviation(audience_, arguments);
-    const Recognizers recognizers{&positional, &abbreviation};
+    const Reach reach =
+        (flags_ & flagPositionalTakesRest) != 0 ? Reach::rest : Reach::plainOnes;
+    Recognizers recognizers{
+        {audience_, arguments, binding_, flags_, reach},
+        {audience_, arguments, binding_}
+    };
     std::size_t matched = 0;
     while (!arguments.isEmpty() && arguments.front() != terminator) {
         IArgumentParser* const taker = chooseRecognizer(recognizers, arguments);
@@ -75,23 +83,25 @@ int ParseDriver::parseOptions(const std::string& terminator, Arguments& argument
 }
 
 // Of those that take the argument in front, the one with the highest priority; null for none.
-IArgumentParser* ParseDriver::chooseRecognizer(const Recognizers& recognizers,
-                                               Arguments& arguments) {
+IArgumentParser* ParseDriver::chooseRecognizer(Recognizers& recognizers, Arguments& arguments) {
     std::string discarded;  // they are only asked
     IArgumentParser* chosen = nullptr;
     int highest = -99999999;
-    // All are asked, also when one has said yes: the log shows what each of them makes of an
-    // argument.
-    for (IArgumentParser* const recognizer : recognizers) {
-        if (recognizer->recognize(arguments.window(), registry_, discarded) != 0) {
-            continue;
+    // Each by its own type, which spares a look into its table: this runs for every argument.
+    const auto ask = [&](auto& recognizer) {
+        if (recognizer.recognize(arguments.window(), registry_, discarded) != 0) {
+            return;
         }
-        const int priority = recognizer->getPriority();
+        const int priority = recognizer.getPriority();
         if (priority > highest) {
-            chosen = recognizer;
+            chosen = &recognizer;
             highest = priority;
         }
-    }
+    };
+    // All are asked, also when one has said yes: the log shows what each of them makes of an
+    // argument.
+    ask(recognizers.positional);
+    ask(recognizers.abbreviation);
     return chosen;
 }
 
@@ -133,8 +143,8 @@ int ParseDriver::collectNonparsingArguments(const std::string& terminator, Argum
 // One argument at a time, which behind the terminator may begin with a dash. Each is a plain
 // argument first, and only then an occurrence: the result shows it in both ways.
 int ParseDriver::offerToPositional(Arguments& arguments) {
-    const int flags = flags_ & ~(flagPositionalWithoutDash | flagPositionalTakesRest);
-    PositionalOptionsParser positional(audience_, arguments, flags);
+    const int flags = flags_ & ~flagPositionalWithoutDash;
+    PositionalOptionsParser positional(audience_, arguments, binding_, flags, Reach::one);
     const int recognized = positional.recognize(arguments.window(), registry_, error_);
     trace(logPrefix, "recognize result: ", recognized, ", message: ", error_);
     if (recognized != 0) {

@@ -3,15 +3,14 @@
 #ifndef ZARN_PARSER_PARSE_DRIVER_H
 #define ZARN_PARSER_PARSE_DRIVER_H
 
-#include <array>
 #include <atomic>
 #include <string>
 
+#include "recognizers/argument_parser.h"
 #include "recognizers/audience.h"
 
 namespace zarn_3_3 {
 
-class IArgumentParser;
 class ParseResult;
 class RegisteredOptionStorage;
 
@@ -48,10 +47,10 @@ public:
     int collectNonparsingArguments(const std::string& terminator, Arguments& arguments);
 
 private:
-    using Recognizers = std::array<IArgumentParser*, 2>;
+    struct Recognizers;
 
     bool isObserved() const;
-    IArgumentParser* chooseRecognizer(const Recognizers& recognizers, Arguments& arguments);
+    IArgumentParser* chooseRecognizer(Recognizers& recognizers, Arguments& arguments);
     int passOver(Arguments& arguments);
     int offerToPositional(Arguments& arguments);
 
@@ -60,6 +59,7 @@ private:
     int flags_;
     ParseResult* result_;
     std::string& error_;
+    Binding binding_;
 
     static std::atomic<int> depth_;  // of the parse in progress
 };

@@ -17,8 +17,10 @@ namespace zarn_3_3 {
 // `parse` relies on what the `recognize` before it, on the same arguments, left here.
 class AbbreviationParser final : public IArgumentParser {
 public:
-    AbbreviationParser(const internal::Audience& audience, internal::Arguments& arguments)
-        : IArgumentParser("AbbreviationParser", audience, arguments) {}
+    AbbreviationParser(const internal::Audience& audience,
+                       internal::Arguments& arguments,
+                       internal::Binding& binding)
+        : IArgumentParser("AbbreviationParser", audience, arguments, binding) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,

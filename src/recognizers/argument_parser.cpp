@@ -9,7 +9,6 @@
 
 #include "recognizers/failure.h"
 #include "recognizers/messages.h"
-#include "result/option_data.h"
 #include "result/result_collector.h"
 #include "result/sequence.h"
 #include "zarn/event_handler.h"
@@ -20,16 +19,6 @@ namespace zarn_3_3 {
 using namespace internal;
 
 std::atomic<int>& IArgumentParser::m_idx = Sequence::next;
-
-IArgumentParser::IArgumentParser(std::string_view component,
-                                 const Audience& audience,
-                                 Arguments& arguments)
-    : name(component),
-      audience_(audience),
-      arguments_(arguments),
-      data_(std::make_unique<OptionData>()) {}
-
-IArgumentParser::~IArgumentParser() = default;
 
 std::string IArgumentParser::formatTokenMessage(std::string& token) {
     return messages::inArgument(token);
@@ -113,8 +102,9 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
                                             IResultCollector* collector) {
     // The number of the occurrence is drawn before those of its values: in the order of a result it
     // stands in front of them.
-    data_->positions.assign(1, Sequence::draw());
-    data_->values.clear();
+    OptionData& occurrence = binding_.occurrence;
+    occurrence.position = Sequence::draw();
+    occurrence.values.clear();
     if (!value.empty()) {
         trace(name, ": adding values to result container:");
         const int code = bindPieces(value, option, error);
@@ -126,9 +116,21 @@ int IArgumentParser::parseValueAndAddOption(std::string_view value,
     if (collector == nullptr) {
         throw std::invalid_argument("There is no result to store into");
     }
-    collector->store(option, *data_);
+    collector->store(option, occurrence);
     trace(name, ": stored option to result container.");
     return resultOk;
+}
+
+void IArgumentParser::storeText(std::string_view text,
+                                const OptionDescription& option,
+                                IResultCollector& collector) {
+    OptionData& occurrence = binding_.occurrence;
+    occurrence.position = Sequence::draw();
+    occurrence.values.clear();
+    OptionValue& value = occurrence.values.emplace_back();
+    value.value = binding_.texts.keep(text);
+    value.position = Sequence::draw();
+    collector.store(option, occurrence);
 }
 
 int IArgumentParser::bindPieces(std::string_view value,
@@ -162,7 +164,7 @@ int IArgumentParser::bindPieces(std::string_view value,
               ": sent event on value parsed, option: '",
               option.primaryName(),
               "', value: '",
-              data_->values.back().text,
+              binding_.occurrence.values.back().text,
               "'");
         start = end == std::string_view::npos ? end : value.find_first_not_of(separator, end);
     }
@@ -173,10 +175,11 @@ int IArgumentParser::bindPiece(std::string_view piece,
                                std::string_view value,
                                const OptionDescription& option,
                                std::string& error) {
-    OptionValue& bound = data_->values.emplace_back();
+    OptionValue& bound = binding_.occurrence.values.emplace_back();
     bound.text = piece;
     // What is wrong about the value is known to the item; which argument it stands in, only here.
-    const DiagnosticKind problem = option.validate(bound.text, bound.value, error, textLocale());
+    const DiagnosticKind problem = option.validate(
+        bound.text, bound.value, error, textLocale(), binding_.texts);
     if (problem != noFailure) {
         return refuse(
             problem, option, piece, messages::invalidValue(arguments_.front(), error), error);

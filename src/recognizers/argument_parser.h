@@ -5,22 +5,31 @@
 
 #include <atomic>
 #include <cstddef>
-#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
 
+#include "interface/shared_texts.h"
 #include "log/zarn_log.h"
 #include "options/registered_option_storage.h"
 #include "recognizers/arguments.h"
 #include "recognizers/audience.h"
+#include "result/option_data.h"
 #include "text/text_locale.h"
 
 namespace zarn_3_3 {
 
 class IResultCollector;
-struct OptionData;
-struct OptionValue;
+
+namespace internal {
+
+// What the recognisers of a parse share.
+struct Binding {
+    OptionData occurrence;  // in progress; kept for the next one, which then allocates nothing
+    plinth2::SharedTexts texts;  // of values
+};
+
+}  // namespace internal
 
 // Takes arguments from the front of those that it was made for. The vector `args`, with which the
 // driver calls, is their window: the argument in front is `args[0]`.
@@ -33,10 +42,12 @@ public:
     // `component` stands in front of every line of the log.
     IArgumentParser(std::string_view component,
                     const internal::Audience& audience,
-                    internal::Arguments& arguments);
+                    internal::Arguments& arguments,
+                    internal::Binding& binding)
+        : name(component), audience_(audience), arguments_(arguments), binding_(binding) {}
     IArgumentParser(const IArgumentParser&) = delete;
     IArgumentParser& operator=(const IArgumentParser&) = delete;
-    virtual ~IArgumentParser();
+    virtual ~IArgumentParser() = default;
 
     // Whether `parse` can take the argument in front: 0 for yes. Changes nothing in `args`.
     virtual int recognize(std::vector<std::string>& args,
@@ -73,6 +84,11 @@ protected:
                                std::string& error,
                                const OptionDescription& option,
                                IResultCollector* collector);
+
+    // What is left of that for one text that is known to be a value, and of which nobody hears.
+    [[gnu::noinline]] void storeText(std::string_view text,
+                   const OptionDescription& option,
+                   IResultCollector& collector);
 
     // Logs why the argument in front is refused, and makes it the error. `value`: what is wrong, or
     // empty.
@@ -129,9 +145,7 @@ private:
     bool isWelcome(const OptionValue& value, const std::string& option) const;
 
     internal::TextLocale initialLocale_ = internal::globalTextLocale();
-
-    // Of the occurrence in progress; kept for the next one, which then allocates nothing.
-    std::unique_ptr<OptionData> data_;
+    internal::Binding& binding_;
 };
 
 }  // namespace zarn_3_3

@@ -32,7 +32,7 @@ struct CutOption {
 [[gnu::always_inline]] inline bool cutOption(const std::string& argument,
                                              TextLocale locale,
                                              CutOption& cut) {
-    if (argument.size() < 2 || getDashLength(argument, 0) == 0) {
+    if (argument.size() < 2 || !mayBeDash(argument[0]) || getDashLength(argument, 0) == 0) {
         return false;
     }
     cut.value = {};

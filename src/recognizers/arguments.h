@@ -60,6 +60,17 @@ public:
         }
     }
 
+    // Takes the argument in front, and those behind it as long as wanted(text) does: without the
+    // copy that standing in front costs.
+    template <typename Wanted>
+    void takeWhile(Wanted wanted) {
+        std::string_view text;
+        while (window_.size() == 1 && peek(text) && wanted(text)) {
+            skip();
+        }
+        take();
+    }
+
     // The one or two arguments that are looked at, as recognisers are called with them.
     std::vector<std::string>& window() { return window_; }
 
@@ -73,13 +84,25 @@ protected:
     ~Arguments() = default;
 
 private:
-    // Puts the next argument into `argument`; false when there is none left.
-    virtual bool next(std::string& argument) = 0;
+    // The argument behind those that were given out; false when there is none left.
+    virtual bool peek(std::string_view& argument) = 0;
+    virtual void skip() = 0;
 
     virtual void copyRest() = 0;
 
     // `age` is 1 for the argument that was given out last, 2 for the one before.
     virtual Place placeOf(std::size_t age) const = 0;
+
+    // Into the memory of the argument before, mostly: no allocation for each.
+    bool next(std::string& argument) {
+        std::string_view text;
+        if (!peek(text)) {
+            return false;
+        }
+        argument = text;
+        skip();
+        return true;
+    }
 
     bool lookAhead() {
         std::string argument;

@@ -11,14 +11,20 @@
 
 namespace zarn_3_3 {
 
-// With flagPositionalTakesRest `parse` does not stop after one argument: it goes on until there is
-// none left.
+// How far `parse` goes: it takes one argument; at least one, and of those behind it what can be no
+// option; or all that are left.
+enum class Reach { one, plainOnes, rest };
+
 class PositionalOptionsParser final : public IArgumentParser {
 public:
     PositionalOptionsParser(const internal::Audience& audience,
                             internal::Arguments& arguments,
-                            int flags)
-        : IArgumentParser("PositionalOptionsParser", audience, arguments), flags_(flags) {}
+                            internal::Binding& binding,
+                            int flags,
+                            Reach reach)
+        : IArgumentParser("PositionalOptionsParser", audience, arguments, binding),
+          flags_(flags),
+          reach_(reach) {}
 
     int recognize(std::vector<std::string>& args,
                   RegisteredOptionStorage& registry,
@@ -32,8 +38,11 @@ private:
     int bind(const OptionDescription& option,
              IResultCollector* collector,
              std::string& error) override;
+    bool isSimple(const OptionDescription& option) const;
+    void takeSimpleOnes(const OptionDescription& option, IResultCollector& collector);
 
     int flags_;
+    Reach reach_;
     const OptionDescription* firstItem_ = nullptr;  // which the log and the handlers are told of
 };
 

@@ -1,14 +1,16 @@
-// How a result is filled. How it is read: result_queries.cpp.
+// How a result is filled. How entries begin: entry_beginnings.cpp. How it is read:
+// result_queries.cpp.
 
 #include "result/parse_result.h"
 
 #include <algorithm>
-#include <iterator>
+#include <stdexcept>
 #include <utility>
 
 #include "options/option_description.h"
 #include "result/option_data.h"
 #include "result/sequence.h"
+#include "text/make_room.h"
 
 namespace zarn_3_3 {
 
@@ -16,25 +18,9 @@ using namespace internal;
 
 namespace {
 
-// Makes room as push_back would, so that adding `count` elements cannot fail.
-template <typename Element>
-void makeRoom(std::vector<Element>& elements, std::size_t count) {
-    const std::size_t needed = elements.size() + count;
-    if (needed > elements.capacity()) {
-        elements.reserve(std::max(needed, 2 * elements.capacity()));
-    }
-}
-
-// Whether the elements from `first` on follow the one before them, and each other, in the order of
-// their numbers.
-template <typename Element>
-bool isAscendingFrom(const std::vector<Element>& elements, std::size_t first) {
-    const std::size_t begin = first > 0 ? first - 1 : 0;
-    return std::is_sorted(
-        elements.begin() + static_cast<std::ptrdiff_t>(begin),
-        elements.end(),
-        [](const Element& a, const Element& b) { return numberOf(a) < numberOf(b); });
-}
+// Kept: the names once stood in a vector, and tools have seen what that says.
+constexpr const char* noFirstName =
+    "vector::_M_range_check: __n (which is 0) >= this->size() (which is 0)";
 
 }  // namespace
 
@@ -62,47 +48,27 @@ bool ParseResult::isFromFile(int position) const {
     });
 }
 
-int ParseResult::store(const OptionDescription& option, const OptionData& data) {
+int ParseResult::store(const OptionDescription& option, OptionData& data) {
     // The primary name decides for all of them whether this is the first occurrence.
-    const std::size_t primary = findStored(option.names.at(0));
-    if (primary == none) {
-        for (const std::string& name : option.names) {
-            replace(name, data);
+    if (option.names.empty()) {
+        throw std::out_of_range(noFirstName);
+    }
+    const std::size_t primary = findStored(option.names.front());
+    for (OptionValue& value : data.values) {
+        if (heldText(value.value) == nullptr) {
+            value.text = {texts_.keep(value.text), value.text.size()};
         }
-        return 0;
     }
-    append(options[primary], data);
-    for (std::size_t i = 1; i < option.names.size(); ++i) {
-        append(findOrAdd(option.names[i]), data);
-    }
-    return 0;
-}
-
-void ParseResult::applyDefault(const OptionList& items) {
-    for (std::size_t i = 0; i < items.size(); ++i) {
-        const OptionDescription& item = items[i];
-        // A switch has no value that could be its default.
-        if (item.type == vtNull || !item.hasDefault) {
+    for (std::size_t i = 0; i < option.names.size(); ++i) {
+        const bool isLast = i + 1 == option.names.size();
+        if (primary == none) {
+            replace(option.names[i], data, isLast);
             continue;
         }
-        const char* const text = keptDefault(item);
-        for (const std::string& name : item.names) {
-            // Each name has a number of its own. It is drawn first: when there is none left, no
-            // entry is made.
-            const int position = Sequence::draw();
-            StoredOption& entry = findOrAdd(name);
-            entry.defaultText = text;
-            entry.defaultVariant = item.defaultVal;
-            entry.defaultPosition = position;
-        }
+        StoredOption& entry = i == 0 ? options[primary] : findOrAdd(option.names[i]);
+        entry.store(data, isLast);
     }
-}
-
-// The text of the default, which a parse into the same result before may have kept.
-const char* ParseResult::keptDefault(const OptionDescription& item) {
-    const std::string text = item.getDefaultValueAsText();
-    const StoredOption* const entry = find(item.primaryName());
-    return entry != nullptr && text == entry->defaultText ? entry->defaultText : texts_.keep(text);
+    return 0;
 }
 
 void ParseResult::storeArgument(std::string_view argument) {
@@ -131,49 +97,12 @@ std::size_t ParseResult::findIndex(std::string_view name) const {
 
 StoredOption& ParseResult::findOrAdd(std::string_view name) {
     // Room first, so that there is no name without its entry.
-    makeRoom(options, 1);
+    makeRoom(options, options.size() + 1, 8);
     const std::uint32_t number = names_.keep(name);
     if (number == options.size()) {
         options.emplace_back().name = names_[number];
     }
     return options[number];
-}
-
-// Adds all of `data`, or nothing.
-void ParseResult::append(StoredOption& entry, const OptionData& data) {
-    const std::size_t valuesBefore = entry.values.size();
-    const std::size_t positionsBefore = entry.positions.size();
-    try {
-        for (const OptionValue& value : data.values) {
-            entry.values.emplace_back(value.value, textOf(value), value.position);
-        }
-        entry.positions.insert(entry.positions.end(), data.positions.begin(), data.positions.end());
-    } catch (...) {
-        entry.values.erase(entry.values.begin() + static_cast<std::ptrdiff_t>(valuesBefore),
-                           entry.values.end());
-        throw;
-    }
-    entry.isAscending = entry.isAscending && isAscendingFrom(entry.positions, positionsBefore) &&
-                        isAscendingFrom(entry.values, valuesBefore);
-}
-
-// The first occurrence of an option makes its entries anew, whatever another item with the same
-// synonym, or a default, left there.
-void ParseResult::replace(std::string_view name, const OptionData& data) {
-    StoredOption fresh;
-    // Complete before the old entry is touched: what cannot be stored changes nothing.
-    append(fresh, data);
-    StoredOption& entry = findOrAdd(name);
-    makeRoom(replaced_, entry.values.size());
-    std::move(entry.values.begin(), entry.values.end(), std::back_inserter(replaced_));
-    fresh.name = entry.name;
-    entry = std::move(fresh);
-}
-
-// A value that holds the text itself lends it: most texts are then kept once.
-const char* ParseResult::textOf(const OptionValue& value) {
-    const char* const held = plinth2::get_variant_value(value.value, nullptr);
-    return held != nullptr ? held : texts_.keep(value.text);
 }
 
 }  // namespace zarn_3_3

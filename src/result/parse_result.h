@@ -19,7 +19,6 @@
 namespace zarn_3_3 {
 
 struct OptionData;
-struct OptionValue;
 
 // Holds one entry for each name that was stored: an option with synonyms has one under each of its
 // names.
@@ -42,7 +41,7 @@ public:
 
     ~ParseResult() override = default;
 
-    int store(const OptionDescription& option, const OptionData& data) override;
+    int store(const OptionDescription& option, OptionData& data) override;
 
     // Records the default of every item that has one under each of its names. Throws what drawing a
     // number and memory throw; what was recorded by then stays.
@@ -83,14 +82,11 @@ private:
     std::size_t findIndex(std::string_view name) const;
     std::size_t findStored(std::string_view name);
     internal::StoredOption& findOrAdd(std::string_view name);
-    void append(internal::StoredOption& entry, const OptionData& data);
-    void replace(std::string_view name, const OptionData& data);
-    const char* textOf(const OptionValue& value);
+    void replace(std::string_view name, OptionData& data, bool isGivenAway);
     const char* keptDefault(const OptionDescription& item);
 
     const internal::StoredOption* selected() const;
     Value select(const char* name, int from, int to, Wanted wanted);
-    Value step();
     Value stepOccurrence(const internal::StoredOption& entry);
     Value stepValue(const internal::StoredOption& entry);
 
@@ -112,7 +108,7 @@ private:
     std::vector<std::pair<int, int>> fileNumbers_;
 
     // What a clash of synonyms replaced: its texts may have been handed out.
-    std::vector<internal::StoredValue> replaced_;
+    std::vector<std::vector<internal::PlacedValue>> replaced_;
 };
 
 }  // namespace zarn_3_3

@@ -10,9 +10,10 @@ struct OptionData;
 
 class IResultCollector {
 public:
-    // Records one occurrence of `option`. Always 0. Throws std::out_of_range for an option without
-    // names, and std::bad_alloc: the names written by then stay written.
-    virtual int store(const OptionDescription& option, const OptionData& data) = 0;
+    // Records one occurrence of `option`, and takes the values out of `data`. Always 0. Throws
+    // std::out_of_range for an option without names, and std::bad_alloc: the names written by then
+    // stay written.
+    virtual int store(const OptionDescription& option, OptionData& data) = 0;
 
 protected:
     ~IResultCollector() = default;

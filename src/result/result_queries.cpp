@@ -10,32 +10,59 @@ using namespace internal;
 
 namespace {
 
-// The index of the first element, from `cursor` on, whose number is not below `from`.
-template <typename Element>
-std::size_t skipBelow(const std::vector<Element>& elements,
+// The index of the first of `count` elements, from `cursor` on, whose number is not below `from`.
+template <typename NumberAt>
+std::size_t skipBelow(std::size_t count,
                       std::size_t cursor,
                       int from,
-                      bool isAscending) {
-    const auto isBelow = [from](const Element& element) { return numberOf(element) < from; };
-    if (cursor >= elements.size() || !isBelow(elements[cursor])) {
-        return std::min(cursor, elements.size());  // as nearly always when a walk goes on
+                      bool isAscending,
+                      NumberAt numberAt) {
+    if (!isAscending) {
+        while (cursor < count && numberAt(cursor) < from) {
+            ++cursor;
+        }
     }
-    const auto start = elements.begin() + static_cast<std::ptrdiff_t>(cursor);
-    // A range may begin anywhere in a long list; halving finds it, where the order allows that.
-    const auto found = isAscending ? std::partition_point(start, elements.end(), isBelow)
-                                   : std::find_if_not(start, elements.end(), isBelow);
-    return static_cast<std::size_t>(found - elements.begin());
+    if (cursor >= count || numberAt(cursor) >= from) {
+        return std::min(cursor, count);  // as nearly always when a walk goes on
+    }
+    // A range may begin anywhere in a long list; halving finds it.
+    std::size_t end = count;
+    while (cursor != end) {
+        const std::size_t middle = cursor + (end - cursor) / 2;
+        if (numberAt(middle) < from) {
+            cursor = middle + 1;
+        } else {
+            end = middle;
+        }
+    }
+    return cursor;
+}
+
+std::size_t skipOccurrences(const StoredOption& entry, std::size_t cursor, int from) {
+    return skipBelow(entry.occurrences(),
+                     cursor,
+                     from,
+                     entry.isAscending(),
+                     [&](std::size_t index) { return entry.occurrence(index); });
+}
+
+std::size_t skipValues(const StoredOption& entry, std::size_t cursor, int from) {
+    return skipBelow(entry.size(), cursor, from, entry.isAscending(), [&](std::size_t index) {
+        return entry.positionOf(index);
+    });
 }
 
 // The index of the first occurrence p with from <= p < to, or the number of occurrences.
 std::size_t firstOccurrence(const StoredOption& entry, int from, int to) {
-    const std::vector<int>& positions = entry.positions;
-    std::size_t found = skipBelow(positions, 0, from, entry.isAscending);
+    const std::size_t count = entry.occurrences();
+    std::size_t found = 0;
+    if (count != 0 && entry.occurrence(0) < from) {
+        found = skipOccurrences(entry, 1, from);
+    }
     // The first one from `from` on may lie behind the range already. In ascending order so do all
     // that follow; otherwise one of them may still be inside.
-    while (found < positions.size() && positions[found] >= to) {
-        found = entry.isAscending ? positions.size()
-                                  : skipBelow(positions, found + 1, from, entry.isAscending);
+    while (found < count && entry.occurrence(found) >= to) {
+        found = entry.isAscending() ? count : skipOccurrences(entry, found + 1, from);
     }
     return found;
 }
@@ -62,14 +89,12 @@ Value ParseResult::get(const char* name, int from, int to) {
     return select(name, from, to, Wanted::value);
 }
 
-Value ParseResult::next(const char* /*name*/) { return step(); }
-
 int ParseResult::nextPosition() {
     const StoredOption* const entry = selected();
-    if (entry == nullptr || positionCursor >= entry->positions.size()) {
+    if (entry == nullptr || positionCursor >= entry->occurrences()) {
         return lastPosition;
     }
-    return entry->positions[positionCursor++];
+    return entry->occurrence(positionCursor++);
 }
 
 int ParseResult::getFirstArgument(const char** out) {
@@ -112,13 +137,14 @@ Value ParseResult::select(const char* name, int from, int to, Wanted wanted) {
         return defaultOf(*entry);
     }
     positionCursor = firstOccurrence(*entry, from, to);
-    if (positionCursor == entry->positions.size()) {
+    if (positionCursor == entry->occurrences()) {
         return {};
     }
-    return wanted == Wanted::value ? step() : Value(nullptr, {}, 0);
+    return wanted == Wanted::value ? ParseResult::next(name) : Value(nullptr, {}, 0);
 }
 
-Value ParseResult::step() {
+// The walk goes on under the name that was asked for last, whatever this one is.
+Value ParseResult::next(const char* /*name*/) {
     const StoredOption* const entry = selected();
     if (entry == nullptr) {
         return {};
@@ -132,25 +158,27 @@ Value ParseResult::step() {
         rangeFrom = 0;
         return defaultOf(*entry);
     }
-    return entry->values.empty() ? stepOccurrence(*entry) : stepValue(*entry);
+    return entry->size() == 0 ? stepOccurrence(*entry) : stepValue(*entry);
 }
 
 // Whatever the range: an option without values has only its occurrences to walk.
 Value ParseResult::stepOccurrence(const StoredOption& entry) {
-    if (positionCursor >= entry.positions.size()) {
+    if (positionCursor >= entry.occurrences()) {
         return {};
     }
-    return {nullptr, {}, entry.positions[positionCursor++]};
+    return {nullptr, {}, entry.occurrence(positionCursor++)};
 }
 
 // Values count up to and with the end of the range, occurrences without it; tools rely on both.
 Value ParseResult::stepValue(const StoredOption& entry) {
-    valueCursor = skipBelow(entry.values, valueCursor, rangeFrom, entry.isAscending);
-    if (valueCursor == entry.values.size() || entry.values[valueCursor].position > rangeTo) {
+    const std::size_t count = entry.size();
+    if (valueCursor >= count || entry.positionOf(valueCursor) < rangeFrom) {
+        valueCursor = skipValues(entry, valueCursor, rangeFrom);
+    }
+    if (valueCursor == count || entry.positionOf(valueCursor) > rangeTo) {
         return {};
     }
-    const StoredValue& value = entry.values[valueCursor++];
-    return {value.text, value.value, value.position};
+    return entry[valueCursor++];
 }
 
 }  // namespace zarn_3_3

@@ -20,10 +20,10 @@ constexpr std::array longDashes{
     TROV_2_18::utf32_to_utf8(U'\x2053'),  // swung dash
 };
 
-// With which all of them begin: one byte tells most arguments from dashes.
-constexpr char longDashLead = longDashes[0].view()[0];
+static_assert(longDashes.front().view()[0] == longDashLead &&
+              longDashes.back().view()[0] == longDashLead);
 
-std::size_t longDashLength(std::string_view text) {
+[[gnu::cold, gnu::noinline]] std::size_t longDashLength(std::string_view text) {
     for (const auto& dash : longDashes) {
         if (text.substr(0, dash.view().size()) == dash.view()) {
             return dash.view().size();

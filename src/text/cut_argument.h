@@ -11,6 +11,12 @@
 
 namespace zarn_3_3 {
 
+// With which all dashes other than the hyphen begin.
+constexpr char longDashLead = '\xE2';
+
+// One byte tells most arguments from dashes.
+constexpr bool mayBeDash(char first) { return first == '-' || first == longDashLead; }
+
 // The length in bytes of the dash that begins at byte `pos` of `text`: 1, 3, or 0 for no dash.
 // Throws std::out_of_range when `pos` lies behind the end.
 std::size_t getDashLength(const std::string& text, std::size_t pos);

@@ -1,5 +1,7 @@
 #include "text/kept_texts.h"
 
+#include "text/make_room.h"
+
 namespace zarn_3_3::internal {
 
 std::uint32_t KeptTexts::keep(std::string_view text) {
@@ -11,13 +13,8 @@ std::uint32_t KeptTexts::keep(std::string_view text) {
     // Everything that can fail comes before the table knows of the text. The arena comes last of
     // that: nothing can be given back to it.
     table_.makeRoom(1);
-    texts_.emplace_back();
-    try {
-        texts_.back() = {arena_.keep(text), text.size()};
-    } catch (...) {
-        texts_.pop_back();
-        throw;
-    }
+    makeRoom(texts_, texts_.size() + 1, 16);
+    texts_.emplace_back(arena_.keep(text), text.size());
     const auto number = static_cast<std::uint32_t>(texts_.size() - 1);
     table_.add(hash, number);
     return number;

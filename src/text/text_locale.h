@@ -5,8 +5,8 @@
 
 namespace zarn_3_3::internal {
 
-// White space of the classic locale, whatever locale is set.
-constexpr bool isClassicSpace(char c) { return c == ' ' || (c >= '\t' && c <= '\r'); }
+// White space of the classic locale, whatever locale is set. Letters are told from it at once.
+constexpr bool isClassicSpace(char c) { return c <= ' ' && (c == ' ' || (c >= '\t' && c <= '\r')); }
 
 // The global locale decides what is white space and how numbers are written. In the classic one,
 // which most processes never leave, texts are read without facets and streams.

@@ -1,6 +1,7 @@
 // Mistakes in the names of an item.
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <string>
 #include <string_view>
@@ -100,7 +101,7 @@ void checkTies(std::size_t number, const RegisteredOptionStorage& registry, Find
     std::set<std::string_view> seen{""};
     // "no-" forms tie where their names do, and are not told once more.
     for (auto first = item.names.begin(); first != item.names.end(); ++first) {
-        for (auto second = first + 1; second != item.names.end(); ++second) {
+        for (auto second = std::next(first); second != item.names.end(); ++second) {
             const std::string_view common = commonBeginning(*first, *second);
             if (seen.insert(common).second && isTie(number, common, registry)) {
                 findings.warning(

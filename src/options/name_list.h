@@ -49,7 +49,9 @@ public:
 
     bool empty() const { return !hasFirst_; }
     std::size_t size() const { return hasFirst_ ? 1 + others_.size() : 0; }
-    const std::string& operator[](std::size_t at) const { return at == 0 ? first_ : others_[at - 1]; }
+    const std::string& operator[](std::size_t at) const {
+        return at == 0 ? first_ : others_[at - 1];
+    }
     const std::string& front() const { return first_; }
     const std::string& back() const { return others_.empty() ? first_ : others_.back(); }
     Iterator begin() const { return {*this, 0}; }

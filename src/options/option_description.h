@@ -30,10 +30,10 @@ enum ItemKind : int {
 class OptionDescription final : public IOption {
 public:
     result_t result = resultSuccess;
-    std::uint32_t section = 0;       // index of its pair in the registry's sections
-    internal::NameList names;        // the primary name first; without dashes
-    std::set<std::string> tags;      // what ties modifiers to actions
-    std::string_view description;    // kept by the registry
+    std::uint32_t section = 0;     // index of its pair in the registry's sections
+    internal::NameList names;      // the primary name first; without dashes
+    std::set<std::string> tags;    // what ties modifiers to actions
+    std::string_view description;  // kept by the registry
     bool isPositional = false;
     bool hasDefault = false;
     bool isRequired = false;     // shown in usage lines; no parse looks at it
@@ -67,10 +67,10 @@ public:
     // The primary name; empty for an item without names.
     const std::string& primaryName() const { return names.empty() ? noName() : names.front(); }
 
-    // Whether `text` is a value of the item: converts it into `converted`, which is vtNull, checks it against the
-    // allowed values and completes an abbreviated one: `text` then points into `converted`.
-    // noFailure; or what is wrong, with its text in `error`, and `text` is as it was. Warns of a
-    // deprecated value on the error stream. Values that are texts are kept in `texts`.
+    // Whether `text` is a value of the item: converts it into `converted`, which is vtNull, checks
+    // it against the allowed values and completes an abbreviated one: `text` then points into
+    // `converted`. noFailure; or what is wrong, with its text in `error`, and `text` is as it was.
+    // Warns of a deprecated value on the error stream. Values that are texts are kept in `texts`.
     DiagnosticKind validate(std::string_view& text,
                             variant_t& converted,
                             std::string& error,

@@ -63,11 +63,10 @@ int ParseDriver::parseOptions(const std::string& terminator, Arguments& argument
     if (isObserved()) {
         arguments.secure();
     }
-    const Reach reach =
-        (flags_ & flagPositionalTakesRest) != 0 ? Reach::rest : Reach::plainOnes;
+    const Reach reach = (flags_ & flagPositionalTakesRest) != 0 ? Reach::rest : Reach::plainOnes;
     Recognizers recognizers{
         {audience_, arguments, binding_, flags_, reach},
-        {audience_, arguments, binding_}
+        {audience_,    arguments,             binding_            }
     };
     std::size_t matched = 0;
     while (!arguments.isEmpty() && arguments.front() != terminator) {

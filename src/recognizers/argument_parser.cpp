@@ -178,8 +178,8 @@ int IArgumentParser::bindPiece(std::string_view piece,
     OptionValue& bound = binding_.occurrence.values.emplace_back();
     bound.text = piece;
     // What is wrong about the value is known to the item; which argument it stands in, only here.
-    const DiagnosticKind problem = option.validate(
-        bound.text, bound.value, error, textLocale(), binding_.texts);
+    const DiagnosticKind problem =
+        option.validate(bound.text, bound.value, error, textLocale(), binding_.texts);
     if (problem != noFailure) {
         return refuse(
             problem, option, piece, messages::invalidValue(arguments_.front(), error), error);

@@ -25,7 +25,7 @@ namespace internal {
 
 // What the recognisers of a parse share.
 struct Binding {
-    OptionData occurrence;  // in progress; kept for the next one, which then allocates nothing
+    OptionData occurrence;       // in progress; kept for the next one, which then allocates nothing
     plinth2::SharedTexts texts;  // of values
 };
 
@@ -87,8 +87,8 @@ protected:
 
     // What is left of that for one text that is known to be a value, and of which nobody hears.
     [[gnu::noinline]] void storeText(std::string_view text,
-                   const OptionDescription& option,
-                   IResultCollector& collector);
+                                     const OptionDescription& option,
+                                     IResultCollector& collector);
 
     // Logs why the argument in front is refused, and makes it the error. `value`: what is wrong, or
     // empty.

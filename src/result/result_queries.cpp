@@ -12,11 +12,8 @@ namespace {
 
 // The index of the first of `count` elements, from `cursor` on, whose number is not below `from`.
 template <typename NumberAt>
-std::size_t skipBelow(std::size_t count,
-                      std::size_t cursor,
-                      int from,
-                      bool isAscending,
-                      NumberAt numberAt) {
+std::size_t skipBelow(
+    std::size_t count, std::size_t cursor, int from, bool isAscending, NumberAt numberAt) {
     if (!isAscending) {
         while (cursor < count && numberAt(cursor) < from) {
             ++cursor;
@@ -39,11 +36,10 @@ std::size_t skipBelow(std::size_t count,
 }
 
 std::size_t skipOccurrences(const StoredOption& entry, std::size_t cursor, int from) {
-    return skipBelow(entry.occurrences(),
-                     cursor,
-                     from,
-                     entry.isAscending(),
-                     [&](std::size_t index) { return entry.occurrence(index); });
+    return skipBelow(
+        entry.occurrences(), cursor, from, entry.isAscending(), [&](std::size_t index) {
+            return entry.occurrence(index);
+        });
 }
 
 std::size_t skipValues(const StoredOption& entry, std::size_t cursor, int from) {
@@ -55,10 +51,14 @@ std::size_t skipValues(const StoredOption& entry, std::size_t cursor, int from) 
 // The index of the first occurrence p with from <= p < to, or the number of occurrences.
 std::size_t firstOccurrence(const StoredOption& entry, int from, int to) {
     const std::size_t count = entry.occurrences();
-    std::size_t found = 0;
-    if (count != 0 && entry.occurrence(0) < from) {
-        found = skipOccurrences(entry, 1, from);
+    if (count == 0) {
+        return 0;
     }
+    const int first = entry.occurrence(0);
+    if (from <= first && first < to) {
+        return 0;  // as nearly always: the whole line is asked for
+    }
+    std::size_t found = skipOccurrences(entry, 0, from);
     // The first one from `from` on may lie behind the range already. In ascending order so do all
     // that follow; otherwise one of them may still be inside.
     while (found < count && entry.occurrence(found) >= to) {

@@ -69,7 +69,7 @@ public:
     void store(OptionData& data, bool isGivenAway) {
         // Of texts, which are what comes in large numbers, this is all.
         if (texts_.empty() && staysPaired(data) && heldText(data.values[0].value) != nullptr) {
-            makeRoom(values_, values_.size() + 1);
+            makeRoom(values_, values_.size() + 1, 4);
             addValue(data.values[0], isGivenAway);
             ++occurrences_;
         } else {

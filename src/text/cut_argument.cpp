@@ -54,14 +54,15 @@ std::string_view withoutDashes(std::string_view argument) {
 }
 
 // A template, so that the test for the classic locale, which costs little, is part of the loop.
-template <typename IsSpace>
+template <typename IsEnd, typename IsSpace>
 bool splitAt(const std::string& argument,
              std::string_view* name,
              std::string_view* value,
+             IsEnd isEnd,
              IsSpace isSpace) {
     const std::string_view rest = withoutDashes(argument);
     std::size_t end = 0;
-    while (end < rest.size() && rest[end] != '=' && !isSpace(rest[end])) {
+    while (end < rest.size() && !isEnd(rest[end])) {
         ++end;
     }
     *name = rest.substr(0, end);
@@ -94,14 +95,18 @@ bool splitOptionValue(const std::string& argument,
                       std::string_view* value,
                       internal::TextLocale locale) {
     if (locale == internal::TextLocale::classic) {
-        return splitAt(argument, name, value, internal::isClassicSpace);
+        // Most bytes of a name are behind both, and pass with one comparison.
+        const auto isEnd = [](char c) {
+            return c <= '=' && (c == '=' || internal::isClassicSpace(c));
+        };
+        return splitAt(argument, name, value, isEnd, internal::isClassicSpace);
     }
     // Held while its facet is used: another thread may set another one.
     const std::locale global;
     const auto& classes = std::use_facet<std::ctype<char>>(global);
-    return splitAt(argument, name, value, [&classes](char c) {
-        return classes.is(std::ctype_base::space, c);
-    });
+    const auto isSpace = [&classes](char c) { return classes.is(std::ctype_base::space, c); };
+    const auto isEnd = [&isSpace](char c) { return c == '=' || isSpace(c); };
+    return splitAt(argument, name, value, isEnd, isSpace);
 }
 
 }  // namespace zarn_3_3

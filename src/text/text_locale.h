@@ -5,7 +5,7 @@
 
 namespace zarn_3_3::internal {
 
-// White space of the classic locale, whatever locale is set. Letters are told from it at once.
+// White space of the classic locale, whatever locale is set. One comparison tells letters from it.
 constexpr bool isClassicSpace(char c) { return c <= ' ' && (c == ' ' || (c >= '\t' && c <= '\r')); }
 
 // The global locale decides what is white space and how numbers are written. In the classic one,

@@ -45,6 +45,7 @@ variant_t SharedTexts::keep(std::string_view text) {
 }
 
 void SharedTexts::open() {
+    // The new one first: without memory, the one that is open goes on as it was.
     const std::size_t size = size_ == 0 ? smallestBlock : largestBlock;
     auto* const opened = new (::operator new(size)) TextBlock{{mostTexts}};
     close();
@@ -55,6 +56,7 @@ void SharedTexts::open() {
 }
 
 void SharedTexts::close() noexcept {
+    // Of those that it stood for, what never came.
     if (block_ != nullptr) {
         releaseTexts(block_, mostTexts - texts_);
     }

@@ -141,6 +141,7 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::s
         argumentCount_ = 2;
         trace(name, ": got value from the next argument: '", cut_.value, "'");
     }
+    // Also when the next argument is there and empty: it was meant for a value, and is none.
     if (cut_.value.empty()) {
         return refuse(
             valueMissing,
@@ -155,6 +156,7 @@ int AbbreviationParser::takeNextArgument(const OptionDescription& option, std::s
 int AbbreviationParser::bind(const OptionDescription& option,
                              IResultCollector* collector,
                              std::string& error) {
+    // Before the value is looked at: handlers hear of the option also when that is refused.
     if (audience_.isThere()) {
         audience_.handler.onOptionParse(option.primaryName().c_str());
     }

@@ -7,6 +7,7 @@
 namespace zarn_3_3::internal {
 
 std::size_t placeIn(std::string_view whole, std::string_view part) {
+    // Texts of different objects have no other order that is defined.
     const std::less<> isBefore;
     const bool isInside = !isBefore(part.data(), whole.data()) &&
                           !isBefore(whole.data() + whole.size(), part.data() + part.size());
@@ -18,6 +19,7 @@ void FailureNote::make(DiagnosticKind kind,
                        std::string_view argument,
                        std::string_view option,
                        std::string_view value) noexcept {
+    // First of all: without memory for this one, the one before must not stand for it.
     failure_.reset();
     try {
         auto failure = std::make_unique<Failure>();

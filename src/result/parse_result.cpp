@@ -54,6 +54,7 @@ int ParseResult::store(const OptionDescription& option, OptionData& data) {
         throw std::out_of_range(noFirstName);
     }
     const std::size_t primary = findStored(option.names.front());
+    // Kept once, for the entries of all names; texts that values hold live as long as those.
     for (OptionValue& value : data.values) {
         if (heldText(value.value) == nullptr) {
             value.text = {texts_.keep(value.text), value.text.size()};

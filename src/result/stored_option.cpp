@@ -35,6 +35,7 @@ void StoredOption::addPosition(int position) noexcept {
 }
 
 void StoredOption::addText(const OptionValue& value) noexcept {
+    // The list begins with the first text that needs a place there; those before get an empty one.
     const bool isHeld = heldText(value.value) != nullptr;
     if (!isHeld || !texts_.empty()) {
         texts_.resize(values_.size());

@@ -158,13 +158,8 @@ void Vocabulary::requireFreeNames(const ItemRecord& item) const {
 void Vocabulary::requireFree(const ItemRecord& item, std::string_view form) const {
     const std::size_t index = indexOf(form);
     if (index != NameIndex::none) {
-        // One that was declared plainly may have no record yet.
-        const ItemRecord* const owner = recordAt(index);
-        mistake(item.names,
-                messages::nameTaken(form,
-                                    owner != nullptr
-                                        ? owner->allNames()
-                                        : plain_->vocabulary().items()[index].primaryName()));
+        // Those that were declared plainly have their records by now.
+        mistake(item.names, messages::nameTaken(form, recordAt(index)->allNames()));
     }
 }
 

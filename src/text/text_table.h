@@ -54,7 +54,7 @@ public:
         if (needed <= slots_.size()) {
             return;
         }
-        std::size_t size = slots_.empty() ? 16 : 2 * slots_.size();
+        std::size_t size = slots_.empty() ? 64 : 2 * slots_.size();
         while (size < needed) {
             size *= 2;
         }

@@ -32,6 +32,10 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
              p.readOptionFiles("");
              p.declare({option("option-file", "")});
          },                                                                       "'option-file': the name 'option-file' is taken by 'option-file'"},
+        {[](Parser& p) {
+             p->option("hush,plain", "", vtNull, "");
+             p.declare({option("plain", "")});
+         },                                                                       "'plain': the name 'plain' is taken by 'hush,plain'"             },
         {[](Parser& p) { p.declare({option("", "")}); },                                   "'': a name is empty"                                            },
         {[](Parser& p) { p.declare({option("a,", "")}); },                                 "'a,': a name is empty"                                          },
         {[](Parser& p) { p.declare({option("--level", "")}); },

@@ -47,10 +47,10 @@ def run(program):
 
 
 def library_bytes(library):
-    """Code and read-only data as `size` counts them, and code alone."""
-    sections = [line.split() for line in output_of("size", "-A", library).splitlines()]
-    code = next(fields[1] for fields in sections if fields[:1] == [".text"])
-    return {"text": int(output_of("size", library).splitlines()[1].split()[0]), "code": int(code)}
+    """Code and read-only data, without what the loader and exceptions need, and code alone."""
+    lines = [line.split() for line in output_of("size", "-A", library).splitlines()]
+    sizes = {fields[0]: int(fields[1]) for fields in lines if fields[:1] in ([".text"], [".rodata"])}
+    return {"text": sum(sizes.values()), "code": sizes[".text"]}
 
 
 def main():

@@ -79,6 +79,9 @@ class GivenNames {
 public:
     using value_type = std::string_view;
 
+    // A primary name, a synonym, and a short form of one or two letters.
+    static constexpr std::size_t most = 3;
+
     std::size_t size() const { return count_; }
     std::string_view operator[](std::size_t at) const { return views_[at]; }
     const std::string_view* begin() const { return views_.data(); }
@@ -93,7 +96,7 @@ public:
     }
 
 private:
-    std::array<std::string_view, 3> views_;
+    std::array<std::string_view, most> views_;
     std::size_t count_ = 0;
 };
 

@@ -14,8 +14,6 @@ using namespace internal;
 
 namespace {
 
-// A primary name, a synonym, and a short form of one or two letters.
-constexpr std::size_t mostNames = 3;
 constexpr std::size_t longestThirdName = 2;
 
 std::string_view orEmpty(const char* text) { return text == nullptr ? "" : text; }
@@ -73,7 +71,7 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     GivenNames nameList;
     split(given.names, nameList);
     if (validateName(nameList) != resultSuccess) {
-        return nameList.size() > mostNames
+        return nameList.size() > GivenNames::most
                    ? refused(RefusalReason::tooManyNames, given.names)
                    : refused(RefusalReason::longThirdName, given.names, nameList[2]);
     }
@@ -117,8 +115,8 @@ const std::string_view* RegisteredOptionStorage::findTaken(const GivenNames& nam
 }
 
 result_t validateName(const GivenNames& names) {
-    const bool isRefused = names.size() > mostNames ||
-                           (names.size() == mostNames && names[2].size() > longestThirdName);
+    const bool isRefused = names.size() > GivenNames::most ||
+                           (names.size() == GivenNames::most && names[2].size() > longestThirdName);
     return isRefused ? resultFailure : resultSuccess;
 }
 

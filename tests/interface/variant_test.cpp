@@ -4,10 +4,13 @@
 
 #include <cstring>
 #include <limits>
+#include <string>
 #include <string_view>
 #include <thread>
+#include <vector>
 
 #include "interface/compare.h"
+#include "interface/shared_texts.h"
 #include "support/assertion_double.h"
 
 namespace plinth2 {
@@ -123,6 +126,29 @@ TEST(Variant, KeepsSharedDataBehindItsSizeAndTheCountOfOwners) {
     EXPECT_EQ(headerOf(value).owners, 2U);
     std::thread([copy] { const variant_t another = copy; }).join();
     EXPECT_EQ(headerOf(value).owners, 2U);
+}
+
+// More than a block holds, some too long for one; who kept them is gone when they are dropped.
+TEST(Variant, OutlivesTheBlockThatItsTextShares) {
+    std::vector<variant_t> even;
+    std::vector<variant_t> odd;
+    const auto textOf = [](std::size_t i) { return std::string(i % 25 == 0 ? 2000 : i % 40, 'x'); };
+    {
+        SharedTexts texts;
+        for (std::size_t i = 0; i < 1000; ++i) {
+            (i % 2 == 0 ? even : odd).push_back(texts.keep(textOf(i) + std::string("\0y", 2)));
+        }
+    }
+    const std::vector<variant_t> copies = odd;
+    std::thread([&] { even.erase(even.begin() + 1, even.end()); }).join();
+    std::thread dropping([&] { odd.clear(); });
+    even.clear();
+    dropping.join();
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        EXPECT_EQ(copies[i].get<std::string>(), textOf(2 * i + 1));
+        EXPECT_EQ(headerOf(copies[i]).size, textOf(2 * i + 1).size() + 1);
+        EXPECT_EQ(headerOf(copies[i]).owners, 1U);
+    }
 }
 
 TEST(Variant, OrdersObjectsByTheirAddresses) {

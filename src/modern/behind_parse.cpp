@@ -155,6 +155,9 @@ bool isAloneGiven(const StoredOutcome& outcome) {
 }
 
 int readEnvironment(StoredOutcome& outcome, std::string& error) {
+    if (!outcome.vocabulary().demands().environment) {
+        return resultOk;
+    }
     for (const auto& item : outcome.vocabulary().items()) {
         if (const char* const text = variableFor(*item, outcome)) {
             const int code = takeVariable(*item, text, outcome, error);
@@ -167,6 +170,9 @@ int readEnvironment(StoredOutcome& outcome, std::string& error) {
 }
 
 int checkRequired(StoredOutcome& outcome, std::string& error) {
+    if (!outcome.vocabulary().demands().required) {
+        return resultOk;
+    }
     for (const auto& item : outcome.vocabulary().items()) {
         // A default or a variable will do: what is required is a value, from wherever.
         if (item->isRequired && outcome.origin(*item) == Origin::absent) {

@@ -1,9 +1,7 @@
 #include "modern/item_record.h"
 
 #include <algorithm>
-#include <array>
 #include <cstddef>
-#include <cstring>
 #include <limits>
 #include <new>
 
@@ -198,39 +196,6 @@ void release(Check* checks) noexcept {
         Check* const next = checks->next;
         delete checks;
         checks = next;
-    }
-}
-
-// Unlike the lists of the plain interface, with an empty piece behind a last comma.
-void requireNames(const ItemRecord& item) {
-    const auto refuse = [&](const std::string& what) { mistake(item.names, what); };
-    std::array<std::string_view, 3> names;
-    std::size_t count = 0;
-    for (const char* next = item.names; next != nullptr; ++count) {
-        if (count == names.size()) {
-            refuse(messages::tooManyNames);
-        }
-        const std::string_view name(next, std::strcspn(next, ",= \t\n\v\f\r"));
-        const char end = next[name.size()];
-        // The plain interface takes such names, and no command line ever reaches them.
-        if (*next == '-' || (end != ',' && end != '\0')) {
-            refuse(messages::nameUntypable(std::string_view(next, std::strcspn(next, ","))));
-        }
-        if (name.empty()) {
-            refuse(messages::nameEmpty);
-        }
-        // The plain interface looks at the names of other items only.
-        for (std::size_t i = 0; i < count; ++i) {
-            if (names[i] == name) {
-                refuse(messages::nameTwice(name));
-            }
-        }
-        names[count] = name;
-        next = end == ',' ? next + name.size() + 1 : nullptr;
-    }
-    // It would be refused there too, without a word.
-    if (names[2].size() > 2) {
-        refuse(messages::thirdNameLong(names[2]));
     }
 }
 

@@ -77,8 +77,7 @@ private:
 void append(Check*& checks, Check* check) noexcept;
 void release(Check* checks) noexcept;
 
-// Throw std::logic_error when the author has made a mistake in it, apart from the names of others.
-void requireNames(const ItemRecord& item);
+// Throws std::logic_error when the author has made a mistake in them.
 void requireSettings(const ItemRecord& item);
 
 // Why the item would refuse the setting, which has its type; empty when it would not.

@@ -1,12 +1,12 @@
 #include "modern/once.h"
 
-#include <algorithm>
 #include <functional>
 #include <memory>
 #include <tuple>
 #include <vector>
 
 #include "modern/messages.h"
+#include "modern/places.h"
 #include "text/heap_sort.h"
 
 namespace zarn_3_3::internal {
@@ -85,8 +85,10 @@ variant_t shown(const GivenValue& given, const ItemRecord* reader) {
     if (storesConstant(*given.item)) {
         return kind.current(given.item->extras().constant.value);
     }
-    const std::unique_ptr<void, decltype(kind.release)> made(
-        kind.make({&given.value, 1, given.value, nullptr}), kind.release);
+    Places places(Places::unitsOf(kind));
+    void* const place = places.take(kind);
+    kind.make(place, {&given.value, 1, given.value, nullptr});
+    const std::unique_ptr<void, decltype(kind.destroy)> made(place, kind.destroy);
     return kind.current(made.get());
 }
 
@@ -112,8 +114,7 @@ std::string told(const GivenValue& one, const GivenValue& other, FailureNote& no
 
 std::string differing(StoredOutcome& outcome) {
     const Vocabulary& vocabulary = outcome.vocabulary();
-    const auto& items = vocabulary.items();
-    if (std::none_of(items.begin(), items.end(), [](const auto& item) { return item->isOnce; })) {
+    if (!vocabulary.demands().once) {
         return "";
     }
     const std::vector<GivenValue> all = allGiven(outcome);

@@ -47,10 +47,7 @@ bool looksLikeNumber(const char* text, das_variant_type_t type) {
 
 bool ParseWatch::isNeeded() const {
     // Every handler makes the plain parser copy what it could otherwise read in place.
-    const auto& items = vocabulary_.items();
-    return routesPositionals() || std::any_of(items.begin(), items.end(), [](const auto& item) {
-               return item->isChecked();
-           });
+    return routesPositionals() || vocabulary_.demands().checks;
 }
 
 bool ParseWatch::accepts(const ItemRecord& item, const Value& value) {

@@ -37,6 +37,7 @@ void Vocabulary::settle() {
     }
     for (; settledItems_ < items_.size(); ++settledItems_) {
         requireActions(*items_[settledItems_]);
+        addDemands(*items_[settledItems_]);
     }
     for (; settledRules_ < rules_.size(); ++settledRules_) {
         settle(rules_[settledRules_]);
@@ -64,6 +65,13 @@ void Vocabulary::takeInPlainItems() {
         item->isPlain = true;
         items_.push_back(std::move(item));
     }
+}
+
+void Vocabulary::addDemands(const ItemRecord& item) {
+    demands_.checks = demands_.checks || item.isChecked();
+    demands_.environment = demands_.environment || *item.extras().environment != '\0';
+    demands_.required = demands_.required || item.isRequired;
+    demands_.once = demands_.once || item.isOnce;
 }
 
 void Vocabulary::requireActions(const ItemRecord& item) const {

@@ -17,8 +17,6 @@ namespace {
 
 constexpr std::size_t usualItems = 32;
 
-const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
-
 }  // namespace
 
 Vocabulary::Vocabulary(const Tool& tool, int flags)
@@ -30,29 +28,6 @@ void Vocabulary::release() noexcept {
     if (--owners_ == 0) {
         delete this;
     }
-}
-
-ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
-    // The face has promised that the item is taken, also when one of the next lines throws.
-    std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
-    item->names = orEmpty(item->names);
-    item->actions = orEmpty(item->actions);
-    item->description = orEmpty(item->description);
-    item->shownName = orEmpty(item->shownName);
-    showVariable(*item);
-    requireNames(*item);
-    requireSettings(*item);
-    takeInPlainItems();
-    // Before the plain declaration, which cannot be taken back.
-    items_.push_back(std::move(item));
-    try {
-        requireSameActions(*items_.back());
-        declarePlainly(section, *items_.back());
-    } catch (...) {
-        items_.pop_back();
-        throw;
-    }
-    return *items_.back();
 }
 
 // As its default.
@@ -72,61 +47,6 @@ void Vocabulary::showVariable(ItemRecord& item) const {
     if (item.showsTarget || (shown.type() != vtNull && whyRefused(item, shown).empty())) {
         item.changeableExtras().defaultValue = shown;
         item.showsTarget = true;
-    }
-}
-
-void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
-    if (item.type == vtBool) {
-        requireFreeNames(item);  // its "no-" forms are not compared when it is declared
-    }
-    const RegisteredOptionStorage& registry = plain_->vocabulary();
-    const std::size_t index = registry.items().size();
-    // Room first, as far as it can be had.
-    if (item.role == Role::positional) {
-        positionals_.reserve(positionals_.size() + 1);
-    }
-    IOption& made =
-        item.role == Role::action
-            ? plain_->action(item.names, item.description, item.type, section)
-            : plain_->modifier(item.names, item.actions, item.description, item.type, section);
-    // The plain interface refuses in silence. A name is the usual reason.
-    if (registry.items().size() == index) {
-        requireFreeNames(item);
-        throw std::bad_alloc();
-    }
-    item.configure(made);
-    keepTexts(item);
-    describe(index, item);
-    if (item.role == Role::positional) {
-        addPositional(item);
-    }
-}
-
-// What help shows of the item beyond its plain declaration.
-void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
-    RegisteredOptionStorage& registry = plain_->vocabulary();
-    const bool impliesValue = item.hasOptionalValue();
-    impliesValues_ = impliesValues_ || impliesValue;
-    registry.expect(index, item.isRequired, !item.takesMany(), impliesValue);
-    if (*item.shownName != '\0') {
-        registry.nameValue(index, item.shownName);
-    }
-    if (*item.extras().environment != '\0') {
-        registry.nameVariable(index, item.extras().environment);
-    }
-}
-
-// The author's texts live until the item is declared.
-void Vocabulary::keepTexts(ItemRecord& item) {
-    // It stays where it is: the list of items never moves them.
-    item.plain = &plain_->vocabulary().items().back();
-    item.names = "";
-    item.actions = "";
-    item.description = item.plain->description.data();
-    item.shownName = *item.shownName == '\0' ? "" : plain_->keep(item.shownName);
-    if (item.hasExtras()) {
-        const char*& environment = item.changeableExtras().environment;
-        environment = plain_->keep(orEmpty(environment));
     }
 }
 

@@ -22,6 +22,14 @@ struct Rule {
     std::vector<const ItemRecord*> items;  // when the vocabulary is settled
 };
 
+// What some item asks of each parse. What none asks need not be looked for in all of them.
+struct Demands {
+    bool checks = false;
+    bool environment = false;
+    bool required = false;
+    bool once = false;
+};
+
 // It is shared by the parser of the modern face and the outcomes of its parses.
 class Vocabulary final {
 public:
@@ -56,6 +64,7 @@ public:
     const ItemRecord* firstOfGroup() const {
         return positionals_.size() > 1 ? positionals_.front() : nullptr;
     }
+    const Demands& demands() const { return demands_; }  // known when it is settled
     const std::vector<Rule>& rules() const { return rules_; }
     const Check* lineChecks() const { return lineChecks_; }
     // Whether arguments may look other than the plain parser has them.
@@ -91,6 +100,7 @@ private:
     void requireFreeNames(const ItemRecord& item) const;
     void requireFree(const ItemRecord& item, std::string_view form) const;
     void requireSameActions(const ItemRecord& item) const;
+    void addDemands(const ItemRecord& item);
     void requireActions(const ItemRecord& item) const;
     void requireOwnTargets() const;
     void settle(Rule& rule) const;
@@ -109,6 +119,7 @@ private:
     Check* lineChecks_ = nullptr;
     bool showsDefaults_ = false;
     bool impliesValues_ = false;
+    Demands demands_;
     std::size_t settledItems_ = 0;
     std::size_t settledRules_ = 0;
     ParseWatch watch_;

@@ -1,11 +1,14 @@
 #include "modern/writing.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <memory>
 #include <string>
 #include <utility>
 #include <vector>
 
 #include "modern/behind_parse.h"
+#include "modern/places.h"
 #include "parser/guarded.h"
 #include "text/heap_sort.h"
 
@@ -15,7 +18,10 @@ namespace {
 // Values that are made, each for the variable of an item.
 class Writing {
 public:
-    explicit Writing(std::size_t most) { made_.reserve(most); }
+    explicit Writing(const std::vector<std::unique_ptr<ItemRecord>>& items)
+        : places_(unitsOf(items)) {
+        made_.reserve(items.size());
+    }
     Writing(const Writing&) = delete;
     Writing& operator=(const Writing&) = delete;
     ~Writing() {
@@ -24,7 +30,7 @@ public:
             if (isUndone_) {
                 exchange(*each);
             }
-            each->item->target->release(each->value);
+            each->item->target->destroy(each->value);
         }
     }
 
@@ -38,12 +44,11 @@ public:
         }
         const void* const constant = item.extras().constant.value;
         mayShare_ = mayShare_ || constant != nullptr;
-        // The place in the list first: a value without one would leak where there is no memory for
-        // it.
+        void* const place = places_.take(*item.target);
+        item.target->make(place, {all_.data(), found.count, found.last, constant});
         made_.push_back({
-            &item, nullptr, {found.origin, found.last.position}
+            &item, place, {found.origin, found.last.position}
         });
-        made_.back().value = item.target->make({all_.data(), found.count, found.last, constant});
     }
 
     // Undone at the end, unless it is kept.
@@ -65,10 +70,19 @@ private:
         std::pair<Origin, int> rank;
     };
 
+    static std::size_t unitsOf(const std::vector<std::unique_ptr<ItemRecord>>& items) {
+        std::size_t units = 0;
+        for (const auto& item : items) {
+            units += item->target == nullptr ? 0 : Places::unitsOf(*item->target);
+        }
+        return units;
+    }
+
     static void exchange(const Made& made) noexcept {
         made.item->target->exchange(made.item->variable, made.value);
     }
 
+    Places places_;
     std::vector<Made> made_;
     std::vector<Value> all_;
     bool mayShare_ = false;
@@ -77,8 +91,11 @@ private:
 
 // What the checks of the whole line say: a code, and in `reason` why.
 int checkLine(const StoredOutcome& outcome, std::string& reason) {
+    const Check* check = outcome.vocabulary().lineChecks();
+    if (check == nullptr || isAloneGiven(outcome)) {
+        return resultOk;
+    }
     // Asked with the variables written: that is what its author wants to look at.
-    const Check* check = isAloneGiven(outcome) ? nullptr : outcome.vocabulary().lineChecks();
     while (check != nullptr && check->holds(Value(), reason)) {
         check = check->next;
     }
@@ -92,7 +109,7 @@ void writeVariables(StoredOutcome& outcome) {
         return;
     }
     const auto& items = outcome.vocabulary().items();
-    Writing writing(items.size());
+    Writing writing(items);
     for (const auto& item : items) {
         if (item->target != nullptr) {
             writing.make(*item, outcome);

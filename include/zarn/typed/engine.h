@@ -99,13 +99,15 @@ struct Given {
 // How variables of one type are written: in two steps, so that those of a vocabulary are written
 // together.
 struct TargetKind {
-    // A new value for the variable.
-    void* (*make)(const Given& given);
+    std::size_t size;  // of a value
+
+    // Makes a new value for the variable, at a place as aligned as operator new has it.
+    void (*make)(void* place, const Given& given);
 
     // Exchanges it with what the variable holds.
     void (*exchange)(void* variable, void* made) noexcept;
 
-    void (*release)(void* made) noexcept;
+    void (*destroy)(void* made) noexcept;
 
     // What the variable holds, as a default; empty where that cannot be shown.
     variant_t (*current)(const void* variable);

@@ -4,6 +4,8 @@
 #define ZARN_TYPED_TARGET_H
 
 #include <cstddef>
+#include <memory>
+#include <new>
 #include <optional>
 #include <string>
 #include <type_traits>
@@ -66,23 +68,30 @@ template <typename V>
 struct TargetBase {
     static_assert(std::is_nothrow_swappable_v<V>,
                   "variables are written all or none: their exchange must not throw");
+    static_assert(alignof(V) <= alignof(std::max_align_t),
+                  "variables have the alignment of what operator new gives");
 
     static void exchange(void* variable, void* made) noexcept {
         using std::swap;
         swap(*static_cast<V*>(variable), *static_cast<V*>(made));
     }
 
-    static void release(void* made) noexcept { delete static_cast<V*>(made); }
+    static void destroy(void* made) noexcept { std::destroy_at(static_cast<V*>(made)); }
 };
 
 // A variable of type V for a switch that stores a constant in it.
 template <typename V>
 struct ConstantOf : TargetBase<V> {
-    static void* make(const Given& given) { return new V(*static_cast<const V*>(given.constant)); }
+    static void make(void* place, const Given& given) {
+        new (place) V(*static_cast<const V*>(given.constant));
+    }
     static variant_t current(const void* /*variable*/) { return {}; }
 
+    // The constant itself, which is one of its kind.
+    static void release(void* constant) noexcept { delete static_cast<V*>(constant); }
+
     static constexpr TargetKind kind{
-        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, false};
+        sizeof(V), &make, &TargetBase<V>::exchange, &TargetBase<V>::destroy, &current, false};
 };
 
 // A variable of type V for an option with values of type T.
@@ -95,18 +104,18 @@ struct TargetOf : TargetBase<V> {
                   "into() wants a variable of the type of the option, an optional or a vector of "
                   "it; for a switch a bool or an integer, for a text a std::string or a path");
 
-    static void* make(const Given& given) {
+    static void make(void* place, const Given& given) {
         if constexpr (isVector) {
             V all;
             all.reserve(given.count);
             for (std::size_t i = 0; i < given.count; ++i) {
                 all.push_back(elementOf<T, Element>(given.values[i]));
             }
-            return new V(std::move(all));
+            new (place) V(std::move(all));
         } else if constexpr (std::is_same_v<T, Switch> && !std::is_same_v<Element, bool>) {
-            return new V(static_cast<Element>(given.count));
+            new (place) V(static_cast<Element>(given.count));
         } else {
-            return new V(elementOf<T, Element>(given.last));
+            new (place) V(elementOf<T, Element>(given.last));
         }
     }
 
@@ -130,7 +139,7 @@ struct TargetOf : TargetBase<V> {
     }
 
     static constexpr TargetKind kind{
-        &make, &TargetBase<V>::exchange, &TargetBase<V>::release, &current, isVector};
+        sizeof(V), &make, &TargetBase<V>::exchange, &TargetBase<V>::destroy, &current, isVector};
 };
 
 }  // namespace zarn_3_3::internal

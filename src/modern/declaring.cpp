@@ -1,0 +1,148 @@
+// How an item comes into a vocabulary: the part of it that each item of each tool goes through.
+
+#include <cstddef>
+#include <cstring>
+#include <memory>
+#include <new>
+#include <string>
+#include <string_view>
+#include <utility>
+
+#include "modern/messages.h"
+#include "modern/vocabulary.h"
+#include "options/registered_option_storage.h"
+
+namespace zarn_3_3::internal {
+namespace {
+
+const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
+
+// Whether the name, a piece of the list, stands in front of itself there.
+bool isRepeated(std::string_view name, const char* list) {
+    while (list != name.data()) {
+        const std::size_t length = std::strcspn(list, ",");
+        if (name == std::string_view(list, length)) {
+            return true;
+        }
+        list += length + 1;
+    }
+    return false;
+}
+
+// Throws std::logic_error when the author has made a mistake in them, apart from those of others.
+void requireNames(const ItemRecord& item) {
+    const auto refuse = [&](const std::string& what) { mistake(item.names, what); };
+    // The plain interface takes such names, and no command line ever reaches them.
+    const char* const untypable = item.names + std::strcspn(item.names, "= \t\n\v\f\r");
+    std::string_view name;
+    int count = 0;
+    // Unlike the lists of the plain interface, with an empty piece behind a last comma.
+    for (const char* next = item.names; next != nullptr; ++count) {
+        if (count == 3) {
+            refuse(messages::tooManyNames);
+        }
+        const char* const comma = std::strchr(next, ',');
+        const std::size_t length =
+            comma == nullptr ? std::strlen(next) : static_cast<std::size_t>(comma - next);
+        name = std::string_view(next, length);
+        if (*next == '-' || (*untypable != '\0' && untypable < next + length)) {
+            refuse(messages::nameUntypable(name));
+        }
+        if (name.empty()) {
+            refuse(messages::nameEmpty);
+        }
+        // The plain interface looks at the names of other items only.
+        if (isRepeated(name, item.names)) {
+            refuse(messages::nameTwice(name));
+        }
+        next = comma == nullptr ? nullptr : comma + 1;
+    }
+    // It would be refused there too, without a word.
+    if (count == 3 && name.size() > 2) {
+        refuse(messages::thirdNameLong(name));
+    }
+}
+
+}  // namespace
+
+ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
+    // The face has promised that the item is taken, also when one of the next lines throws.
+    std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
+    item->names = orEmpty(item->names);
+    item->actions = orEmpty(item->actions);
+    item->description = orEmpty(item->description);
+    item->shownName = orEmpty(item->shownName);
+    showVariable(*item);
+    requireNames(*item);
+    requireSettings(*item);
+    if (items_.size() != plain_->vocabulary().items().size()) {  // they are mixed hardly ever
+        takeInPlainItems();
+    }
+    // Before the plain declaration, which cannot be taken back.
+    items_.push_back(std::move(item));
+    try {
+        requireSameActions(*items_.back());
+        declarePlainly(section, *items_.back());
+    } catch (...) {
+        items_.pop_back();
+        throw;
+    }
+    return *items_.back();
+}
+
+void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
+    if (item.type == vtBool) {
+        requireFreeNames(item);  // its "no-" forms are not compared when it is declared
+    }
+    const RegisteredOptionStorage& registry = plain_->vocabulary();
+    const std::size_t index = registry.items().size();
+    // Room first, as far as it can be had.
+    if (item.role == Role::positional) {
+        positionals_.reserve(positionals_.size() + 1);
+    }
+    IOption& made =
+        item.role == Role::action
+            ? plain_->action(item.names, item.description, item.type, section)
+            : plain_->modifier(item.names, item.actions, item.description, item.type, section);
+    // The plain interface refuses in silence. A name is the usual reason.
+    if (registry.items().size() == index) {
+        requireFreeNames(item);
+        throw std::bad_alloc();
+    }
+    item.configure(made);
+    keepTexts(item);
+    describe(index, item);
+    if (item.role == Role::positional) {
+        addPositional(item);
+    }
+}
+
+// What help shows of the item beyond its plain declaration.
+void Vocabulary::describe(std::size_t index, const ItemRecord& item) {
+    RegisteredOptionStorage& registry = plain_->vocabulary();
+    const bool impliesValue = item.hasOptionalValue();
+    impliesValues_ = impliesValues_ || impliesValue;
+    registry.expect(index, item.isRequired, !item.takesMany(), impliesValue);
+    if (*item.shownName != '\0') {
+        registry.nameValue(index, item.shownName);
+    }
+    if (*item.extras().environment != '\0') {
+        registry.nameVariable(index, item.extras().environment);
+    }
+}
+
+// The author's texts live until the item is declared.
+void Vocabulary::keepTexts(ItemRecord& item) {
+    // It stays where it is: the list of items never moves them.
+    item.plain = &plain_->vocabulary().items().back();
+    item.names = "";
+    item.actions = "";
+    item.description = item.plain->description.data();
+    item.shownName = *item.shownName == '\0' ? "" : plain_->keep(item.shownName);
+    if (item.hasExtras()) {
+        const char*& environment = item.changeableExtras().environment;
+        environment = plain_->keep(orEmpty(environment));
+    }
+}
+
+}  // namespace zarn_3_3::internal

@@ -87,6 +87,7 @@ private:
 
     const internal::StoredOption* selected() const;
     Value select(const char* name, int from, int to, Wanted wanted);
+    Value step(const internal::StoredOption& entry);
     Value stepOccurrence(const internal::StoredOption& entry);
     Value stepValue(const internal::StoredOption& entry);
 

@@ -140,7 +140,7 @@ Value ParseResult::select(const char* name, int from, int to, Wanted wanted) {
     if (positionCursor == entry->occurrences()) {
         return {};
     }
-    return wanted == Wanted::value ? ParseResult::next(name) : Value(nullptr, {}, 0);
+    return wanted == Wanted::value ? step(*entry) : Value(nullptr, {}, 0);
 }
 
 // The walk goes on under the name that was asked for last, whatever this one is.
@@ -158,7 +158,11 @@ Value ParseResult::next(const char* /*name*/) {
         rangeFrom = 0;
         return defaultOf(*entry);
     }
-    return entry->size() == 0 ? stepOccurrence(*entry) : stepValue(*entry);
+    return step(*entry);
+}
+
+Value ParseResult::step(const StoredOption& entry) {
+    return entry.size() == 0 ? stepOccurrence(entry) : stepValue(entry);
 }
 
 // Whatever the range: an option without values has only its occurrences to walk.

@@ -15,7 +15,7 @@
 namespace zarn_3_3::internal {
 namespace {
 
-const char* orEmpty(const char* text) { return text == nullptr ? "" : text; }
+const char* notNull(const char* text) { return text == nullptr ? "" : text; }
 
 // Whether the name, a piece of the list, stands in front of itself there.
 bool isRepeated(std::string_view name, const char* list) {
@@ -68,10 +68,10 @@ void requireNames(const ItemRecord& item) {
 ItemRecord& Vocabulary::declare(const char* section, ItemDescription* description) {
     // The face has promised that the item is taken, also when one of the next lines throws.
     std::unique_ptr<ItemRecord> item(static_cast<ItemRecord*>(description));
-    item->names = orEmpty(item->names);
-    item->actions = orEmpty(item->actions);
-    item->description = orEmpty(item->description);
-    item->shownName = orEmpty(item->shownName);
+    item->names = notNull(item->names);
+    item->actions = notNull(item->actions);
+    item->description = notNull(item->description);
+    item->shownName = notNull(item->shownName);
     showVariable(*item);
     requireNames(*item);
     requireSettings(*item);
@@ -141,7 +141,7 @@ void Vocabulary::keepTexts(ItemRecord& item) {
     item.shownName = *item.shownName == '\0' ? "" : plain_->keep(item.shownName);
     if (item.hasExtras()) {
         const char*& environment = item.changeableExtras().environment;
-        environment = plain_->keep(orEmpty(environment));
+        environment = plain_->keep(notNull(environment));
     }
 }
 

@@ -20,11 +20,11 @@ const char* notNull(const char* text) { return text == nullptr ? "" : text; }
 // Whether the name, a piece of the list, stands in front of itself there.
 bool isRepeated(std::string_view name, const char* list) {
     while (list != name.data()) {
-        const std::size_t length = std::strcspn(list, ",");
-        if (name == std::string_view(list, length)) {
+        const char* const comma = std::strchr(list, ',');
+        if (name == std::string_view(list, static_cast<std::size_t>(comma - list))) {
             return true;
         }
-        list += length + 1;
+        list = comma + 1;
     }
     return false;
 }
@@ -32,8 +32,8 @@ bool isRepeated(std::string_view name, const char* list) {
 // Throws std::logic_error when the author has made a mistake in them, apart from those of others.
 void requireNames(const ItemRecord& item) {
     const auto refuse = [&](const std::string& what) { mistake(item.names, what); };
-    // The plain interface takes such names, and no command line ever reaches them.
-    const char* const untypable = item.names + std::strcspn(item.names, "= \t\n\v\f\r");
+    // The end of the list, or what the plain interface takes and no command line ever reaches.
+    const char* const end = item.names + std::strcspn(item.names, "= \t\n\v\f\r");
     std::string_view name;
     int count = 0;
     // Unlike the lists of the plain interface, with an empty piece behind a last comma.
@@ -41,13 +41,13 @@ void requireNames(const ItemRecord& item) {
         if (count == 3) {
             refuse(messages::tooManyNames);
         }
-        const char* const comma = std::strchr(next, ',');
-        const std::size_t length =
-            comma == nullptr ? std::strlen(next) : static_cast<std::size_t>(comma - next);
-        name = std::string_view(next, length);
-        if (*next == '-' || (*untypable != '\0' && untypable < next + length)) {
-            refuse(messages::nameUntypable(name));
+        const std::string_view rest(next, static_cast<std::size_t>(end - next));
+        const std::size_t comma = rest.find(',');
+        const bool isLast = comma == std::string_view::npos;
+        if (*next == '-' || (isLast && *end != '\0')) {
+            refuse(messages::nameUntypable(std::string_view(next, std::strcspn(next, ","))));
         }
+        name = rest.substr(0, comma);
         if (name.empty()) {
             refuse(messages::nameEmpty);
         }
@@ -55,7 +55,7 @@ void requireNames(const ItemRecord& item) {
         if (isRepeated(name, item.names)) {
             refuse(messages::nameTwice(name));
         }
-        next = comma == nullptr ? nullptr : comma + 1;
+        next = isLast ? nullptr : next + comma + 1;
     }
     // It would be refused there too, without a word.
     if (count == 3 && name.size() > 2) {
@@ -72,16 +72,19 @@ ItemRecord& Vocabulary::declare(const char* section, ItemDescription* descriptio
     item->actions = notNull(item->actions);
     item->description = notNull(item->description);
     item->shownName = notNull(item->shownName);
-    showVariable(*item);
+    if (showsDefaults_ || item->showsTarget) {
+        showVariable(*item);
+    }
     requireNames(*item);
-    requireSettings(*item);
+    if (item->hasExtras() || item->showsTarget) {
+        requireSettings(*item);
+    }
     if (items_.size() != plain_->vocabulary().items().size()) {  // they are mixed hardly ever
         takeInPlainItems();
     }
     // Before the plain declaration, which cannot be taken back.
     items_.push_back(std::move(item));
     try {
-        requireSameActions(*items_.back());
         declarePlainly(section, *items_.back());
     } catch (...) {
         items_.pop_back();
@@ -98,6 +101,7 @@ void Vocabulary::declarePlainly(const char* section, ItemRecord& item) {
     const std::size_t index = registry.items().size();
     // Room first, as far as it can be had.
     if (item.role == Role::positional) {
+        requireSameActions(item);
         positionals_.reserve(positionals_.size() + 1);
     }
     IOption& made =

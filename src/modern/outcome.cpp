@@ -94,6 +94,9 @@ Found StoredOutcome::choose(std::string_view name,
                             std::vector<Value>* all) const {
     const Values share = shareOf(item);
     const StoredOption* const entry = result_.find(name);
+    if (entry == nullptr && share.size() == 0 && asides_.empty()) {
+        return {};  // as most options of a tool
+    }
     // What is stored under the first of a group belongs to all of it, and comes in by the share.
     Values own = &item == vocabulary_.firstOfGroup() ? Values() : valuesOf(entry);
     const bool isFromOutside = own.size() + share.size() == 0;

@@ -15,7 +15,7 @@
 namespace zarn_3_3::internal {
 namespace {
 
-constexpr std::size_t usualItems = 32;
+constexpr std::size_t usualItems = 64;
 
 }  // namespace
 
@@ -85,7 +85,7 @@ void Vocabulary::requireFree(const ItemRecord& item, std::string_view form) cons
 
 // All arguments are stored under the first positional item, whose actions are looked at.
 void Vocabulary::requireSameActions(const ItemRecord& item) const {
-    if (item.role != Role::positional || positionals_.empty()) {
+    if (positionals_.empty()) {
         return;
     }
     std::set<std::string> actions;

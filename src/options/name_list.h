@@ -44,9 +44,6 @@ public:
         std::size_t at_ = 0;
     };
 
-    using value_type = std::string;
-    using const_iterator = Iterator;
-
     bool empty() const { return !hasFirst_; }
     std::size_t size() const { return hasFirst_ ? 1 + others_.size() : 0; }
     const std::string& operator[](std::size_t at) const {
@@ -57,12 +54,12 @@ public:
     Iterator begin() const { return {*this, 0}; }
     Iterator end() const { return {*this, size()}; }
 
-    // At the end, which is the only place. Throws std::bad_alloc and changes nothing then.
-    void insert(const Iterator& /*end*/, std::string&& name) {
+    // At the end. Throws std::bad_alloc and changes nothing then.
+    void add(std::string_view name) {
         if (hasFirst_) {
-            others_.push_back(std::move(name));
+            others_.emplace_back(name);
         } else {
-            first_ = std::move(name);
+            first_ = name;
             hasFirst_ = true;
         }
     }

@@ -20,7 +20,7 @@ void makeOrLeave(Setting setting) noexcept {
 
 IOption& OptionDescription::synonym(const char* name) {
     if (name != nullptr) {
-        makeOrLeave([&] { names.insert(names.end(), name); });
+        makeOrLeave([&] { names.add(name); });
     }
     return *this;
 }

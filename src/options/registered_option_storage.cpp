@@ -86,9 +86,13 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
     // What can fail comes first, on an item that is taken back then. Behind it nothing does.
     OptionDescription& item = options.add();
     try {
-        split(given.names, item.names);
+        for (const std::string_view name : nameList) {
+            item.names.add(name);
+        }
         item.description = descriptions_.keep(given.description);
-        split(given.actionNames, item.tags);
+        if (!given.actionNames.empty()) {
+            split(given.actionNames, item.tags);
+        }
         // The tags of an action are its names: that is how its modifiers name it.
         if (given.isAction) {
             split(given.names, item.tags);

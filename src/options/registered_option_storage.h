@@ -60,9 +60,10 @@ public:
 
     // For help and completion alone; keeping to it is up to the caller.
     void expect(std::size_t number, bool isRequired, bool takesOneValue, bool isValueOptional) {
-        options[number].isRequired = isRequired;
-        options[number].takesOneValue = takesOneValue;
-        options[number].isValueOptional = isValueOptional;
+        OptionDescription& item = options[number];
+        item.isRequired = isRequired;
+        item.takesOneValue = takesOneValue;
+        item.isValueOptional = isValueOptional;
     }
 
     // What help and description call the value of an item; empty for the word of its type.

@@ -81,6 +81,18 @@ bool splitAt(const std::string& argument,
     return true;
 }
 
+// Few tools set a locale, so this one is to be small.
+[[gnu::cold, gnu::noinline]] bool splitAsLocaleHasIt(const std::string& argument,
+                                                     std::string_view* name,
+                                                     std::string_view* value) {
+    // Held while its facet is used: another thread may set another one.
+    const std::locale global;
+    const auto& classes = std::use_facet<std::ctype<char>>(global);
+    const auto isSpace = [&classes](char c) { return classes.is(std::ctype_base::space, c); };
+    const auto isEnd = [&isSpace](char c) { return c == '=' || isSpace(c); };
+    return splitAt(argument, name, value, isEnd, isSpace);
+}
+
 }  // namespace
 
 std::size_t getDashLength(const std::string& text, std::size_t pos) {
@@ -101,12 +113,7 @@ bool splitOptionValue(const std::string& argument,
         };
         return splitAt(argument, name, value, isEnd, internal::isClassicSpace);
     }
-    // Held while its facet is used: another thread may set another one.
-    const std::locale global;
-    const auto& classes = std::use_facet<std::ctype<char>>(global);
-    const auto isSpace = [&classes](char c) { return classes.is(std::ctype_base::space, c); };
-    const auto isEnd = [&isSpace](char c) { return c == '=' || isSpace(c); };
-    return splitAt(argument, name, value, isEnd, isSpace);
+    return splitAsLocaleHasIt(argument, name, value);
 }
 
 }  // namespace zarn_3_3

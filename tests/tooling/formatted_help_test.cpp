@@ -26,7 +26,7 @@ class FormattedHelp : public testing::Test {
 protected:
     FormattedHelp() : tool(flagPositionalBehindTerminator) {
         IParser& p = *tool.parser;
-        p.action("print,p", "Print the book #1.", vtNull, "");
+        p.action("print,p", "Print  the book #1.", vtNull, "");
         p.action("bind,b", "Bind it #2.", vtS32, "");
         p.action("pulp", "Take it back #3.", vtNull, "zarn_hidden:For publishers");
         p.modifier("paper", "print", "印刷に使う紙の種類 #4.", vtString, "")

@@ -5,7 +5,6 @@
 #include <gmock/gmock.h>
 #include <unistd.h>
 
-#include <cstdio>
 #include <fstream>
 #include <utility>
 
@@ -13,6 +12,7 @@
 #include "markdown_writer.h"
 #include "output.h"
 #include "page_text.h"
+#include "support/scratch_folder.h"
 
 namespace vocabulary {
 namespace {
@@ -102,7 +102,8 @@ TEST(PageText, ReplacesWhatIsNoCharacter) {
 }
 
 TEST(Output, LeavesTheFilesOfOthersAlone) {
-    const std::string directory = testing::TempDir();
+    const zarn_3_3::testing_support::ScratchFolder folder;
+    const std::string directory = "./";
     const std::string taken = directory + ".zarn-vocabulary-" + std::to_string(getpid()) + "-0";
     std::ofstream(taken) << "of others";
 
@@ -112,8 +113,6 @@ TEST(Output, LeavesTheFilesOfOthersAlone) {
     std::string left;
     std::getline(file, left);
     EXPECT_EQ(left, "of others");
-    std::remove(taken.c_str());
-    std::remove((directory + "page").c_str());
 }
 
 }  // namespace

@@ -4,10 +4,10 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 
 #include "support/failing_new.h"
+#include "support/scratch_folder.h"
 #include "support/tool.h"
 #include "zarn/typed.h"
 
@@ -15,6 +15,7 @@ namespace zarn_3_3 {
 namespace {
 
 using testing_support::PlainTool;
+using testing_support::ScratchFolder;
 
 std::string joined(const std::vector<std::string>& texts) {
     std::string all;
@@ -39,24 +40,6 @@ std::string told(IParser& parser) {
 }
 
 constexpr int toolFlags = flagUnknownIsError | flagPositionalWithoutDash;
-
-// A folder of option files.
-struct Folder {
-    Folder() {
-        std::string name = testing::TempDir() + "zarn_diagnostic_XXXXXX";
-        path = ::mkdtemp(name.data());
-        before = std::filesystem::current_path();
-        std::filesystem::current_path(path);
-    }
-    Folder(const Folder&) = delete;
-    Folder& operator=(const Folder&) = delete;
-    ~Folder() {
-        std::filesystem::current_path(before);
-        std::filesystem::remove_all(path);
-    }
-    std::filesystem::path path;
-    std::filesystem::path before;
-};
 
 void write(const char* file, const std::string& content) { std::ofstream(file) << content; }
 
@@ -140,7 +123,7 @@ TEST(Diagnostics, TellEachFailureOfALine) {
 }
 
 TEST(Diagnostics, TellTheLineOfAFile) {
-    const Folder folder;
+    const ScratchFolder folder;
     write("inner", "# of another\n\n  --cold\r\n; once more\r\n  --levle=3\r\n");
     write("outer", "--level=1\n\n--option-file=inner\n");
     write("value", "--mode\n\nfastt");

@@ -7,6 +7,7 @@
 #include <memory>
 
 #include "support/failing_new.h"
+#include "support/scratch_folder.h"
 #include "typed/tool_under_test.h"
 
 namespace zarn_3_3 {
@@ -41,8 +42,10 @@ void expectOutcomes(std::initializer_list<Row> rows,
 class OptionFile {
 public:
     explicit OptionFile(const char* lines) { std::ofstream(name()) << lines; }
-    ~OptionFile() { std::remove(name()); }
     static const char* name() { return "typed_test.options"; }
+
+private:
+    testing_support::ScratchFolder folder_;
 };
 
 class Variable {

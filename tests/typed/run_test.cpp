@@ -6,6 +6,7 @@
 #include <utility>
 
 #include "support/failing_new.h"
+#include "support/scratch_folder.h"
 #include "typed/tool_under_test.h"
 
 namespace zarn_3_3 {
@@ -187,7 +188,8 @@ TEST(RunOf, AToolTellsWhatWasProbablyMeant) {
                     option("levee", ""),
                     positional("file", "pack", "").named("FILE")});
     parser.readOptionFiles("");
-    const std::string path = testing::TempDir() + "typed_run.options";
+    const testing_support::ScratchFolder folder;
+    const std::string path = "typed_run.options";
     std::ofstream(path) << "--pack\n--leve3=2\n";
     const std::string named = "--option-file=" + path;
     const struct {

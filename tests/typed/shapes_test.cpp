@@ -5,6 +5,7 @@
 #include <fstream>
 #include <string>
 
+#include "support/scratch_folder.h"
 #include "typed/tool_under_test.h"
 
 enum class Order { plain, numeric, random };
@@ -159,7 +160,8 @@ void declareSingle(Parser& parser, Single& single) {
 }
 
 TEST(Shapes, OfWhatTakesOneValueHoweverOften) {
-    const std::string path = testing::TempDir() + "once.options";
+    const testing_support::ScratchFolder folder;
+    const std::string path = "once.options";
     std::ofstream(path) << "--name=b\n-R\n-n\n";
     const std::string file = "--option-file=" + path;
     const struct {

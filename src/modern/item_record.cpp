@@ -204,9 +204,6 @@ void requireSettings(const ItemRecord& item) {
     if (item.showsTarget && item.takesMany()) {
         mistake(item.names, messages::noVariable);
     }
-    if (!item.hasExtras()) {
-        return;
-    }
     if (isGiven(extras.least) && isGiven(extras.greatest) && extras.greatest < extras.least) {
         mistake(item.names, noValueBetween);
     }

@@ -35,10 +35,10 @@ void requireNames(const ItemRecord& item) {
     // The end of the list, or what the plain interface takes and no command line ever reaches.
     const char* const end = item.names + std::strcspn(item.names, "= \t\n\v\f\r");
     std::string_view name;
-    int count = 0;
+    std::size_t count = 0;
     // Unlike the lists of the plain interface, with an empty piece behind a last comma.
     for (const char* next = item.names; next != nullptr; ++count) {
-        if (count == 3) {
+        if (count == GivenNames::most) {
             refuse(messages::tooManyNames);
         }
         const std::string_view rest(next, static_cast<std::size_t>(end - next));
@@ -58,7 +58,7 @@ void requireNames(const ItemRecord& item) {
         next = isLast ? nullptr : next + comma + 1;
     }
     // It would be refused there too, without a word.
-    if (count == 3 && name.size() > 2) {
+    if (count == GivenNames::most && name.size() > GivenNames::longestThird) {
         refuse(messages::thirdNameLong(name));
     }
 }

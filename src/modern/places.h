@@ -17,7 +17,7 @@ public:
         return (kind.size + sizeof(std::max_align_t) - 1) / sizeof(std::max_align_t);
     }
 
-    explicit Places(std::size_t units) : next_(new std::max_align_t[units]), first_(next_) {}
+    explicit Places(std::size_t units) : first_(new std::max_align_t[units]), next_(first_.get()) {}
 
     // Where the next value goes. Whoever makes it there destroys it.
     void* take(const TargetKind& kind) {
@@ -27,8 +27,8 @@ public:
     }
 
 private:
-    std::max_align_t* next_;
     std::unique_ptr<std::max_align_t[]> first_;
+    std::max_align_t* next_;
 };
 
 }  // namespace zarn_3_3::internal

@@ -9,7 +9,6 @@
 #include <iterator>
 #include <string>
 #include <string_view>
-#include <utility>
 #include <vector>
 
 namespace zarn_3_3::internal {
@@ -78,6 +77,7 @@ public:
 
     // A primary name, a synonym, and a short form of one or two letters.
     static constexpr std::size_t most = 3;
+    static constexpr std::size_t longestThird = 2;
 
     std::size_t size() const { return count_; }
     std::string_view operator[](std::size_t at) const { return views_[at]; }

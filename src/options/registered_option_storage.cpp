@@ -14,8 +14,6 @@ using namespace internal;
 
 namespace {
 
-constexpr std::size_t longestThirdName = 2;
-
 std::string_view orEmpty(const char* text) { return text == nullptr ? "" : text; }
 
 }  // namespace
@@ -119,8 +117,9 @@ const std::string_view* RegisteredOptionStorage::findTaken(const GivenNames& nam
 }
 
 result_t validateName(const GivenNames& names) {
-    const bool isRefused = names.size() > GivenNames::most ||
-                           (names.size() == GivenNames::most && names[2].size() > longestThirdName);
+    const bool isRefused =
+        names.size() > GivenNames::most ||
+        (names.size() == GivenNames::most && names[2].size() > GivenNames::longestThird);
     return isRefused ? resultFailure : resultSuccess;
 }
 

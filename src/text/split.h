@@ -11,8 +11,7 @@
 namespace zarn_3_3 {
 
 // Appends the pieces of `text` between commas to `out`, which has an insert at its end, of texts or
-// of views into `text`. Empty
-// pieces count, but for one behind the last comma.
+// of views into `text`. Empty pieces count, but for one behind the last comma.
 template <typename Container>
 result_t split(std::string_view text, Container& out) {
     while (!text.empty()) {

@@ -15,6 +15,7 @@
 #include <iterator>
 #include <thread>
 
+#include "support/scratch_folder.h"
 #include "support/tool.h"
 
 namespace zarn_3_3 {
@@ -23,12 +24,9 @@ namespace {
 class OptionFiles : public testing::Test {
 protected:
     OptionFiles() {
-        std::string name = testing::TempDir() + "zarn_files_XXXXXX";
-        folder = ::mkdtemp(name.data()) + std::string("/");
         tool.option("level", vtS32);
         tool->addOptionFileOption("", "");
     }
-    ~OptionFiles() override { std::filesystem::remove_all(folder); }
 
     std::string naming(const char* file) { return "--option-file=" + folder + file; }
 
@@ -48,7 +46,8 @@ protected:
         return code == resultOk ? "" : tool->getErrorDesc();
     }
 
-    std::string folder;
+    testing_support::ScratchFolder scratch;
+    std::string folder = "./";
     testing_support::PlainTool tool;
     std::atomic<int> code{-1};
 };

@@ -51,8 +51,8 @@ StoredOutcome::Values StoredOutcome::aside(const ItemRecord& item, Origin origin
 // the last one the rest.
 StoredOutcome::Values StoredOutcome::shareOf(const ItemRecord& item) const {
     const auto& group = vocabulary_.positionals();
-    // A single one is stored as every other item.
-    if (item.role != Role::positional || group.size() == 1) {
+    // A single one is stored as every other item, and so is one that was declared plainly.
+    if (item.role != Role::positional || item.isPlain || group.size() == 1) {
         return {};
     }
     // Its values were parsed again, as what they are, when they came in.

@@ -107,8 +107,9 @@ TEST(Mistakes, AreNoneWhereItemsAreDeclaredPlainly) {
     Parser parser;
     parser->option("plain", "", vtS32, "");
     parser->option("other", "", vtNull, "");
+    parser->option("file", "", vtString, "").positional();
     parser.readOptionFiles("");
-    parser.atMostOne({"plain", "other", "option-file"});
+    parser.atMostOne({"plain", "other", "option-file", "file"});
     const Line line{"--plain=3"};
     const Result result = parser.parse(line.argc(), line.argv());
     EXPECT_EQ(result.get<int>("plain"), 3);
@@ -117,6 +118,9 @@ TEST(Mistakes, AreNoneWhereItemsAreDeclaredPlainly) {
     const Line both{"--other", "--plain=3"};
     EXPECT_STREQ(parser.parse(both.argc(), both.argv()).text(),
                  "Option '--plain' does not go with option '--other'");
+    const Line argument{"--other", "x"};
+    EXPECT_STREQ(parser.parse(argument.argc(), argument.argv()).text(),
+                 "Option '--other' does not go with argument 'file'");
 }
 
 TEST(Mistakes, ThatAreNoneOfTheDeclarationsAreFoundByACheck) {

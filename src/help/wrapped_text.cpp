@@ -51,9 +51,7 @@ void WrappedText::endLine() {
 
 void WrappedText::separate() {
     endLine();
-    if (!text_.empty()) {
-        breakLine();
-    }
+    breakLine();
 }
 
 void WrappedText::breakLine() {

@@ -26,7 +26,7 @@ public:
     // Ends the line, if there is anything in it.
     void endLine();
 
-    // Ends the line, and adds an empty one if anything stands in front of it.
+    // Ends the line, and adds an empty one.
     void separate();
 
     std::string take() { return std::move(text_); }

@@ -38,10 +38,10 @@ const ItemRecord* actionGiven(const StoredOutcome& outcome,
                               Vocabulary& vocabulary,
                               const ItemRecord& modifier) {
     for (const std::string& name : modifier.plain->tags) {
-        const ItemRecord* const action = vocabulary.find(name);
+        const ItemRecord& action = vocabulary.require(name);
         // An action may have a default, which asks for nothing.
-        if (action != nullptr && outcome.origin(*action) > Origin::byDefault) {
-            return action;
+        if (outcome.origin(action) > Origin::byDefault) {
+            return &action;
         }
     }
     return nullptr;

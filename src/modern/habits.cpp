@@ -104,7 +104,7 @@ private:
             const std::string_view letter = rest.substr(0, 1);
             const ItemRecord* const item = vocabulary_.find(letter);
             rest.remove_prefix(1);
-            if (item == nullptr || (!letters.empty() && !has(bundles))) {
+            if (item == nullptr) {
                 return false;
             }
             std::string text = filled("-{}", {letter});

@@ -277,7 +277,7 @@ int BasicParser::parseAll(Arguments& arguments, ParseResult& result) {
 int BasicParser::parseBehindOptions(ParseDriver& driver,
                                     Arguments& arguments,
                                     ParseResult& result) {
-    int code = driver.collectNonparsingArguments(endOfOptions, arguments);
+    int code = driver.collectNonparsingArguments(arguments);
     // Files come behind the line itself, so that of values given in both the last one is the
     // file's.
     if (code == resultOk && optionFileDeclared) {

@@ -82,7 +82,7 @@ int OptionFileWalk::parse(const std::string& content, const std::string& path) {
     // No handler can get at this text, so that none of it is copied.
     TextArguments arguments(content, TextArguments::Owner::library, path);
     const int code = driver_.parseOptions(endOfOptions, arguments);
-    return code != resultOk ? code : driver_.collectNonparsingArguments(endOfOptions, arguments);
+    return code != resultOk ? code : driver_.collectNonparsingArguments(arguments);
 }
 
 int OptionFileWalk::refuse(DiagnosticKind kind,

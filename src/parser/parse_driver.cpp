@@ -119,11 +119,11 @@ int ParseDriver::passOver(Arguments& arguments) {
     return resultOk;
 }
 
-int ParseDriver::collectNonparsingArguments(const std::string& terminator, Arguments& arguments) {
-    if (arguments.isEmpty() || arguments.front() != terminator) {
+int ParseDriver::collectNonparsingArguments(Arguments& arguments) {
+    if (arguments.isEmpty()) {
         return resultOk;
     }
-    arguments.take();
+    arguments.take();  // the terminator
     while (!arguments.isEmpty()) {
         result_->storeArgument(arguments.front());
         trace(logPrefix, "stored argument: '", arguments.front(), "'");

@@ -44,7 +44,7 @@ public:
 
     // Keeps what stands behind the terminator as plain arguments; with
     // flagPositionalBehindTerminator they go to the positional item too.
-    int collectNonparsingArguments(const std::string& terminator, Arguments& arguments);
+    int collectNonparsingArguments(Arguments& arguments);
 
 private:
     struct Recognizers;

@@ -111,8 +111,9 @@ TEST(Checks, TellOfActionsAndPlaces) {
          "its first name alone\n"                                                                                                                             },
         {[](PlainTool& t) { addOption(t, "a").positional(), addOption(t, "b").positional(); },
          "error second-positional 'b': the arguments go to 'a', which was declared before\n"                                                                                      },
-        {[](PlainTool& t) { t->option("a", nullptr, vtNull, ""), addOption(t, "b"); },
-         "warning no-help 'a': it has no description: help has nothing to say of it\n"                                                                                            },
+        {[](PlainTool& t) {
+             t->option("a", nullptr, vtNull, ""), t->option("b", "", vtNull, "zarn_hidden");
+         },                                                                           "warning no-help 'a': it has no description: help has nothing to say of it\n"      },
         {[](PlainTool& t) { addOption(t, "a\xff"), addOption(t, "a\xc3\xa4"); },
          "warning not-utf8 'a\xff': one of its texts is not UTF-8: help and description show it "
          "broken\n"                                                                                                                                                               },
@@ -122,11 +123,28 @@ TEST(Checks, TellOfActionsAndPlaces) {
     }
 }
 
+TEST(Checks, TellOfTextsThatAreNotUtf8) {
+    std::string findings;
+    for (const char* const item : {"a", "b", "c", "d"}) {
+        findings += std::string("warning not-utf8 '") + item +
+                    "': one of its texts is not UTF-8: help and description show it broken\n";
+    }
+    const auto declare = [](PlainTool& t) {
+        addOption(t, "a").defaultValue("\xff");
+        addOption(t, "b").allowValue("\xff");
+        addOption(t, "c").allowValue("x").allowDeprecatedValue("\xff", "x");
+        addOption(t, "d"), addOption(t, "e");
+        nameValue(t.parser, "d", "\xff");
+    };
+    expectFindings({declare, findings.c_str()});
+}
+
 TEST(Checks, TellOfValues) {
     const CheckRow rows[] = {
         {[](PlainTool& t) {
              addOption(t, "a").allowValue("x").defaultValue("y");
              addOption(t, "b").allowValue("x").allowDeprecatedValue("y", "x").defaultValue("x");
+             addOption(t, "c").allowValue("x").allowDeprecatedValue("y", "x").defaultValue("y");
          },                                                             "error default-not-allowed 'a': its default 'y' is none of the values that it allows\n"},
         {[](PlainTool& t) {
              addOption(t, "a", vtS32).defaultValue("5");
@@ -142,6 +160,7 @@ TEST(Checks, TellOfValues) {
              addOption(t, "k", vtS64).defaultValue(~0ULL);
              addOption(t, "l").defaultValue(variant_t::wideText(L"x"));
              addOption(t, "m", vtU64).defaultValue(~0ULL);
+             addOption(t, "n").defaultValue(variant_t("x", true));
          },                                                             "error default-type 'a': its default is no value of the type 'int32': a query answers "
          "something else\n"
          "error default-type 'c': its default is no value of the type 'uint32': a query answers "

@@ -53,7 +53,7 @@ std::string candidates(IParser* parser, const Words& words) {
 
 void declareVocabulary(PlainTool& tool) {
     tool->action("create,c", "", vtNull, "");
-    tool->option("color", "", vtBool, "");
+    tool->option("color", "", vtBool, "").defaultValue(false);
     tool->option("ask,w", "", vtBool, "").defaultValue(true);
     tool->modifier("algorithm,a", "create", "", vtString, "")
         .allowValue("crc32")
@@ -69,7 +69,8 @@ void declareVocabulary(PlainTool& tool) {
         .allowValue("head")
         .allowValue("body")
         .allowValue("head,body")
-        .allowValue("-tail");
+        .allowValue("-tail")
+        .allowValue("");
     tool->option("level", "", vtS32, "")
         .allowValue(10)
         .allowValue(100)
@@ -77,7 +78,7 @@ void declareVocabulary(PlainTool& tool) {
         .synonym("color");
     tool->option("secret", "", vtString, "zarn_hidden").allowValue("x1");
     tool->option("=odd", "", vtNull, "");
-    tool->option("-dash", "", vtNull, "");
+    tool->action("-dash", "", vtNull, "");
     tool->option("in two", "", vtNull, "");
     tool->addOptionFileOption("", "");
 }
@@ -96,46 +97,49 @@ const std::string globals = "--create|--verify|--compare|" + allOptions;
 const std::string besideCreate = "--verify|--algorithm=|" + allOptions;
 
 const Row rows[] = {
-    {"Nothing",                 0, {""},                               globals.c_str()                        },
-    {"Dashes",                  0, {"--"},                             globals.c_str()                        },
-    {"LongDash",                0, {"\xE2\x80\x94ver"},                "\xE2\x80\x94verify"                   },
-    {"ThirdDash",               0, {"---"},                            ""                                     },
-    {"PlainWord",               0, {"ver"},                            ""                                     },
-    {"OneDash",                 0, {"-com"},                           "-compare"                             },
-    {"ModifierBeforeItsAction", 0, {"--alg"},                          "--algorithm="                         },
-    {"SynonymBesideNames",      0, {"-c"},                             "-create|-compare|-color"              },
-    {"SynonymAlone",            0, {"-k"},                             "-k"                                   },
-    {"TypedNoForm",             0, {"--no-c"},                         "--no-color"                           },
-    {"NoFormOfDefault",         0, {"--no-a"},                         "--no-ask"                             },
-    {"NoFormBesideSynonym",     0, {"--no-"},                          "--no-color|--no-ask"                  },
-    {"NoFormOfSynonym",         0, {"--no-w"},                         "--no-w"                               },
-    {"HiddenName",              0, {"--sec"},                          ""                                     },
-    {"HiddenValue",             0, {"--secret="},                      "--secret=x1"                          },
-    {"BesideAction",            0, {"--create", "--"},                 besideCreate.c_str()                   },
-    {"BesideAbbreviatedAction", 0, {"-crea", "--"},                    besideCreate.c_str()                   },
-    {"ForeignModifier",         0, {"--compare", "--i"},               ""                                     },
-    {"ModifierOfEither",        0, {"-c", "-v", "--i"},                "--ignore"                             },
-    {"NoActionBeside",          0, {"--compare", "--c"},               "--color"                              },
-    {"AttachedValue",           0, {"--alg=c"},                        "--alg=crc32"                          },
-    {"AllValues",               0, {"--algorithm="},                   "--algorithm=crc32|--algorithm=adler32"},
-    {"ValueBehindBlank",        0, {"--algorithm  a"},                 "--algorithm  adler32"                 },
-    {"NextValue",               0, {"--algorithm", "a"},               "adler32"                              },
-    {"NextValueWithDash",       0, {"--parts", "-"},                   ""                                     },
-    {"NextValueBesideDash",     0, {"--parts", ""},                    "head|body"                            },
-    {"BehindEmptyValue",        0, {"--parts=", "b"},                  "body"                                 },
-    {"BehindValue",             0, {"--parts", "head", "--lev"},       "--level="                             },
-    {"ForgottenValue",          0, {"--parts", "--lev"},               ""                                     },
-    {"BehindForgottenValue",    0, {"--parts", "--level=10", "--lev"}, "--level="                             },
-    {"List",                    0, {"--parts=head,"},                  "--parts=head,body|--parts=head,-tail" },
-    {"ListOfNumbers",           0, {"--level=10,"},                    "--level=10,100|--level=10,20"         },
-    {"Numbers",                 0, {"--level=1"},                      "--level=10|--level=100"               },
-    {"GivenNumber",             0, {"--level=10,1"},                   "--level=10,100"                       },
-    {"SwitchValue",             0, {"--create="},                      ""                                     },
-    {"BooleanValue",            0, {"--color=t"},                      ""                                     },
-    {"AmbiguousName",           0, {"--co=t"},                         ""                                     },
-    {"OptionFile",              0, {"--option-file="},                 "files"                                },
-    {"BehindTerminator",        0, {"--", ""},                         ""                                     },
-    {"TerminatorIsNoValue",     0, {"--parts", "--", "--c"},           ""                                     },
+    {"Nothing",                 0,                              {""},                               globals.c_str()                        },
+    {"Dashes",                  0,                              {"--"},                             globals.c_str()                        },
+    {"LongDash",                0,                              {"\xE2\x80\x94ver"},                "\xE2\x80\x94verify"                   },
+    {"ThirdDash",               0,                              {"---"},                            ""                                     },
+    {"PlainWord",               0,                              {"ver"},                            ""                                     },
+    {"OneDash",                 0,                              {"-com"},                           "-compare"                             },
+    {"ModifierBeforeItsAction", 0,                              {"--alg"},                          "--algorithm="                         },
+    {"SynonymBesideNames",      0,                              {"-c"},                             "-create|-compare|-color"              },
+    {"SynonymAlone",            0,                              {"-k"},                             "-k"                                   },
+    {"TypedNoForm",             0,                              {"--no-c"},                         "--no-color"                           },
+    {"NoFormOfDefault",         0,                              {"--no-a"},                         "--no-ask"                             },
+    {"NoFormBesideSynonym",     0,                              {"--no-"},                          "--no-color|--no-ask"                  },
+    {"NoFormOfSynonym",         0,                              {"--no-w"},                         "--no-w"                               },
+    {"HiddenName",              0,                              {"--sec"},                          ""                                     },
+    {"HiddenValue",             0,                              {"--secret="},                      "--secret=x1"                          },
+    {"BesideAction",            0,                              {"--create", "--"},                 besideCreate.c_str()                   },
+    {"BesideAbbreviatedAction", 0,                              {"-crea", "--"},                    besideCreate.c_str()                   },
+    {"ForeignModifier",         0,                              {"--compare", "--i"},               ""                                     },
+    {"ModifierOfEither",        0,                              {"-c", "-v", "--i"},                "--ignore"                             },
+    {"NoActionBeside",          0,                              {"--compare", "--c"},               "--color"                              },
+    {"AttachedValue",           0,                              {"--alg=c"},                        "--alg=crc32"                          },
+    {"AllValues",               0,                              {"--algorithm="},                   "--algorithm=crc32|--algorithm=adler32"},
+    {"ValueBehindBlank",        0,                              {"--algorithm  a"},                 "--algorithm  adler32"                 },
+    {"NextValue",               0,                              {"--algorithm", "a"},               "adler32"                              },
+    {"NextValueWithDash",       0,                              {"--parts", "-"},                   ""                                     },
+    {"NextValueBesideDash",     0,                              {"--parts", ""},                    "head|body"                            },
+    {"BehindEmptyValue",        0,                              {"--parts=", "b"},                  "body"                                 },
+    {"BehindValue",             0,                              {"--parts", "head", "--lev"},       "--level="                             },
+    {"ForgottenValue",          0,                              {"--parts", "--lev"},               ""                                     },
+    {"BehindForgottenValue",    0,                              {"--parts", "--level=10", "--lev"}, "--level="                             },
+    {"List",                    0,                              {"--parts=head,"},                  "--parts=head,body|--parts=head,-tail" },
+    {"ListOfNumbers",           0,                              {"--level=10,"},                    "--level=10,100|--level=10,20"         },
+    {"Numbers",                 0,                              {"--level=1"},                      "--level=10|--level=100"               },
+    {"GivenNumber",             0,                              {"--level=10,1"},                   "--level=10,100"                       },
+    {"SwitchValue",             0,                              {"--create="},                      ""                                     },
+    {"BooleanValue",            0,                              {"--color=t"},                      ""                                     },
+    {"AmbiguousName",           0,                              {"--co=t"},                         ""                                     },
+    {"OptionFile",              0,                              {"--option-file="},                 "files"                                },
+    {"BehindTerminator",        0,                              {"--", ""},                         ""                                     },
+    {"TerminatorIsNoValue",     0,                              {"--parts", "--", "--c"},           ""                                     },
+    {"BehindWhatCannotBeTyped", 0,                              {"---dash", "--"},                  globals.c_str()                        },
+    {"ValueOfNoName",           0,                              {"--="},                            ""                                     },
+    {"ForNobody",               flagPositionalBehindTerminator, {"--", ""},                         ""                                     },
 };
 
 class Engine : public testing::TestWithParam<Row> {};
@@ -173,6 +177,8 @@ TEST_P(PlainWords, AreValuesOfTheFirstPositionalItem) {
     tool.option("kind").allowValue("crc32").allowValue("adler32").allowValue("-crc").positional();
     tool.option("number", vtS32);
     tool.option("other").positional();
+    tool.option("");
+    tool.option(",x");
     EXPECT_EQ(candidates(tool.parser, GetParam().words), GetParam().found);
 }
 
@@ -207,25 +213,27 @@ struct BashRow {
 };
 
 const BashRow bashRows[] = {
-    {"BlankBehindName",      {"--compare"},          "--compare "                   },
-    {"NoBlankBehindSign",    {"--lev"},              "--level="                     },
-    {"Break",                {"--say=t"},            "two\\ words "                 },
-    {"EscapedBreak",         {"--at\\=h"},           "--at=h:80 "                   },
-    {"BreakThatStays",       {"--at=m"},             "m@h "                         },
-    {"BehindBreakThatStays", {"--at=m@"},            "@h "                          },
-    {"LastBreak",            {"--at=h:"},            "80 "                          },
-    {"QuotedBreak",          {"'--at=h:8"},          "--at=h:80"                    },
-    {"OpenQuote",            {"--say=\"t"},          "two words"                    },
-    {"OpenSingleQuote",      {"--say", "'t"},        "two words"                    },
-    {"UnsayableInQuote",     {"--say", "'d"},        ""                             },
-    {"ClosedQuotes",         {"'--say'=\"tw\"o' '"}, "two\\ words "                 },
-    {"Backslash",            {"--say=two\\ w"},      "two\\ words "                 },
-    {"BackslashAtEnd",       {"--comp\\"},           "--compare "                   },
-    {"BackslashInQuote",     {"\"--s\\ay=t"},        ""                             },
-    {"Special",              {"--say=d"},            "don\\'t\\ \\\"\\$\\(x\\)\\\" "},
-    {"Expansion",            {"--say=$t"},           ""                             },
-    {"ExpansionInQuote",     {"--say=\"$(t"},        ""                             },
-    {"QuotedWordBefore",     {"\"--say\"", "t"},     "two\\ words "                 },
+    {"BlankBehindName",      {"--compare"},                  "--compare "                   },
+    {"NoBlankBehindSign",    {"--lev"},                      "--level="                     },
+    {"Break",                {"--say=t"},                    "two\\ words "                 },
+    {"EscapedBreak",         {"--at\\=h"},                   "--at=h:80 "                   },
+    {"BreakThatStays",       {"--at=m"},                     "m@h "                         },
+    {"BehindBreakThatStays", {"--at=m@"},                    "@h "                          },
+    {"LastBreak",            {"--at=h:"},                    "80 "                          },
+    {"QuotedBreak",          {"'--at=h:8"},                  "--at=h:80"                    },
+    {"OpenQuote",            {"--say=\"t"},                  "two words"                    },
+    {"OpenSingleQuote",      {"--say", "'t"},                "two words"                    },
+    {"UnsayableInQuote",     {"--say", "'d"},                ""                             },
+    {"ClosedQuotes",         {"'--say'=\"tw\"o' '"},         "two\\ words "                 },
+    {"Backslash",            {"--say=two\\ w"},              "two\\ words "                 },
+    {"BackslashAtEnd",       {"--comp\\"},                   "--compare "                   },
+    {"BackslashInQuote",     {"\"--s\\ay=t"},                ""                             },
+    {"BackslashAtQuotedEnd", {"\"--say=two\\"},              ""                             },
+    {"EscapedInQuote",       {"--say", "\"don't \\\"\\$\""}, "don\\'t\\ \\\"\\$\\(x\\)\\\" "},
+    {"Special",              {"--say=d"},                    "don\\'t\\ \\\"\\$\\(x\\)\\\" "},
+    {"Expansion",            {"--say=$t"},                   ""                             },
+    {"ExpansionInQuote",     {"--say=\"$(t"},                ""                             },
+    {"QuotedWordBefore",     {"\"--say\"", "t"},             "two\\ words "                 },
 };
 
 void PrintTo(const BashRow& row, std::ostream* out) { *out << row.label; }
@@ -247,12 +255,13 @@ INSTANTIATE_TEST_SUITE_P(Words, Bash, testing::ValuesIn(bashRows), labelOf);
 
 TEST(Completion, ShowsOneLineOfHelpAndNothingThatATerminalObeys) {
     PlainTool tool;
-    tool->option("a", "One\tline\x1b.\nAnother.", vtNull, "");
+    tool->option("a", "One\tline\x1b\x7f.\nAnother.", vtNull, "");
     tool->option("b", (std::string(199, 'x') + "\xC3\xBC").c_str(), vtNull, "");
     tool->option("c\x1b", "", vtNull, "");
+    tool->option("d", std::string(201, '\xBC').c_str(), vtNull, "");
     tool.option("v").allowValue("x\ny").allowValue("z");
     EXPECT_EQ(complete(tool.parser, "fish", {"-"}),
-              "zarn 1\n-a\tOne line .\n-b\t" + std::string(199, 'x') + "\n-v=\t\n");
+              "zarn 1\n-a\tOne line  .\n-b\t" + std::string(199, 'x') + "\n-d\t\n-v=\t\n");
     EXPECT_EQ(complete(tool.parser, "fish", {"-v="}), "zarn 1\n-v=z\t\n");
 }
 

@@ -156,14 +156,18 @@ struct LineRow {
 };
 
 const LineRow lines[] = {
-    {{"sonde", "--zarn-answer", "describe"},            questionAnswered, true },
-    {{"sonde", "--zarn-answer", "describe", "--", "x"}, questionAnswered, true },
-    {{"sonde", "--zarn-answer", "describe", "x"},       ordinaryLine,     false},
-    {{"sonde", "--zarn-answer", "describe:2"},          questionAnswered, false},
-    {{"sonde", "--zarn-answer"},                        ordinaryLine,     false},
-    {{"sonde", "-zarn-answer", "describe"},             ordinaryLine,     false},
-    {{"sonde", "-q", "--zarn-answer", "describe"},      ordinaryLine,     false},
-    {{},                                                ordinaryLine,     false},
+    {{"sonde", "--zarn-answer", "describe"},                     questionAnswered, true },
+    {{"sonde", "--zarn-answer", "describe", "--", "x"},          questionAnswered, true },
+    {{"sonde", "--zarn-answer", "describe", "x"},                ordinaryLine,     false},
+    {{"sonde", "--zarn-answer", "describe:2"},                   questionAnswered, false},
+    {{"sonde", "--zarn-answer"},                                 ordinaryLine,     false},
+    {{"sonde", "--zarn-answer", "describe", nullptr},            questionAnswered, true },
+    {{"sonde", "--zarn-answer", "describe", "--", nullptr, "x"}, questionAnswered, true },
+    {{"sonde", "--zarn-answer", nullptr},                        ordinaryLine,     false},
+    {{"sonde", nullptr, "describe"},                             ordinaryLine,     false},
+    {{"sonde", "-zarn-answer", "describe"},                      ordinaryLine,     false},
+    {{"sonde", "-q", "--zarn-answer", "describe"},               ordinaryLine,     false},
+    {{},                                                         ordinaryLine,     false},
 };
 
 TEST(Question, IsAnsweredWhenNothingStandsInFrontOfIt) {

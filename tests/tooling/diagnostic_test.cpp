@@ -46,7 +46,8 @@ void write(const char* file, const std::string& content) { std::ofstream(file) <
 void declare(PlainTool& tool) {
     tool.option("level,l", vtS32);
     tool.option("mode").allowValue("fast").allowValue("thorough").allowDeprecatedValue("fats", "");
-    tool.option("tone").allowValue("loud").allowDeprecatedValue("loud", "thorough");
+    tool.option("tone").allowValue("loud").allowValue("lu,od").allowDeprecatedValue("loud",
+                                                                                    "thorough");
     tool.option("sizes,size", vtS32).tokenize(',').allowValue(1024).allowValue(2048);
     tool.option("color", vtBool);
     tool.option("cold", vtNull);
@@ -106,11 +107,12 @@ TEST(Diagnostics, TellEachFailureOfALine) {
         {{"--level", "-x"},               "7 2 1 [--level] level=-x"                                },
         {{"--text", "-x"},                "7 2 1 [--text] text=-x --text=-x"                        },
         {{"--text", "--col"},             "7 2 1 [--text] text=--col"                               },
+        {{"--text", "--cold"},            "7 2 1 [--text] text=--cold"                              },
         {{"--sizes=,"},                   "8 2 1 [--sizes=,] sizes=,"                               },
         {{"--level", "5x"},               "9 2 2 [5x] level=5x"                                     },
         {{"--sizes=1024,x"},              "9 2 1 [--sizes=1024,x] sizes=x"                          },
         {{"--mod=fsat"},                  "10 2 1 [--mod=fsat] mode=fsat (fast thorough) --mod=fast"},
-        {{"--tone=luod"},                 "10 2 1 [--tone=luod] tone=luod (loud)"                   },
+        {{"--tone=luod"},                 "10 2 1 [--tone=luod] tone=luod (loud lu,od)"             },
         {{"--mode", "through"},           "10 2 2 [through] mode=through (fast thorough) thorough"  },
         {{"--size=2048,1025,3"},
          "10 2 1 [--size=2048,1025,3] sizes=1025 (1024 2048) --size=2048,1024,3"                    },

@@ -42,7 +42,7 @@ protected:
         p.modifier("ink,k", "print", "Its colour #8.", vtString, "colour:What it looks like:");
         p.option("名前,n", "The name on the cover,\nin gold #9.", vtString, "colour");
         p.option("a-name-that-leaves-no-room-for-anything,x,no", "#10", vtU64, "Press");
-        p.option("q", "", vtNull, "Press");
+        p.option("q", "", vtNull, "Press").defaultValue(true);
         p.option("seed", "Begins the random numbers #11.", vtU32, "zarn_hidden");
         p.option("book", "averylongwordthatnolineofanordinarywidthhasaplacefor #12.", vtString, "")
             .positional();
@@ -242,12 +242,14 @@ TEST(FormattedHelpOf, AToolWithoutTitlesAndActionsNamesItsHiddenOptions) {
     plain->action("go", "Goes.", vtNull, "");
     plain->modifier("lost", "nowhere", "Of no action.", vtNull, "");
     plain->option("secret", "For us.", vtNull, "zarn_hidden");
+    plain->option("wet", "Rains.", vtBool, "").defaultValue(false);
     const HelpStyle style = styleOf(80, helpWithHidden);
     const char* text = nullptr;
     ASSERT_EQ(formatHelp(plain.parser, &style, &text), toolingDone);
     const std::string shown = text;
-    EXPECT_NE(shown.find("--lost     Of no action."), std::string::npos) << shown;
-    EXPECT_NE(shown.find("Hidden options:\n  --secret   For us."), std::string::npos) << shown;
+    EXPECT_NE(shown.find("--lost       Of no action."), std::string::npos) << shown;
+    EXPECT_NE(shown.find("--[no-]wet   Rains (default off)."), std::string::npos) << shown;
+    EXPECT_NE(shown.find("Hidden options:\n  --secret     For us."), std::string::npos) << shown;
 }
 
 TEST_F(FormattedHelp, SharesAUsageLineAmongManyActions) {
@@ -302,6 +304,8 @@ TEST(ColumnsOf, CountsWhatATerminalShows) {
         {"\xef\xbd\xb1\xed\x9e\xa4",         2}, // half-width, and behind the last of the wide
         {"\x1b[1;31mab\x1b[0m",              2},
         {"\x1b[2Ja",                         5}, // no emphasis
+        {"\x1b[1",                           3}, // cut short
+        {"\xf4\x8f\xbf\xbf",                 1}, // the last character
         {"\xff\xc0\x80",                     3}, // no UTF-8
         {"\xe6\x9c",                         2}, // cut short
         {"\xe6\x9c\xc3\xa9",                 3},

@@ -89,15 +89,15 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
          "'99999999999' value, requires a type 'integer' here: it must be between 1 and 64|"                                              },
         {{"--jobs=5x"},
          "Value validation problem in argument '--jobs=5x': Option 'jobs' can not parse '5x' "
-         "value, "
-         "requires a type 'integer' here.|"                                                                                               },
+         "value, requires a type 'integer' here.|"                                                                                        },
         {{"--jobs=x"},
          "Value validation problem in argument '--jobs=x': Option 'jobs' can not parse 'x' value, "
          "requires a type 'integer' here.|"                                                                                               },
         {{"--point=1:2;3"},
          "Value '1:2;3' is not valid for option 'point' in argument '--point=1:2;3': it must be "
-         "two "
-         "numbers, as in 3:4|"                                                                                                            },
+         "two numbers, as in 3:4|"                                                                                                        },
+        {{"--x': Option 'y' can not parse '5"},
+         "Unknown option: --x': Option 'y' can not parse '5|"                                                                             },
         {{"--jobs=", "3"},                                                     "Option 'jobs' requires a value in argument: '--jobs='|"   },
         {{"--jo ", "3"},                                                       "Option 'jobs' requires a value in argument: '--jo '|"     },
         {{"--quiet=", "a"},                                                    "quiet=1 file=a "                                          },
@@ -151,6 +151,7 @@ TEST(Variables, KnowWhereTheirValuesComeFrom) {
     EXPECT_EQ(result.origin("color"), Origin::environment);
     EXPECT_EQ(result.origin("timeout"), Origin::byDefault);
     EXPECT_EQ(result.origin("ratio"), Origin::absent);
+    EXPECT_THROW(static_cast<void>(result.origin("no-color")), std::logic_error);
     EXPECT_EQ(result.get<Bytes>("s")->count, 6u);
     EXPECT_EQ(result.get<std::chrono::milliseconds>("timeout"), std::chrono::milliseconds(1000));
     EXPECT_EQ(result.get<bool>("color"), true);
@@ -163,26 +164,27 @@ TEST(Variables, KnowWhereTheirValuesComeFrom) {
 TEST(Habits, AreTakenWhereNoNameSaysOtherwise) {
     expectOutcomes(
         {
-            {{"-qvj3", "a"},                          "jobs=3 quiet=1 verbosity=1 file=a "        },
-            {{"-vvj", "4", "-"},                      "jobs=4 verbosity=2 file=- "                },
-            {{"-qj=5"},                               "jobs=5 quiet=1 "                           },
-            {{"-s10K", "-l", "-2", "--ratio", "-.5"}, "level=-2 size=10240 ratio=-0.5 "           },
-            {{"--target", "-"},                       "target=- "                                 },
-            {{"--target=", "-"},                      "target=- "                                 },
-            {{"-qu"},                                 "quiet=1 "                                  },
-            {{"-qz"},                                 "Unknown option: -qz|"                      },
-            {{"-5"},                                  "Unknown option: -5|"                       },
+            {{"-qvj3", "a"},                                            "jobs=3 quiet=1 verbosity=1 file=a "},
+            {{"-vvj", "4", "-"},                                        "jobs=4 verbosity=2 file=- "        },
+            {{"-qj=5"},                                                 "jobs=5 quiet=1 "                   },
+            {{"-s10K", "-l", "-2", "--ratio", "-.5", "--number", "-3"},
+             "level=-2 size=10240 ratio=-0.5 number=-3 "                                                    },
+            {{"-q", nullptr, "--nowhere"},                              "quiet=1 "                          },
+            {{"--target", "-"},                                         "target=- "                         },
+            {{"--target=", "-"},                                        "target=- "                         },
+            {{"-qu"},                                                   "quiet=1 "                          },
+            {{"-qz"},                                                   "Unknown option: -qz|"              },
+            {{"-5"},                                                    "Unknown option: -5|"               },
             {{"--target", "-5"},
              "Option 'target' received value from the next argument: '-5', but it seems to be an "
-             "option. Use '-option=value' declaration form or make sure that value is not missed|"},
+             "option. Use '-option=value' declaration form or make sure that value is not missed|"          },
             {{"-vj0"},
              "Value '0' is not valid for option 'jobs' in argument '-vj0': it must be between 1 "
-             "and "
-             "64|"                                                                                },
-            {{"--level", "-4"},
-             "Value '-4' is not valid for option 'level' in argument '--level -4': it must be "
-             "between -3 and 32767|"                                                              },
-            {{"--", "-qv", "-"},                      "file=-qv file=- "                          },
+             "and 64|"                                                                                      },
+            {{"-ql", "-4"},
+             "Value '-4' is not valid for option 'level' in argument '-ql -4': it must be "
+             "between -3 and 32767|"                                                                        },
+            {{"--", "-qv", "-"},                                        "file=-qv file=- "                  },
     },
         unixHabits);
     expectOutcomes(
@@ -237,6 +239,7 @@ TEST(Rules, AreAskedBehindTheParse) {
             {{"-p", "--deep", "--must=1", "-v", "--ratio=1"},
              "Action '--pack' requires argument 'FILE'|"                                                         },
             {{"-p", "--deep", "--must=1", "-v", "--ratio=1", "a"},   "verbosity=1 ratio=1 file=a "               },
+            {{"--list", "--deep", "--must=1", "-v", "a"},            "verbosity=1 file=a "                       },
             {{"-s=1", "a"},                                          "No action defined.|"                       },
             {{"--list", "--deep", "-s=1"},                           "Option '--must' is required|"              },
             {{"--about", "-v"},                                      "verbosity=1 "                              },
@@ -292,12 +295,16 @@ TEST(PositionalItems, ShareTheArgumentsInOrder) {
     Positionals filed;
     filed.parser.readOptionFiles("");
     EXPECT_EQ(filed.parse({"3", "left", "a", "--option-file=typed_test.options"}), "3 left a b c ");
+    std::ofstream(OptionFile::name()) << "3\nright\n--name=left\n";
+    EXPECT_EQ(filed.parse({"--option-file=typed_test.options"}), "3 left ");
     Positionals negative;
     negative.parser.accept(unixHabits);
     EXPECT_EQ(
         negative.parse({"-5"}),
         "0  Value '-5' is not valid for option 'count' in argument '-5': it must be between 1 "
         "and 9");
+    negative.parser.declare({option("5", "")});
+    EXPECT_EQ(negative.parse({"-5"}), "0  Argument 'count' is required");
     std::string only;
     Parser single;
     single.declare({positional("only", "").into(only)});
@@ -316,9 +323,10 @@ TEST(PositionalItems, OfAGroupKeepTheirOwnKinds) {
                         positional("to", "")
                             .check([](const std::string& text) { return text != "x"; }, "no x")
                             .into(to),
-                        positional<int>("number", "").into(numbers)});
+                        positional<int>("number", "").fromEnvironment("TOOL_ANY").into(numbers)});
         const Result result = parser.parse(line.argc(), line.argv());
         std::string all = result.text() + from + ' ' + to;
+        all += result.origin("number") == Origin::environment ? " environment:" : "";
         for (const int number : numbers) {
             all += ' ' + std::to_string(number);
         }
@@ -326,6 +334,9 @@ TEST(PositionalItems, OfAGroupKeepTheirOwnKinds) {
     };
     EXPECT_EQ(parse({"a", "b", "1", "2"}), "a b 1 2");
     EXPECT_EQ(parse({"a"}), "a ");
+    const Variable number("TOOL_ANY", "7");
+    EXPECT_EQ(parse({"a", "b", "1"}), "a b 1");
+    EXPECT_EQ(parse({"a", "b"}), "a b environment: 7");
     EXPECT_EQ(parse({"a", "x", "1"}),
               "Value 'x' is not valid for option 'to' in argument 'x': no x ");
 }
@@ -346,7 +357,7 @@ TEST(FilesAndFolders, MustExistButForTheStandardInput) {
     const auto parse = [&](unsigned habits, const char* path, bool isFolder) {
         Parser parser;
         parser.accept(habits);
-        auto item = option<std::string>("path", "").into(file);
+        auto item = option<std::string>("path", "").into(file).byDefault("nowhere");
         parser.declare(
             {isFolder ? std::move(item).existingFolder() : std::move(item).existingFile()});
         const Line line{"--path", path};

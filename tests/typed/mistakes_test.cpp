@@ -37,6 +37,7 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
              p.declare({option("plain", "")});
          },                                                                       "'plain': the name 'plain' is taken by 'hush,plain'"             },
         {[](Parser& p) { p.declare({option("", "")}); },                                   "'': a name is empty"                                            },
+        {[](Parser& p) { p.declare({option(nullptr, "")}); },                              "'': a name is empty"                                            },
         {[](Parser& p) { p.declare({option("a,", "")}); },                                 "'a,': a name is empty"                                          },
         {[](Parser& p) { p.declare({option("--level", "")}); },
          "'--level': the name '--level' begins with a dash, or holds a blank or '='"                                                                        },
@@ -49,7 +50,7 @@ TEST(Mistakes, AreToldWithWhatAndWhere) {
         {[](Parser& p) { p.declare({option("level,l,lvl", "")}); },
          "'level,l,lvl': the third name, 'lvl', is longer than two bytes"                                                                                   },
         {[](Parser& p) {
-             p.declare({option<int>("a", "").allow({1, 2}).byDefault(3)});
+             p.declare({option<int>("a", "").allow({1, 2}).deprecate(3, 2).byDefault(3)});
          },                                                                       "'a': its default is refused: it is not among its allowed values"},
         {[](Parser& p) {
              static Mode mode;
@@ -136,7 +137,8 @@ TEST(Mistakes, ThatAreNoneOfTheDeclarationsAreFoundByACheck) {
     Settings settings;
     Parser flawless;
     declareSettings(flawless, settings);
-    EXPECT_EQ(flawless.check(), "");
+    flawless.declare({positional<int>("count", "How many.")});
+    EXPECT_EQ(flawless.check(nullptr), "");
     parser.declare({option<int>("c", "Help.").into(a)});
     EXPECT_THROW(parser.check(), std::logic_error);
 }

@@ -144,6 +144,7 @@ TEST(Conversions, OfQuantitiesAndCharactersAreExact) {
         {readAs<Nanoseconds>, "300000d",               "it must be at most 9223372036854775807ns"},
         {readAs<Nanoseconds>, "3us",                   "3000ns"                                  },
         {readAs<Days>,        "36h",                   "it must be a whole number of d"          },
+        {readAs<Days>,        "0.0001us",              "it must be a whole number of d"          },
         {readAs<Days>,        "48h",                   "2d"                                      },
         {readAs<Real>,        "250ms",                 "0.25s"                                   },
         {readAs<Real>,        "x",                     noDuration                                },

@@ -57,7 +57,7 @@ protected:
 };
 
 TEST_F(Run, GoesOnWhenThereIsSomethingToDo) {
-    const Ran ran = run(parser, {"--pack", "-j=3", "a"});
+    const Ran ran = run(parser, {"--pack", "-j=3", "a", nullptr, "--help"});
     EXPECT_EQ(ran.code, std::nullopt);
     EXPECT_EQ(settings.changed(), "jobs=3 file=a ");
     EXPECT_TRUE(parser.result().isGiven("pack"));
@@ -121,9 +121,9 @@ TEST_F(Run, FitsHelpToTheTerminal) {
 }
 
 TEST_F(Run, TellsWhyItEnds) {
-    expectFailure({"--bo\x1b\xc2\x9bgus\x7f"},
+    expectFailure({"--bo\x1b\xc2\x9bg\xc2\xa0us\x7f\xc2"},
                   exitUsage,
-                  "sonde: Unknown option: --bo\\x1b\\xc2\\x9bgus\\x7f\n");
+                  "sonde: Unknown option: --bo\\x1b\\xc2\\x9bg\xc2\xa0us\\x7f\xc2\n");
     expectFailure(
         {"--jobs=0"},
         exitUsage,
@@ -239,7 +239,21 @@ TEST(RunOf, AToolLeavesToItWhatItHasItself) {
                 StartsWith("Usage: tool [options] [--] count rest...\n\nArguments:\n  count "));
     const char* const none = nullptr;
     EXPECT_EQ(nameless.run(0, &none), exitUsage);
+    EXPECT_EQ(nameless.run(1, &none), exitUsage);
+    EXPECT_EQ(nameless.run(2, nullptr), exitInternal);
+    nameless.accept(unixHabits);
     EXPECT_STREQ(nameless.parse(2, nullptr).text(), "The argument vector is null");
+}
+
+TEST(RunOf, AToolShowsWhatEachActionTakes) {
+    Parser parser({"tool"});
+    parser.declare({action("list", ""), action("pack", "")});
+    parser.declare(
+        {positional("file", "pack", "").named("FILE"), modifier("deep", "pack", "").required()});
+    EXPECT_THAT(parser.help(),
+                StartsWith("Usage: tool --list\n       tool --pack --deep [--] [FILE...]\n\n"));
+    parser.declare({action("a", ""), action("b", ""), action("c", ""), action("d", "")});
+    EXPECT_THAT(parser.help(), StartsWith("Usage: tool ACTION [options] [--] [FILE...]\n\n"));
 }
 
 TEST(RunOf, AToolAnswersQuestionsFirst) {

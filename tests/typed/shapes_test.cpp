@@ -121,14 +121,19 @@ TEST(Shapes, ShowDefaultsThatTheyWouldTake) {
     Parser parser;
     parser.showDefaults();
     declareSorting(parser, sorting);
+    std::size_t lines = 5;
+    parser.declare({option<std::size_t>("lines", "").into(lines).byDefault(8u)});
     const std::string help = parser.help();
-    for (const char* shown :
-         {"(default plain)", "(default never)", "(default 3)", "-c, --color[=TEXT]  "}) {
+    for (const char* shown : {"(default plain)",
+                              "(default never)",
+                              "(default 3)",
+                              "(default 8)",
+                              "-c, --color[=TEXT]  "}) {
         EXPECT_THAT(help, testing::HasSubstr(shown));
     }
     EXPECT_THAT(help, testing::Not(testing::HasSubstr("(0)")));
     EXPECT_TRUE(parser.parse(0, nullptr));
-    EXPECT_EQ(sorting.list(), "plain never 3");
+    EXPECT_EQ(sorting.list() + std::to_string(lines), "plain never 38");
     // An empty text is no default, and none that a check of the vocabulary finds fault with.
     EXPECT_EQ(parser.check("no-help,tie,own-tie"), "");
 }
@@ -152,7 +157,7 @@ void declareSingle(Parser& parser, Single& single) {
         option("down", "").stores(single.way, 2),
         option("dot", "").stores(single.mark, ".").once(),
         option<std::string>("mark", "").into(single.mark),
-        option<std::string>("name", "").once(),
+        option<std::string>("name", "").allow({"a", "b"}).byDefault("").once(),
         option<int>("any", ""),
         option("about", "").alone(),
     });

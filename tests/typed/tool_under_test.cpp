@@ -27,7 +27,7 @@ std::string Settings::changed() const {
     add(out, "former", Conversion<Mode>::write(former), std::string("fast"));
     add(out, "timeout", timeout.count(), before.timeout.count());
     add(out, "target", target.string(), std::string());
-    for (const int number : numbers) {
+    for (const long number : numbers) {
         out << "number=" << number << ' ';
     }
     for (const std::string& file : files) {
@@ -64,7 +64,7 @@ void declareSettings(Parser& parser, Settings& settings) {
                 .into(settings.timeout)
                 .byDefault(),
             option<std::string>("target", "Where to.").into(settings.target),
-            option<int>("number", "Any.").cutAt(',').into(settings.numbers),
+            option<long>("number", "Any.").cutAt(',').into(settings.numbers),
             positional("file", "The files.").named("FILE").into(settings.files),
         });
     parser.readOptionFiles("Further options.");

@@ -72,7 +72,7 @@ struct Settings {
     Mode former = Mode::fast;
     std::chrono::milliseconds timeout{1000};
     std::filesystem::path target;
-    std::vector<int> numbers;
+    std::vector<long> numbers;
     std::vector<std::string> files{"none"};
 
     // What differs from a Settings of its own.

@@ -1,6 +1,5 @@
 #include "options/registered_option_storage.h"
 
-#include <algorithm>
 #include <exception>
 #include <utility>
 
@@ -109,11 +108,13 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
 
 // As a name or as the "no-" form of a boolean.
 const std::string_view* RegisteredOptionStorage::findTaken(const GivenNames& nameList) const {
-    const auto* const taken =
-        std::find_if(nameList.begin(), nameList.end(), [this](std::string_view name) {
-            return names().first(name) != NameIndex::none;
-        });
-    return taken != nameList.end() ? taken : nullptr;
+    const NameIndex& declared = names();
+    for (const std::string_view& name : nameList) {
+        if (declared.first(name) != NameIndex::none) {
+            return &name;
+        }
+    }
+    return nullptr;
 }
 
 result_t validateName(const GivenNames& names) {

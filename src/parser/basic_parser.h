@@ -111,7 +111,8 @@ private:
     int parseBehindOptions(internal::ParseDriver& driver,
                            internal::Arguments& arguments,
                            ParseResult& result);
-    internal::ParseDriver driverFor(ParseResult* result, std::string& error);
+    // Not three copies of what runs once in a parse.
+    [[gnu::noinline]] internal::ParseDriver driverFor(ParseResult* result, std::string& error);
     template <typename Write>
     const char* keptHelp(Write write);
 

@@ -46,6 +46,7 @@ ParseDriver::ParseDriver(RegisteredOptionStorage& registry,
     // Parses run inside each other when handlers parse. An atomic, since parsers in other threads
     // count here as well; they only get numbers that tell less.
     depth_.store(innermostParse() + 1, std::memory_order_relaxed);
+    binding_.texts.expect(registry.items().size());
 }
 
 ParseDriver::~ParseDriver() { depth_.store(innermostParse() - 1, std::memory_order_relaxed); }

@@ -34,6 +34,7 @@ int IArgumentParser::parse(std::vector<std::string>& args,
     if (option == nullptr) {
         return resultRuleBroken;
     }
+    binding_.texts.turnTo(optionIndex);
     return mayChange(*option, optionIndex, registry) ? bindCopy(*option, collector, error)
                                                      : bind(*option, collector, error);
 }

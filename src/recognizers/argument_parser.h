@@ -26,7 +26,7 @@ namespace internal {
 // What the recognisers of a parse share.
 struct Binding {
     OptionData occurrence;       // in progress; kept for the next one, which then allocates nothing
-    plinth2::SharedTexts texts;  // of values
+    plinth2::SharedTexts texts;  // of values, in a series for each item
 };
 
 }  // namespace internal

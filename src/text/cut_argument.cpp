@@ -1,6 +1,7 @@
 #include "text/cut_argument.h"
 
 #include <array>
+#include <cstdint>
 #include <locale>
 #include <stdexcept>
 
@@ -53,18 +54,13 @@ std::string_view withoutDashes(std::string_view argument) {
     return argument;
 }
 
-// A template, so that the test for the classic locale, which costs little, is part of the loop.
-template <typename IsEnd, typename IsSpace>
-bool splitAt(const std::string& argument,
+// `rest` is the argument from its name on, which ends at `end`.
+template <typename IsSpace>
+bool splitAt(std::string_view rest,
+             std::size_t end,
              std::string_view* name,
              std::string_view* value,
-             IsEnd isEnd,
              IsSpace isSpace) {
-    const std::string_view rest = withoutDashes(argument);
-    std::size_t end = 0;
-    while (end < rest.size() && !isEnd(rest[end])) {
-        ++end;
-    }
     *name = rest.substr(0, end);
     if (end == rest.size()) {
         return false;
@@ -81,6 +77,37 @@ bool splitAt(const std::string& argument,
     return true;
 }
 
+// A bit for each byte below 64 that may end a name: the sign, white space and a terminator.
+constexpr std::uint64_t endsOfNames() {
+    std::uint64_t ends = 1;
+    for (char c = '\1'; c < 64; ++c) {
+        ends |= std::uint64_t{c == '=' || internal::isClassicSpace(c)} << c;
+    }
+    return ends;
+}
+
+// All arguments come through here: letters pass with one comparison, the rest with one more.
+constexpr bool mayEndName(char c) {
+    constexpr std::uint64_t ends = endsOfNames();
+    const auto byte = static_cast<unsigned char>(c);
+    return ((ends >> (byte % 64)) & (byte < 64 ? 1U : 0U)) != 0;
+}
+
+// Where the name ends with which a text begins. There is a terminator behind the text.
+std::size_t endOfName(std::string_view text) {
+    const char* at = text.data();
+    const char* const end = at + text.size();
+    while (true) {
+        while (!mayEndName(*at)) {
+            ++at;
+        }
+        if (*at != '\0' || at == end) {
+            return static_cast<std::size_t>(at - text.data());
+        }
+        ++at;  // a NUL inside the text
+    }
+}
+
 // Few tools set a locale, so this one is to be small.
 [[gnu::cold, gnu::noinline]] bool splitAsLocaleHasIt(const std::string& argument,
                                                      std::string_view* name,
@@ -89,8 +116,12 @@ bool splitAt(const std::string& argument,
     const std::locale global;
     const auto& classes = std::use_facet<std::ctype<char>>(global);
     const auto isSpace = [&classes](char c) { return classes.is(std::ctype_base::space, c); };
-    const auto isEnd = [&isSpace](char c) { return c == '=' || isSpace(c); };
-    return splitAt(argument, name, value, isEnd, isSpace);
+    const std::string_view rest = withoutDashes(argument);
+    std::size_t end = 0;
+    while (end != rest.size() && rest[end] != '=' && !isSpace(rest[end])) {
+        ++end;
+    }
+    return splitAt(rest, end, name, value, isSpace);
 }
 
 }  // namespace
@@ -107,11 +138,8 @@ bool splitOptionValue(const std::string& argument,
                       std::string_view* value,
                       internal::TextLocale locale) {
     if (locale == internal::TextLocale::classic) {
-        // Most bytes of a name are behind both, and pass with one comparison.
-        const auto isEnd = [](char c) {
-            return c <= '=' && (c == '=' || internal::isClassicSpace(c));
-        };
-        return splitAt(argument, name, value, isEnd, internal::isClassicSpace);
+        const std::string_view rest = withoutDashes(argument);
+        return splitAt(rest, endOfName(rest), name, value, internal::isClassicSpace);
     }
     return splitAsLocaleHasIt(argument, name, value);
 }

@@ -196,6 +196,43 @@ TEST(Growth, OfBeginningsEndsWithTheNames) {
     EXPECT_LT(measure([&] { ASSERT_EQ(tool.parse(line), resultOk); }).bytes, 4 * bytesOfLine);
 }
 
+// With an item that is declared when the parse has begun.
+TEST(Texts, OfManyOccurrencesStayWithTheirItems) {
+    struct Declarer final : EventHandler {
+        explicit Declarer(PlainTool& made) : tool(made) {}
+        bool onUknownArgument(const char* argument) override {
+            tool.option(argument);
+            return false;
+        }
+        PlainTool& tool;
+    };
+    PlainTool tool;
+    Declarer declarer(tool);
+    tool->addHandler(&declarer);
+    tool.option("x"), tool.option("y");
+    constexpr std::size_t n = 1200;
+    const std::string filling(200, 'v');  // so that these are many
+    Words line{"late"};
+    for (std::size_t i = 0; i < n; ++i) {
+        for (const char* const name : {"-x=", "-y=", "-late="}) {
+            line.push_back(numbered(name + filling, i));
+        }
+    }
+    ASSERT_EQ(tool.parse(line), resultOk);
+    std::vector<variant_t> kept;
+    for (const char* const name : {"x", "y", "late"}) {
+        for (Value v = tool.result->get(name, 0, INT_MAX); v.status == 0;
+             v = tool.result->next(name)) {
+            kept.push_back(v.value);
+        }
+    }
+    tool.startNewResult();
+    ASSERT_EQ(kept.size(), 3 * n);
+    for (std::size_t i = 0; i < kept.size(); ++i) {
+        EXPECT_EQ(kept[i].get<std::string>(), numbered(filling, i % n));
+    }
+}
+
 TEST(Default, IsKeptOnceByAResult) {
     PlainTool tool;
     tool.option("x,y").defaultValue("text");

@@ -44,8 +44,9 @@ void conclude(StoredOutcome& outcome, int code) {
     std::string error;
     if (code != resultOk) {
         // The plain text comes first: it is the same for every tool. The face knows the reason.
-        error = vocabulary.watch().explained(vocabulary.plain().getErrorDesc());
-        refine(vocabulary.plain().failure(), vocabulary.watch().told().get());
+        FailureNote& failure = vocabulary.plain().failure();
+        error = vocabulary.watch().explained(vocabulary.plain().getErrorDesc(), failure.get());
+        refine(failure, vocabulary.watch().told().get());
     }
     // Nobody wants to hear of a missing action who has asked for "--about".
     const bool isAlone = isAloneGiven(outcome);

@@ -32,15 +32,15 @@ private:
     const ItemRecord& item_;
 };
 
-// Whether what stands here, up to a quote, looks like a number of this type, though it is none: it
-// is then beyond its bounds.
+// Whether the text looks like a number of this type, though it is none: it is then beyond its
+// bounds.
 bool looksLikeNumber(const char* text, das_variant_type_t type) {
     text += std::strspn(text, "+-") == 1 ? 1 : 0;
     const char* const marks = type == vtDouble ? "0123456789.eE+-" : "0123456789";
     const char* const end = text + std::strspn(text, marks);
     char* read = nullptr;
     std::strtod(text, &read);
-    return end != text && read == end && *end == '\'';
+    return end != text && read == end && *end == '\0';
 }
 
 }  // namespace
@@ -88,7 +88,7 @@ int ParseWatch::parseAside(const ItemRecord& item,
         failure->index = 0;
         retype(*failure, typed);
     }
-    error = code == resultOk ? "" : explained(parser.getErrorDesc());
+    error = code == resultOk ? "" : explained(parser.getErrorDesc(), parse_.told.get());
     const std::size_t quoted = error.find(argument);
     if (quoted != std::string::npos) {
         error.replace(quoted, argument.size(), typed);
@@ -108,50 +108,32 @@ ParseWatch::Session::Session(ParseWatch& watch,
     watch.parse_.positionalCount = given == nullptr ? 0 : given->size();
 }
 
-std::string ParseWatch::explained(std::string message) const {
-    // From what is known best to what has to be guessed from the text.
+std::string ParseWatch::explained(std::string message, const Failure* failure) const {
     if (!parse_.instead.empty()) {
         return parse_.instead;
     }
     if (!parse_.reason.empty()) {
         return messages::withReason(message, parse_.reason);
     }
-    if (const ItemRecord* const action = actionWithoutPlace(message)) {
-        return messages::takesNo(*action, *vocabulary_.positionals().front());
-    }
-    // A number that does not fit: "...: Option 'jobs' can not parse '99999999999' value, ..."
-    constexpr std::string_view beforeName = "': Option '";
-    constexpr std::string_view beforeValue = "' can not parse '";
-    const std::size_t name = message.find(beforeName);
-    const std::size_t end = message.find(beforeValue);
-    if (end == std::string::npos || name >= end) {
+    const ItemRecord* const item = failure == nullptr ? nullptr : vocabulary_.find(failure->option);
+    if (item == nullptr) {
         return message;
     }
-    const std::size_t first = name + beforeName.size();
-    const ItemRecord* const item =
-        vocabulary_.find(std::string_view(message).substr(first, end - first));
-    const char* const value = message.c_str() + end + beforeValue.size();
+    // Nobody has typed the name of a positional item: it is told otherwise that an action takes
+    // none.
+    const auto& positionals = vocabulary_.positionals();
+    if (failure->kind == actionRefusesOption && !positionals.empty() &&
+        item == positionals.front()) {
+        const ItemRecord* const action = vocabulary_.find(failure->value);
+        return action == nullptr ? message : messages::takesNo(*action, *item);
+    }
     // A word is told that a number is wanted; a number that does not fit, which ones do.
-    if (item != nullptr && item->isBounded() && looksLikeNumber(value, item->type)) {
+    if (failure->kind == valueOfOtherType && item->isBounded() &&
+        looksLikeNumber(failure->value.c_str(), item->type)) {
         message.pop_back();  // its full stop
         return messages::withReason(message, item->boundsText());
     }
     return message;
-}
-
-// Nobody has typed the name of a positional item: it is told otherwise that an action takes none.
-const ItemRecord* ParseWatch::actionWithoutPlace(const std::string& message) const {
-    const auto& positionals = vocabulary_.positionals();
-    if (positionals.empty() || !positionals.front()->isModifier()) {
-        return nullptr;
-    }
-    const auto& items = vocabulary_.items();
-    const auto action = std::find_if(items.begin(), items.end(), [&](const auto& item) {
-        return item->role == Role::action &&
-               message == messages::actionRefusesOption(item->primaryName(),
-                                                        positionals.front()->primaryName());
-    });
-    return action != items.end() ? action->get() : nullptr;
 }
 
 bool ParseWatch::routesPositionals() const {

@@ -62,8 +62,9 @@ public:
     // What is known of a value that was refused in this parse.
     FailureNote& told() { return parse_.told; }
 
-    // The message of a failed parse, and what is known beyond it.
-    std::string explained(std::string message) const;
+    // The message of a failed parse, and what is known beyond it. `failure`: as the parser noted
+    // it, or null.
+    std::string explained(std::string message, const Failure* failure) const;
 
     bool accepts(const ItemRecord& item, const Value& value);
 
@@ -79,7 +80,6 @@ public:
     bool onValueParse(const char* name, const Value& value) override;
 
 private:
-    const ItemRecord* actionWithoutPlace(const std::string& message) const;
     bool routesPositionals() const;
     bool takePositional(const Value& value);
     bool refusePositional(const ItemRecord& item, const Value& value);

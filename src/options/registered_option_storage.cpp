@@ -108,9 +108,8 @@ IOption& RegisteredOptionStorage::declare(const Declaration& given) {
 
 // As a name or as the "no-" form of a boolean.
 const std::string_view* RegisteredOptionStorage::findTaken(const GivenNames& nameList) const {
-    const NameIndex& declared = names();
     for (const std::string_view& name : nameList) {
-        if (declared.first(name) != NameIndex::none) {
+        if (names().first(name) != NameIndex::none) {
             return &name;
         }
     }

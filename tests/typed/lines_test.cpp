@@ -96,8 +96,12 @@ TEST(Variables, TakeTheValuesOfAParseThatWentWell) {
         {{"--point=1:2;3"},
          "Value '1:2;3' is not valid for option 'point' in argument '--point=1:2;3': it must be "
          "two numbers, as in 3:4|"                                                                                                        },
-        {{"--x': Option 'y' can not parse '5"},
-         "Unknown option: --x': Option 'y' can not parse '5|"                                                                             },
+        {{"--x': Option 'jobs' can not parse '5' v"},
+         "Unknown option: --x': Option 'jobs' can not parse '5' v|"                                                                       },
+        {{"--jobs=9x': Option 'level' can not parse '99999"},
+         "Value validation problem in argument '--jobs=9x': Option 'level' can not parse '99999': "
+         "Option 'jobs' can not parse '9x': Option 'level' can not parse '99999' value, requires a "
+         "type 'integer' here.|"                                                                                                          },
         {{"--jobs=", "3"},                                                     "Option 'jobs' requires a value in argument: '--jobs='|"   },
         {{"--jo ", "3"},                                                       "Option 'jobs' requires a value in argument: '--jo '|"     },
         {{"--quiet=", "a"},                                                    "quiet=1 file=a "                                          },

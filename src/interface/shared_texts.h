@@ -26,7 +26,7 @@ public:
     SharedTexts& operator=(const SharedTexts&) = delete;
     ~SharedTexts();
 
-    // How many series are to come; for none at first.
+    // How many series are to come. To be called before the first text, if at all.
     void expect(std::size_t series) noexcept { allSeries_ = series; }
 
     // The texts that follow are of this series, counted from 0. One that is none of all shares

@@ -2,13 +2,11 @@
 // their own.
 
 #include <gmock/gmock.h>
-#include <unistd.h>
 
 #include <algorithm>
 #include <array>
 #include <cstdio>
 #include <cstdlib>
-#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <regex>
@@ -19,11 +17,10 @@
 #include "mdoc_writer.h"
 #include "nasty_descriptions.h"
 #include "page_text.h"
+#include "support/scratch_folder.h"
 
 namespace vocabulary {
 namespace {
-
-namespace fs = std::filesystem;
 
 using testing::HasSubstr;
 
@@ -49,20 +46,15 @@ protected:
         GTEST_SKIP() << program << " is missing";
     }
 
-    void SetUp() override {
-        directory_ = fs::temp_directory_path() / ("zarn_pages." + std::to_string(getpid()));
-        fs::create_directories(directory_);
-    }
-    void TearDown() override { fs::remove_all(directory_); }
+    // With a slash, by which programs tell it from the name of a page.
+    static std::string file(const std::string& name) { return "./" + name; }
 
-    std::string file(const std::string& name) const { return (directory_ / name).string(); }
-
-    void write(const std::string& name, const std::string& page) const {
+    static void write(const std::string& name, const std::string& page) {
         std::ofstream(file(name)) << page;
     }
 
 private:
-    fs::path directory_;
+    zarn_3_3::testing_support::ScratchFolder folder_;
 };
 
 // Without what programs add to fit a text into lines.

@@ -1,7 +1,7 @@
 // A folder of its own for a test: others run beside it, and so may the same test of another build.
 
-#ifndef ZARN_SUPPORT_SCRATCH_FOLDER_H
-#define ZARN_SUPPORT_SCRATCH_FOLDER_H
+#ifndef ZARN_TESTS_SUPPORT_SCRATCH_FOLDER_H
+#define ZARN_TESTS_SUPPORT_SCRATCH_FOLDER_H
 
 #include <gtest/gtest.h>
 #include <stdlib.h>
@@ -33,4 +33,4 @@ private:
 
 }  // namespace zarn_3_3::testing_support
 
-#endif  // ZARN_SUPPORT_SCRATCH_FOLDER_H
+#endif  // ZARN_TESTS_SUPPORT_SCRATCH_FOLDER_H
